@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QIODevice>
+#include <QObject>
+#include <QProcess>
+#include <QUrl>
+
+/// The archive of one update: how its bytes get to local storage and how it is installed.
+/// Works in the process's current directory, which the install procedure chooses.
+class ArchiveBaseClass : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Thrown by value from extract().
+    enum Exception_t {
+        NotExtractable = 2,
+    };
+
+    explicit ArchiveBaseClass(const QUrl &url, QObject *parent = nullptr);
+    ~ArchiveBaseClass() override;
+
+    const QUrl &url() const { return m_url; }
+
+    virtual bool urlIsHandled() const = 0;
+    /// Whether the archive's bytes pass through extract() before install().
+    virtual bool useExtract() const = 0;
+    /// Copies or unpacks `source` into the current directory; false leaves nothing half done there.
+    virtual bool extract(QIODevice *source) const = 0;
+    /// Starts the installation in `proc` and does not wait for it.
+    virtual void install(QProcess *proc) = 0;
+    /// A proxy for installers that fetch by themselves.
+    virtual void setProxy(const QString &host, int port) = 0;
+
+Q_SIGNALS:
+    void installStarted();
+
+protected:
+    QUrl m_url;
+    QString m_proxyHost;
+    int m_proxyPort = -1;
+
+private:
+    Q_DISABLE_COPY_MOVE(ArchiveBaseClass)
+};

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "core/RVLimits.h"
+#include "core/RVPaths.h"
+#include "repository/RVData.h"
+
+#include <QList>
+#include <QMap>
+#include <QNetworkProxy>
+#include <QNetworkReply>
+#include <QProcess>
+#include <QSslError>
+#include <QVector>
+
+#include <memory>
+
+class TemporaryDir;
+
+/// Downloads and unpacks a batch of updates and is itself the process in which their installer runs.
+/// Its final signal is QProcess's finished(), or errorOccurred(FailedToStart) when there was no
+/// installer to start. It must not be destroyed while the installer runs; if it is, it waits: a dpkg
+/// whose reader goes away leaves packages half-installed.
+class RVInstallProc : public QProcess
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(RVInstallProc)
+
+public:
+    /// The credentials go into ftp URLs, and only when both are set. Nothing is started.
+    RVInstallProc(const QList<RVData> &entries, const QString &user, const QString &password,
+                  QObject *parent = nullptr, const RVPaths &paths = {});
+    explicit RVInstallProc(const RVData &entry, QObject *parent = nullptr,
+                           const RVPaths &paths = {});
+    ~RVInstallProc() override;
+
+    /// Written before start(); a port of 0 or less means no proxy.
+    QString proxyHost;
+    int proxyPort = -2;
+
+public Q_SLOTS:
+    /// Starts the downloads, or the installation at once when the first archive is not extracted.
+    void start();
+    /// Ends the downloads and reports finished(1, CrashExit). A running installer is left alone.
+    void cancel();
+
+Q_SIGNALS:
+    void extractFinished();
+    void networkError(const QNetworkReply *reply);
+    void authenticationRequired(QNetworkReply *reply, QAuthenticator *auth);
+    void proxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *auth);
+    void sslErrors(QNetworkReply *reply, const QList<QSslError> &errors);
+    void installStarted();
+    /// Bytes of the whole batch, measured against what the descriptors announce; never above it.
+    void downloadProgress(qint64 bytesReceived, qint64 bytesTotal);
+
+private Q_SLOTS:
+    void incExtractFinished();
+    void startInstallation();
+    void deleteSenderLater(QNetworkReply *reply);
+    void relayNetworkError(QNetworkReply::NetworkError err);
+    void relayAuthenticationRequired(QNetworkReply *reply, QAuthenticator *auth);
+    void relayProxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *auth);
+    void relaySslErrors(QNetworkReply *reply, const QList<QSslError> &errors);
+    void replyDestroyed(QObject *obj);
+    void relayInstallStarted();
+    void progress(qint64 bytesReceived, qint64 bytesTotal);
+
+private:
+    const RVPaths m_paths;
+    QList<QUrl> m_urls;
+    QList<ArchiveGeneric *> m_archives;
+    QList<DescriptorGeneric *> m_descriptors;
+    std::unique_ptr<TemporaryDir> m_temporaryDir;
+    QMap<ArchiveGeneric *, QNetworkReply *> m_pending;
+    QString m_user;
+    QString m_password;
+    QVector<QNetworkReply *> m_replies;
+    QVector<qint64> m_received;
+    qint64 m_expectedTotal = 0;
+};

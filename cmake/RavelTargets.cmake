@@ -1,0 +1,72 @@
+# SPDX-FileCopyrightText: 2026 Ravel developers
+# SPDX-License-Identifier: GPL-2.0-or-later
+option(RAVEL_WERROR "warnings are errors" OFF)
+set(RAVEL_SANITIZERS "" CACHE STRING "comma separated -fsanitize list")
+
+# Compiler flags of everything that is ours.
+add_library(ravel_flags INTERFACE)
+target_compile_features(ravel_flags INTERFACE cxx_std_17)
+target_compile_options(ravel_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wcast-align -Wformat-security -Wnon-virtual-dtor -Woverloaded-virtual
+  -Wsuggest-override -Wundef -Wvla -Wzero-as-null-pointer-constant
+  $<$<CXX_COMPILER_ID:GNU>:-Wlogical-op>
+  $<$<BOOL:${RAVEL_WERROR}>:-Werror>)
+target_compile_definitions(ravel_flags INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_CAST_FROM_BYTEARRAY
+  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH QT_NO_KEYWORDS QT_STRICT_ITERATORS
+  _FILE_OFFSET_BITS=64)
+if(RAVEL_SANITIZERS)
+  target_compile_options(ravel_flags INTERFACE -fsanitize=${RAVEL_SANITIZERS} -fno-omit-frame-pointer)
+  target_link_options(ravel_flags INTERFACE -fsanitize=${RAVEL_SANITIZERS})
+endif()
+
+function(ravel_target_defaults target)
+  set_target_properties(${target} PROPERTIES
+    AUTOMOC ON AUTORCC ON POSITION_INDEPENDENT_CODE ON CXX_EXTENSIONS OFF
+    CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+endfunction()
+
+# ravel_add_component(<folder> SOURCES ... [LINK ...] [PRIVATE_LINK ...])
+# One folder of the library as objects; LINK is what its headers need, and so what its users get.
+function(ravel_add_component name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PRIVATE_LINK" ${ARGN})
+  add_library(ravel_${name} OBJECT ${ARG_SOURCES})
+  add_library(Ravel::${name} ALIAS ravel_${name})
+  ravel_target_defaults(ravel_${name})
+  target_include_directories(ravel_${name} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(ravel_${name} PUBLIC ${ARG_LINK} PRIVATE ravel_flags ${ARG_PRIVATE_LINK})
+endfunction()
+
+# ravel_bundle(<target> FOLDERS ... LINK ...): the objects of these folders as one library.
+function(ravel_bundle target)
+  cmake_parse_arguments(ARG "" "" "FOLDERS;LINK" ${ARGN})
+  set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_EXTENSIONS OFF)
+  target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
+  foreach(folder IN LISTS ARG_FOLDERS)
+    target_sources(${target} PRIVATE $<TARGET_OBJECTS:ravel_${folder}>)
+  endforeach()
+  target_link_libraries(${target} PUBLIC ${ARG_LINK} PRIVATE ravel_flags)
+endfunction()
+
+# ravel_add_test(<Class> LABELS <folder> <kind> [ENGINE] [LINK ...] [LOCK ...] [TIMEOUT s])
+# builds tst_<Class>.cpp and runs it as ctest "<folder>.<Class>" with a HOME of its own.
+# ENGINE links the engine alone: such a test cannot use a widget.
+function(ravel_add_test name)
+  cmake_parse_arguments(ARG "ENGINE" "TIMEOUT" "SOURCES;LINK;LABELS;LOCK;ENVIRONMENT" ${ARGN})
+  cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
+  set(home ${CMAKE_CURRENT_BINARY_DIR}/home_${name})
+  file(MAKE_DIRECTORY ${home})
+  add_executable(tst_${name} tst_${name}.cpp ${ARG_SOURCES})
+  set_target_properties(tst_${name} PROPERTIES AUTOMOC ON CXX_EXTENSIONS OFF)
+  target_include_directories(tst_${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  if(ARG_ENGINE)
+    target_link_libraries(tst_${name} PRIVATE ravel_test_support Ravel::engine Qt5::Test ${ARG_LINK} ravel_flags)
+  else()
+    target_link_libraries(tst_${name} PRIVATE ravel_test_support Ravel::testable Qt5::Test Qt5::Widgets ${ARG_LINK} ravel_flags)
+  endif()
+  target_compile_definitions(tst_${name} PRIVATE QT_FORCE_ASSERTS RAVEL_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
+  add_test(NAME ${folder}.${name} COMMAND tst_${name})
+  set_tests_properties(${folder}.${name} PROPERTIES
+    LABELS "${ARG_LABELS}" RESOURCE_LOCK "${ARG_LOCK}" TIMEOUT "${ARG_TIMEOUT}"
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/.config;XDG_RUNTIME_DIR=${home};TMPDIR=${home};http_proxy=;https_proxy=;ftp_proxy=;HTTP_PROXY=;HTTPS_PROXY=;no_proxy=;${ARG_ENVIRONMENT}")
+endfunction()

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "core/OSInfoBaseClass.h"
+#include "core/RVPaths.h"
+
+#include <memory>
+
+/// The running system: its image, service packs, hardware model and package database.
+/// Construction waits at most a second, for the hardware tool.
+class OSInfo : public OSInfoBaseClass
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(OSInfo)
+
+public:
+    /// Throws OSInfoBaseClass::ImageIdUnreadable when the image identification is not readable.
+    explicit OSInfo(QObject *parent = nullptr, const RVPaths &paths = {});
+    ~OSInfo() override;
+
+    VersionString baseOSName() const override;
+    QList<VersionString> servicePackList() const override;
+    QString versionInstalled(const QString &packageName) const override;
+    QString architecture() const override;
+    QString thinClient() const override;
+
+public Q_SLOTS:
+    void refresh() override;
+
+private:
+    struct PackageCache;
+
+    void readThinClientModel();
+    void readImageId();
+    void readServicePacks();
+    void readPackageCache();
+
+    const RVPaths m_paths;
+    VersionString m_baseOS;
+    QList<VersionString> m_servicePacks;
+    std::unique_ptr<PackageCache> m_packages;
+    QString m_arch;
+    QString m_thinClientModel;
+};

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "core/RVPaths.h"
+
+#include <QObject>
+
+#include <cstdio>
+
+/// Handle onto the process's one log file; made on the stack wherever something is to be logged.
+/// Levels: 0 fatal, 2 severe configuration problem, 3 error, 4 warning, 5 progress; a lower number is
+/// more serious. A log that cannot be written is silently off: no caller ever sees an error.
+/// GUI thread only.
+class RVLogger : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(RVLogger)
+
+public:
+    /// Opens the log if it is not open yet.
+    explicit RVLogger(QObject *parent = nullptr);
+
+    /// Writes one entry if `level` is at most m_level. `format` and arguments are printf's.
+    void log(int level, const char *format, ...) Q_ATTRIBUTE_FORMAT_PRINTF(3, 4);
+    /// An entry without a level: written while m_level is above 5.
+    void log(const char *format, ...) Q_ATTRIBUTE_FORMAT_PRINTF(2, 3);
+
+    /// Opens the log for appending and writes its header. Returns null when the place is not writable
+    /// or holds anything but a regular file of our own with one link. The caller keeps the stream.
+    static std::FILE *open();
+    /// Closes the log; the next entry opens it again, with a new header.
+    static void close();
+    /// Moves the log to where `paths` says, closing one that is open elsewhere.
+    static void setPaths(const RVPaths &paths);
+
+    /// The open log, or null.
+    static std::FILE *m_stream;
+    /// The highest level that is written.
+    static int m_level;
+};

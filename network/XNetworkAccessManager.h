@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QList>
+#include <QNetworkAccessManager>
+#include <QNetworkProxy>
+#include <QNetworkReply>
+#include <QSslError>
+
+class NetworkDirRequest;
+class XNetworkReply;
+
+/// Qt's network access manager with one more operation, the listing of a directory. Redirects are not
+/// followed and HTTP/2 is off.
+class XNetworkAccessManager : public QNetworkAccessManager
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(XNetworkAccessManager)
+
+public:
+    explicit XNetworkAccessManager(QObject *parent = nullptr);
+    ~XNetworkAccessManager() override;
+
+    /// Starts a listing; never null. A backend may finish inside the call, so connect to
+    /// directoryFinished() before it.
+    XNetworkReply *getDirectory(const NetworkDirRequest &request);
+    /// "", "ftp", "file", "http" and "https", in any letter case.
+    bool schemeIsSupported(const QString &scheme) const;
+
+public Q_SLOTS:
+    void relayAuthenticationRequired(QNetworkReply *reply, QAuthenticator *auth);
+    void relayProxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *auth);
+    void relayFinished(QNetworkReply *reply);
+    void relaySslErrors(QNetworkReply *reply, const QList<QSslError> &errors);
+
+Q_SIGNALS:
+    /// Once for each getDirectory(); the receiver releases the reply.
+    void directoryFinished(XNetworkReply *reply);
+
+private Q_SLOTS:
+    void emitDirectoryFinished(XNetworkReply *reply);
+
+private:
+    /// Each with a backend that outlives the reply it made, so that late signals are safe.
+    QList<NetworkDirRequest *> m_requests;
+};

@@ -1,0 +1,3 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include <plume/AccordionItem.h>

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <plume/PlumeExport.h>
+
+#include <QString>
+
+/// A directory of its own under the system's temporary one, mode 0700, removed with its contents on
+/// destruction. The removal never follows a symbolic link out of the directory.
+class PLUME_EXPORT TemporaryDir
+{
+public:
+    TemporaryDir();
+    ~TemporaryDir();
+
+    /// False when the directory could not be made.
+    bool isValid() const { return !m_path.isEmpty(); }
+    /// Absolute; empty when not valid.
+    const QString &path() const { return m_path; }
+    /// Makes it the process's current directory.
+    bool cdTo() const;
+
+private:
+    Q_DISABLE_COPY_MOVE(TemporaryDir)
+
+    QString m_path;
+};

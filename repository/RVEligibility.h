@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "core/OSInfoBaseClass.h"
+#include "repository/RVData.h"
+
+#include <QList>
+
+/// Why an entry is offered on a system, or the first reason why it is not.
+enum class RVEligibility {
+    Offered,
+    NoDescriptor,
+    OtherBaseRelease,
+    OtherArchitecture,
+    OtherThinClient,
+    ServicePackInstalled,
+};
+
+/// The tests in their order; `filterSps` adds the last one.
+RVEligibility eligibility(const RVData &entry, const OSInfoBaseClass &system, bool filterSps);
+/// The entries that fit, in their order.
+QList<RVData> offeredEntries(const QList<RVData> &entries, const OSInfoBaseClass &system,
+                             bool filterSps);

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "core/RVPaths.h"
+#include "network/XUrlInfo.h"
+#include "repository/RVData.h"
+#include "repository/RVSort.h"
+
+#include <QAuthenticator>
+#include <QList>
+#include <QNetworkProxy>
+#include <QNetworkReply>
+#include <QObject>
+#include <QRegExp>
+#include <QSslError>
+#include <QUrl>
+
+class QSettings;
+class RVDescFetch;
+class RVFilter;
+class XNetworkReply;
+
+/// One update repository at run time: where it is, what it lists, and its current entries.
+/// refresh() ends with refreshDone(), or with networkError() alone when the listing failed.
+class RVRepository : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(RVRepository)
+
+public:
+    /// The location is what the settings hold under `settingsKey`, else `defaultUrl`.
+    RVRepository(const QString &organisation, const QString &application,
+                 const QString &settingsKey, const QUrl &defaultUrl, const QString &description,
+                 SortKey sortKey, QObject *parent = nullptr, const RVPaths &paths = {});
+    ~RVRepository() override;
+
+    void addFilter(const QRegExp &archive, const QRegExp &descriptor);
+
+    const QUrl &url() const { return m_url; }
+    const QUrl &defaultUrl() const { return m_defaultUrl; }
+    const QString &settingsKey() const { return m_settingsKey; }
+    const QString &description() const { return m_description; }
+    const QList<RVData> &entries() const { return m_entries; }
+    const QString &user() const { return m_user; }
+    const QString &password() const { return m_password; }
+    const QString &proxyHost() const { return m_proxyHost; }
+    int proxyPort() const { return m_proxyPort; }
+    /// Used from the next refresh on; an empty host or a port of 0 or less means no proxy.
+    void setProxy(const QString &host, int port);
+
+public Q_SLOTS:
+    /// Stores a location that differs from the default, and forgets the stored one if it does not.
+    void setUrl(const QUrl &url);
+    void setUrl(const QString &urlStr);
+    /// A second refresh drops what the first has still under way.
+    void refresh();
+    void cancel();
+    void setAuthenticationCredentials(const QString &user, const QString &password);
+
+Q_SIGNALS:
+    void refreshDone(QNetworkReply::NetworkError error);
+    void networkError(const QNetworkReply *reply);
+    void authenticationRequired(QNetworkReply *reply, QAuthenticator *auth);
+    void proxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *auth);
+    void sslErrors(QNetworkReply *reply, const QList<QSslError> &errors);
+    void cancelRefresh();
+
+private Q_SLOTS:
+    void attemptAuthentication(QNetworkReply *reply, QAuthenticator *auth);
+    void directoryFinished(XNetworkReply *reply);
+    void descFetchFinished();
+    void relayNetworkError(const QNetworkReply *reply);
+    void relayNetworkError(QNetworkReply::NetworkError error);
+    void relayProxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *auth);
+    void relaySslErrors(QNetworkReply *reply, const QList<QSslError> &errors);
+    void deleteSenderLater(XNetworkReply *reply);
+
+private:
+    void filter();
+    void fetchDescriptors();
+
+    const RVPaths m_paths;
+    QSettings *m_settings;
+    QString m_settingsKey;
+    QUrl m_defaultUrl;
+    QString m_description;
+    QList<XUrlInfo> m_listing;
+    QUrl m_url;
+    QList<RVData> m_entries;
+    QList<RVFilter *> m_filters;
+    RVDescFetch *m_descFetch = nullptr;
+    QNetworkReply::NetworkError m_error = QNetworkReply::NoError;
+    SortKey m_sortKey;
+    QString m_proxyHost;
+    int m_proxyPort = 0;
+    QString m_user;
+    QString m_password;
+};

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "tests/support/LogFile.h"
+
+#include "core/RVLogger.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+LogFile::LogFile()
+{
+    RVPaths paths;
+    paths.rootLog = paths.userLog = path();
+    RVLogger::setPaths(paths);
+}
+
+LogFile::~LogFile()
+{
+    RVLogger::close();
+    RVLogger::setPaths({});
+}
+
+QString LogFile::path() const
+{
+    return m_dir.filePath(QStringLiteral("Ravel.log"));
+}
+
+QByteArray LogFile::raw() const
+{
+    QFile file(path());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList LogFile::lines() const
+{
+    static const QRegularExpression stamp(QStringLiteral("^\\d{6}:\\d{6}: "));
+    static const QString separator(54, QLatin1Char('-'));
+    QStringList result;
+    bool dateFollows = false;
+    const QStringList all = QString::fromUtf8(raw()).split(QLatin1Char('\n'));
+    for (QString line : all.mid(0, all.size() - 1)) {
+        if (line == separator) {
+            dateFollows = true;
+        } else if (dateFollows) {
+            dateFollows = false;
+        } else {
+            result.append(line.remove(stamp));
+        }
+    }
+    return result;
+}
+
+void LogFile::clear()
+{
+    RVLogger::close();
+    QFile::remove(path());
+}

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "core/RVPaths.h"
+
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// Sends the process's log to a private place for as long as it lives, and reads it back.
+class LogFile
+{
+public:
+    LogFile();
+    ~LogFile();
+
+    QString path() const;
+    /// The file as it stands, header and time stamps included.
+    QByteArray raw() const;
+    /// The entries' texts without header and time stamps; a continuation line is an element of its own.
+    QStringList lines() const;
+    bool contains(const QString &line) const { return lines().contains(line); }
+    int count(const QString &line) const { return static_cast<int>(lines().count(line)); }
+    void clear();
+
+private:
+    Q_DISABLE_COPY_MOVE(LogFile)
+
+    QTemporaryDir m_dir;
+};

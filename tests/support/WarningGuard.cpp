@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "tests/support/WarningGuard.h"
+
+#include <QtGlobal>
+
+namespace {
+WarningGuard *s_current = nullptr;
+}
+
+WarningGuard::WarningGuard()
+    : m_previous(nullptr)
+{
+    Q_ASSERT(!s_current);
+    s_current = this;
+    m_previous = qInstallMessageHandler(&WarningGuard::handle);
+}
+
+WarningGuard::~WarningGuard()
+{
+    qInstallMessageHandler(m_previous);
+    s_current = nullptr;
+}
+
+void WarningGuard::allow(const QString &pattern)
+{
+    m_allowed.append(QRegularExpression(pattern));
+}
+
+const char *WarningGuard::report()
+{
+    m_report = unexpected().join(QLatin1Char('\n')).toUtf8();
+    return m_report.constData();
+}
+
+QStringList WarningGuard::unexpected() const
+{
+    QStringList result;
+    for (const QString &message : m_messages) {
+        bool expected = false;
+        for (const QRegularExpression &pattern : m_allowed) {
+            expected = expected || pattern.match(message).hasMatch();
+        }
+        if (!expected) {
+            result.append(message);
+        }
+    }
+    return result;
+}
+
+void WarningGuard::handle(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (type == QtWarningMsg || type == QtCriticalMsg) {
+        s_current->m_messages.append(text);
+    } else if (s_current->m_previous) {
+        s_current->m_previous(type, context, text);
+    }
+}

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "core/RVPaths.h"
+#include "repository/RVDefinitions.h"
+
+#include <plume/LocaleString.h>
+#include <plume/WizardPage.h>
+
+#include <QList>
+#include <QMap>
+#include <QNetworkReply>
+#include <QSslError>
+#include <QStringList>
+#include <QUrl>
+
+class Accordion;
+class AccordionItem;
+class OSInfo;
+class QMainWindow;
+class RVControlFrame;
+class RVErrorDialog;
+class RVLogger;
+class RVRepository;
+
+/// The updates page: one section for each repository definition. Owned by the host's window.
+class RVMainPage : public WizardPage
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(RVMainPage)
+
+public:
+    /// Thrown by value from the constructor.
+    enum ExceptionType {
+        NoDefinitionDirectory = 1,
+        BadDefinitionFile = 2,
+        NoRepositories = 3,
+        SystemInfoUnavailable = 4,
+        SystemInfoFailed = 5,
+    };
+
+    /// What the options page needs to know of a repository.
+    struct repositoryStatsType
+    {
+        LocaleString label;
+        QUrl url;
+        QUrl defaultUrl;
+    };
+
+    static const char *const TITLE_PAGE_TITLE;
+    static const char *const PAGE_TITLE;
+    static const char *const PAGE_DESC;
+    static const char *const PAGE_HELP;
+
+    explicit RVMainPage(QMainWindow *window, QWidget *parent = nullptr,
+                        Qt::WindowFlags flags = {}, const RVPaths &paths = {});
+    ~RVMainPage() override;
+
+    QString title() const override;
+    QString description() const override;
+    QString helpText() const override;
+    QList<repositoryStatsType *> repositoryStats() const;
+
+Q_SIGNALS:
+    void refreshDone();
+    void helpChanged(const QString &newHelp);
+    void retranslateDone();
+
+public Q_SLOTS:
+    void changeEvent(QEvent *event) override;
+    void retranslateUi();
+    void repositoryURIChanged(int index, const QUrl &newUrl);
+    void setAccordionItemHelp(AccordionItem *item);
+    void proxyChanged(const QString &scheme, const QString &server, int port);
+    void sslErrors(QNetworkReply *reply, const QList<QSslError> &errors);
+    void relayModified();
+    void networkError(const QNetworkReply *reply);
+    void shareCredentials(const QString &userName, const QString &password);
+
+private:
+    void parseRepositoryDir();
+    void parseRepositoryListXml(const QString &path);
+};

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "core/RVPaths.h"
+
+#include <QObject>
+
+class PlumeMainWindow;
+class RVMainPage;
+class TitlePage;
+
+/// The library's entry: constructing it adds the library's pages to the host's window.
+/// The constructor passes RVMainPage::ExceptionType on when the pages cannot work.
+class Q_DECL_EXPORT RVSection : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(RVSection)
+
+public:
+    explicit RVSection(PlumeMainWindow *window, QObject *parent = nullptr,
+                       const RVPaths &paths = {});
+    ~RVSection() override;
+
+public Q_SLOTS:
+    void retranslateUi();
+
+private:
+    TitlePage *m_titlePage;
+};
