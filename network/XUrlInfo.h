@@ -25,11 +25,11 @@ public:
     /// An invalid entry: its name is empty.
     XUrlInfo() = default;
 
-    bool isValid() const { return m_valid; }
+    bool isValid() const { return !m_name.isEmpty(); }
 
     /// In a finished listing, the entry's full URL as text.
     QString name() const { return m_name; }
-    void setName(const QString &name);
+    void setName(const QString &name) { m_name = name; }
     int permissions() const { return m_permissions; }
     void setPermissions(int permissions) { m_permissions = permissions; }
     QString owner() const { return m_owner; }
@@ -66,7 +66,6 @@ private:
     QDateTime m_lastRead;
     qint64 m_size = 0;
     int m_permissions = 0;
-    bool m_valid = false;
     bool m_isDir = false;
     bool m_isFile = true;
     bool m_isSymLink = false;
