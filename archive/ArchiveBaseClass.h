@@ -27,7 +27,7 @@ public:
     virtual bool urlIsHandled() const = 0;
     /// Whether the archive's bytes pass through extract() before install().
     virtual bool useExtract() const = 0;
-    /// Copies or unpacks `source` into the current directory; false leaves nothing half done there.
+    /// Copies or unpacks `source` into the current directory.
     virtual bool extract(QIODevice *source) const = 0;
     /// Starts the installation in `proc` and does not wait for it.
     virtual void install(QProcess *proc) = 0;
@@ -35,6 +35,8 @@ public:
     virtual void setProxy(const QString &host, int port) = 0;
 
 Q_SIGNALS:
+    /// The installation has really begun. Every archive emits this one: a subclass that declared
+    /// its own would hide it from whoever is connected to this class.
     void installStarted();
 
 protected:

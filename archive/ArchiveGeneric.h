@@ -8,8 +8,11 @@
 #include <QNetworkReply>
 #include <QSharedPointer>
 
-/// The archive that the rest of the system uses: it chooses the installer for its URL once and forwards
-/// to it. Its final signal after each extract() is extractFinished().
+class ImageQuestion;
+
+/// The archive that the rest of the system uses: it chooses the installer for its URL once and
+/// forwards to it. Without an installer for that kind of file every operation is harmless and does
+/// nothing. Its final signal after each extract() is extractFinished().
 class ArchiveGeneric : public ArchiveBaseClass
 {
     Q_OBJECT
@@ -22,20 +25,24 @@ public:
     ArchiveGeneric &operator=(const ArchiveGeneric &other);
     ~ArchiveGeneric() override;
 
+    /// True when there is a backend; ask before offering the archive for installation.
     bool urlIsHandled() const override;
     bool useExtract() const override;
     void setProxy(const QString &host, int port) override;
-    bool extract(QIODevice *source) const override;
+    /// Not owned; only a full image asks.
+    void setImageQuestion(ImageQuestion *question);
 
 public Q_SLOTS:
-    bool extract(QIODevice *source);
+    /// False also for a network reply that failed, whose bytes no backend gets to see. Throws
+    /// NotExtractable for an archive that is installed without extraction: ask useExtract() first.
+    bool extract(QIODevice *source) const override;
+    /// The same, for a manager's finished().
     bool extract(QNetworkReply *source);
     void install(QProcess *proc) override;
 
 Q_SIGNALS:
-    /// After every extract(), also when it failed or there is no backend.
+    /// Once after every extract(), also when it failed or there is no backend.
     void extractFinished() const;
-    void installStarted();
 
 private Q_SLOTS:
     void relayInstallStarted();
