@@ -13,8 +13,8 @@ class PLUME_EXPORT LocaleString
 public:
     /// Stores the variant for a language, replacing an earlier one.
     void setValue(const QString &text, const QString &language);
-    /// The variant for a language. The empty language is the running one (QLocale's default), then "en",
-    /// then whatever is stored; any other language that is not stored gives the empty text.
+    /// The variant for a language. The empty language is the running one (QLocale's default), then
+    /// "en", then whatever is stored; any other language that is not stored gives the empty text.
     QString value(const QString &language) const;
     bool isEmpty() const { return m_values.isEmpty(); }
 
