@@ -1,3 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "core/OSInfoBaseClass.h"
+
+OSInfoBaseClass::OSInfoBaseClass(QObject *parent)
+    : QObject(parent)
+{
+}
+
+OSInfoBaseClass::~OSInfoBaseClass() = default;
