@@ -28,6 +28,11 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// The user opened the section.
     void selected(AccordionItem *item);
+    /// The section was opened or closed, by whomever.
+    void expandedChanged(bool on);
+
+protected:
+    void changeEvent(QEvent *event) override;
 
 private:
     void updateHeading();

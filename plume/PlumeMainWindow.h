@@ -30,5 +30,7 @@ Q_SIGNALS:
     void pageAdded(WizardPage *page, bool isTitlePage);
 
 private:
+    void addPage(WizardPage *page, bool isTitlePage);
+
     QList<WizardPage *> m_pages;
 };
