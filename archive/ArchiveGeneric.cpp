@@ -74,7 +74,8 @@ bool ArchiveGeneric::extract(QIODevice *source) const
 
     const bool extracted = m_backend && complete && m_backend->extract(source);
     if (m_backend && !extracted) {
-        RVLogger().log(3, "Could not extract archive %s", qUtf8Printable(m_url.toString()));
+        RVLogger().log(3, "Could not extract archive %s",
+                       qUtf8Printable(m_url.toString(QUrl::RemovePassword)));
     }
     Q_EMIT extractFinished();
     return extracted;
@@ -112,7 +113,7 @@ bool ArchiveGeneric::matchBackend(const QUrl &url, const RVPaths &paths)
         m_backend = backendFor<ArchiveDDImage>(url, paths);
     }
     if (!m_backend) {
-        const QByteArray text = url.toString().toUtf8();
+        const QByteArray text = url.toString(QUrl::RemovePassword).toUtf8();
         qWarning("Found no backend for archive format:\n  %s", text.constData());
         RVLogger().log(4, "Found no backend for archive format:\n  %s", text.constData());
     }
