@@ -1,3 +1,362 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "archive/RVInstallProc.h"
+
+#include "core/RVLimits.h"
+#include "core/RVLogger.h"
+#include "descriptor/DescriptorGeneric.h"
+
+#include <plume/TemporaryDir.h>
+
+#include <QAuthenticator>
+#include <QDir>
+#include <QNetworkAccessManager>
+#include <QNetworkRequest>
+#include <QPointer>
+#include <QProcessEnvironment>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace
+{
+
+QList<RVData> withArchiveOnce(const QList<RVData> &entries)
+{
+    QList<RVData> result;
+    for (const RVData &entry : entries) {
+        const bool known = std::any_of(result.cbegin(), result.cend(), [&](const RVData &other) {
+            return other.archive() == entry.archive();
+        });
+        if (entry.archive() && !known) {
+            result.append(entry);
+        }
+    }
+    return result;
+}
+
+/// The sum of two byte counts from a server, which may announce any number.
+qint64 boundedSum(qint64 a, qint64 b)
+{
+    return a + qMin(b, std::numeric_limits<qint64>::max() - a);
+}
+
+bool isFtp(const QUrl &url)
+{
+    return url.scheme().compare(QLatin1String("ftp"), Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
+
+RVInstallProc::RVInstallProc(const QList<RVData> &entries, const QString &user,
+                             const QString &password, QObject *parent, const RVPaths &paths)
+    : QProcess(parent)
+    , m_entries(withArchiveOnce(entries))
+    , m_user(user)
+    , m_password(password)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const QString &assignment : paths.installerEnvironment) {
+        environment.insert(assignment.section(QLatin1Char('='), 0, 0),
+                           assignment.section(QLatin1Char('='), 1));
+    }
+    setProcessEnvironment(environment);
+
+    connect(this, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this, [this] {
+        m_state = State::Ended;
+    });
+    connect(this, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) {
+            m_state = State::Ended;
+        }
+    });
+}
+
+RVInstallProc::RVInstallProc(const RVData &entry, QObject *parent, const RVPaths &paths)
+    : RVInstallProc(QList<RVData>{entry}, QString(), QString(), parent, paths)
+{
+}
+
+RVInstallProc::~RVInstallProc()
+{
+    if (state() != QProcess::NotRunning) {
+        // However long it takes: dpkg dies of a reader that goes away and leaves its packages half
+        // installed. Nobody is told, since the watchers may be half destroyed already.
+        blockSignals(true);
+        closeWriteChannel();
+        waitForFinished(-1);
+    }
+    leaveTemporaryDir();
+}
+
+void RVInstallProc::start()
+{
+    if (m_entries.isEmpty() || m_state == State::Downloading || m_state == State::Installing) {
+        return;
+    }
+    m_state = State::Downloading;
+    m_next = 0;
+    m_pending.clear();
+    if (!m_temporaryDir || !m_temporaryDir->isValid()) {
+        m_previousDir = QDir::currentPath();
+        m_temporaryDir = std::make_unique<TemporaryDir>();
+    }
+    if (!enterTemporaryDir()) {
+        return;
+    }
+    connect(this, &RVInstallProc::extractFinished, this, &RVInstallProc::startInstallation,
+            Qt::UniqueConnection);
+
+    m_replies.clear();
+    m_received.clear();
+    m_expectedTotal = 0;
+    if (!m_entries.first().archive()->useExtract()) {
+        Q_EMIT extractFinished();
+        return;
+    }
+    m_replies.fill(nullptr, m_entries.size());
+    m_received.fill(0, m_entries.size());
+    for (const RVData &entry : m_entries) {
+        const qint64 size = entry.descriptor() ? entry.descriptor()->size() : 0;
+        m_expectedTotal = boundedSum(m_expectedTotal, qMax<qint64>(size, 0));
+    }
+    startDownloads();
+}
+
+void RVInstallProc::cancel()
+{
+    RVLogger().log(5, "INSTALL FETCH CANCEL, KILLING %d FETCHES",
+                   static_cast<int>(m_pending.size()));
+    // A second final signal would be taken for a second installation.
+    if (m_state == State::Installing || m_state == State::Ended) {
+        return;
+    }
+    m_state = State::Ended;
+    // Emptied first: what still arrives from these downloads is not theirs any more to unpack.
+    const QMap<ArchiveGeneric *, QNetworkReply *> pending = std::exchange(m_pending, {});
+    for (auto it = pending.cbegin(); it != pending.cend(); ++it) {
+        disconnect(it.key(), &ArchiveGeneric::extractFinished, this,
+                   &RVInstallProc::incExtractFinished);
+        it.value()->abort();
+        it.value()->manager()->deleteLater();
+        it.value()->deleteLater();
+    }
+    Q_EMIT finished(1, QProcess::CrashExit);
+}
+
+void RVInstallProc::startDownloads()
+{
+    while (m_state == State::Downloading && m_next < m_entries.size()
+           && m_pending.size() < RVLimits::transfersInFlight) {
+        startDownload(m_next++);
+    }
+}
+
+void RVInstallProc::startDownload(int index)
+{
+    const RVData &entry = m_entries.at(index);
+    ArchiveGeneric *archive = entry.archive().data();
+    QUrl url = entry.archiveUrl();
+    if (!archive->useExtract()) {
+        RVLogger().log(4, "'%s' cannot be installed together with other updates",
+                       qUtf8Printable(url.toString(QUrl::RemovePassword)));
+        return;
+    }
+
+    auto *manager = new QNetworkAccessManager(this);
+    manager->setRedirectPolicy(QNetworkRequest::ManualRedirectPolicy);
+    if (!proxyHost.isEmpty() && proxyPort > 0) {
+        manager->setProxy(
+            QNetworkProxy(isFtp(url) ? QNetworkProxy::FtpCachingProxy : QNetworkProxy::HttpProxy,
+                          proxyHost, static_cast<quint16>(proxyPort)));
+        archive->setProxy(proxyHost, proxyPort);
+    }
+    connect(manager, &QNetworkAccessManager::authenticationRequired, this,
+            &RVInstallProc::relayAuthenticationRequired);
+    connect(manager, &QNetworkAccessManager::proxyAuthenticationRequired, this,
+            &RVInstallProc::relayProxyAuthenticationRequired);
+    connect(manager, &QNetworkAccessManager::sslErrors, this, &RVInstallProc::relaySslErrors);
+
+    // Other schemes ask for credentials when the server wants them; ftp cannot.
+    if (isFtp(url) && !m_user.isEmpty() && !m_password.isEmpty()) {
+        url.setUserName(m_user);
+        url.setPassword(m_password);
+    }
+    QNetworkRequest request(url);
+    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
+    QNetworkReply *reply = manager->get(request);
+    if (reply->error() != QNetworkReply::NoError) {
+        Q_EMIT networkError(reply);
+        reply->abort();
+        manager->deleteLater();
+        reply->deleteLater();
+        return;
+    }
+
+    m_pending.insert(archive, reply);
+    m_replies[index] = reply;
+    connect(archive, &ArchiveGeneric::extractFinished, this, &RVInstallProc::incExtractFinished,
+            Qt::UniqueConnection);
+    connect(manager, &QNetworkAccessManager::finished, this,
+            [this, archive](QNetworkReply *finished) {
+                downloadFinished(archive, finished);
+            });
+    connect(manager, &QNetworkAccessManager::finished, this, &RVInstallProc::deleteSenderLater);
+    connect(reply, &QNetworkReply::downloadProgress, this, &RVInstallProc::progress);
+    connect(reply, &QNetworkReply::errorOccurred, this, &RVInstallProc::relayNetworkError);
+    connect(reply, &QNetworkReply::finished, reply, &QObject::deleteLater);
+    connect(reply, &QObject::destroyed, this, &RVInstallProc::replyDestroyed);
+}
+
+void RVInstallProc::downloadFinished(ArchiveGeneric *archive, QNetworkReply *reply)
+{
+    if (m_pending.value(archive) != reply) {
+        return;
+    }
+    // Another procedure may have changed the directory since this one started.
+    if (m_temporaryDir->cdTo()) {
+        archive->extract(reply);
+    } else {
+        RVLogger().log(3, "Could not enter '%s'", qUtf8Printable(m_temporaryDir->path()));
+        endDownload(archive);
+    }
+}
+
+void RVInstallProc::incExtractFinished()
+{
+    if (auto *archive = qobject_cast<ArchiveGeneric *>(sender())) {
+        endDownload(archive);
+    }
+}
+
+void RVInstallProc::endDownload(ArchiveGeneric *archive)
+{
+    m_pending.remove(archive);
+    disconnect(archive, &ArchiveGeneric::extractFinished, this, &RVInstallProc::incExtractFinished);
+    continueDownloads();
+}
+
+void RVInstallProc::continueDownloads()
+{
+    startDownloads();
+    if (m_state == State::Downloading && m_pending.isEmpty()) {
+        Q_EMIT extractFinished();
+    }
+}
+
+void RVInstallProc::startInstallation()
+{
+    disconnect(this, &RVInstallProc::extractFinished, this, &RVInstallProc::startInstallation);
+    RVLogger().log(5, "  Starting installation.");
+    m_state = State::Installing;
+    if (!enterTemporaryDir()) {
+        return;
+    }
+    // Held here, because a backend may ask the user and so run an event loop in which this object
+    // goes away.
+    const QSharedPointer<ArchiveGeneric> first = m_entries.first().archive();
+    if (!first->urlIsHandled()) {
+        fail(QStringLiteral("There is no installer for '%1'")
+                 .arg(first->url().toString(QUrl::RemovePassword)));
+        return;
+    }
+    connect(first.data(), &ArchiveGeneric::installStarted, this,
+            &RVInstallProc::relayInstallStarted, Qt::UniqueConnection);
+    if (!proxyHost.isEmpty() && proxyPort > 0) {
+        first->setProxy(proxyHost, proxyPort);
+    }
+    const QPointer<RVInstallProc> alive(this);
+    first->install(this);
+    if (alive) {
+        // Nobody answers: a maintainer script that reads its standard input gets its end at once.
+        closeWriteChannel();
+    }
+}
+
+bool RVInstallProc::enterTemporaryDir()
+{
+    if (m_temporaryDir->cdTo()) {
+        return true;
+    }
+    fail(
+        QStringLiteral("Could not enter the temporary directory '%1'").arg(m_temporaryDir->path()));
+    return false;
+}
+
+void RVInstallProc::leaveTemporaryDir()
+{
+    // A process whose current directory was removed cannot start programs or resolve a name.
+    if (m_temporaryDir && QDir::current() == QDir(m_temporaryDir->path())
+        && !QDir::setCurrent(m_previousDir)) {
+        QDir::setCurrent(QDir::rootPath());
+    }
+}
+
+void RVInstallProc::fail(const QString &reason)
+{
+    RVLogger().log(3, "%s", qUtf8Printable(reason));
+    m_state = State::Ended;
+    Q_EMIT finished(1, QProcess::CrashExit);
+}
+
+void RVInstallProc::deleteSenderLater(QNetworkReply *reply)
+{
+    Q_UNUSED(reply)
+    sender()->deleteLater();
+}
+
+void RVInstallProc::relayNetworkError(QNetworkReply::NetworkError err)
+{
+    Q_UNUSED(err)
+    Q_EMIT networkError(qobject_cast<QNetworkReply *>(sender()));
+}
+
+void RVInstallProc::relayAuthenticationRequired(QNetworkReply *reply, QAuthenticator *auth)
+{
+    Q_EMIT authenticationRequired(reply, auth);
+}
+
+void RVInstallProc::relayProxyAuthenticationRequired(const QNetworkProxy &proxy,
+                                                     QAuthenticator *auth)
+{
+    Q_EMIT proxyAuthenticationRequired(proxy, auth);
+}
+
+void RVInstallProc::relaySslErrors(QNetworkReply *reply, const QList<QSslError> &errors)
+{
+    Q_EMIT sslErrors(reply, errors);
+}
+
+void RVInstallProc::replyDestroyed(QObject *obj)
+{
+    // A slot that kept its address would mistake a later reply at the same place for this one.
+    const auto isDestroyed = [obj](const QNetworkReply *reply) {
+        return reply == obj;
+    };
+    std::replace_if(m_replies.begin(), m_replies.end(), isDestroyed, nullptr);
+    const auto pending = std::find_if(m_pending.cbegin(), m_pending.cend(), isDestroyed);
+    if (pending != m_pending.cend()) {
+        endDownload(pending.key());
+    }
+}
+
+void RVInstallProc::relayInstallStarted()
+{
+    Q_EMIT installStarted();
+}
+
+void RVInstallProc::progress(qint64 bytesReceived, qint64 bytesTotal)
+{
+    Q_UNUSED(bytesTotal)
+    const int index = m_replies.indexOf(qobject_cast<QNetworkReply *>(sender()));
+    if (m_expectedTotal <= 0 || index < 0) {
+        return;
+    }
+    m_received[index] = bytesReceived;
+    qint64 sum = 0;
+    for (const qint64 received : std::as_const(m_received)) {
+        sum = boundedSum(sum, received);
+    }
+    Q_EMIT downloadProgress(qMin(sum, m_expectedTotal), m_expectedTotal);
+}

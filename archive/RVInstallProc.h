@@ -18,10 +18,14 @@
 
 class TemporaryDir;
 
-/// Downloads and unpacks a batch of updates and is itself the process in which their installer runs.
-/// Its final signal is QProcess's finished(), or errorOccurred(FailedToStart) when there was no
-/// installer to start. It must not be destroyed while the installer runs; if it is, it waits: a dpkg
-/// whose reader goes away leaves packages half-installed.
+/// Downloads and unpacks a batch of updates and is itself the process in which their installer
+/// runs. Only the first archive installs; the others of a batch are of its kind and lie beside it.
+///
+/// Its final signal, once after each start(), is QProcess's finished(), or
+/// errorOccurred(FailedToStart) when there was no installer program to start. A batch whose every
+/// download fails at once gets none by itself: cancel() ends it. It must not be destroyed while the
+/// installer runs; if it is, it waits: a dpkg whose reader goes away leaves packages
+/// half-installed.
 class RVInstallProc : public QProcess
 {
     Q_OBJECT
@@ -41,12 +45,17 @@ public:
 
 public Q_SLOTS:
     /// Starts the downloads, or the installation at once when the first archive is not extracted.
+    /// Makes a temporary directory the process's current one. Nothing while an earlier start() is
+    /// under way.
     void start();
-    /// Ends the downloads and reports finished(1, CrashExit). A running installer is left alone.
+    /// Ends the downloads and reports finished(1, CrashExit). A running installer is left alone: it
+    /// gives the final signal itself.
     void cancel();
 
 Q_SIGNALS:
+    /// Every archive is unpacked: the installation starts now and cannot be cancelled any more.
     void extractFinished();
+    /// One download failed; the others go on.
     void networkError(const QNetworkReply *reply);
     void authenticationRequired(QNetworkReply *reply, QAuthenticator *auth);
     void proxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *auth);
@@ -68,14 +77,36 @@ private Q_SLOTS:
     void progress(qint64 bytesReceived, qint64 bytesTotal);
 
 private:
-    const RVPaths m_paths;
-    QList<QUrl> m_urls;
-    QList<ArchiveGeneric *> m_archives;
-    QList<DescriptorGeneric *> m_descriptors;
+    enum class State {
+        Idle,
+        Downloading,
+        /// From extractFinished() on; also while a backend still asks the user.
+        Installing,
+        /// The final signal was given.
+        Ended,
+    };
+
+    bool enterTemporaryDir();
+    void leaveTemporaryDir();
+    void startDownloads();
+    void startDownload(int index);
+    void downloadFinished(ArchiveGeneric *archive, QNetworkReply *reply);
+    void endDownload(ArchiveGeneric *archive);
+    void continueDownloads();
+    void fail(const QString &reason);
+
+    /// Each with an archive, no archive twice. The copies keep the archives and descriptors alive.
+    const QList<RVData> m_entries;
+    const QString m_user;
+    const QString m_password;
+    State m_state = State::Idle;
+    QString m_previousDir;
     std::unique_ptr<TemporaryDir> m_temporaryDir;
+    /// The entry whose download is started next.
+    int m_next = 0;
+    /// Downloads that were started and whose archive is not extracted yet.
     QMap<ArchiveGeneric *, QNetworkReply *> m_pending;
-    QString m_user;
-    QString m_password;
+    /// One slot for each entry; null before and after the reply's life.
     QVector<QNetworkReply *> m_replies;
     QVector<qint64> m_received;
     qint64 m_expectedTotal = 0;
