@@ -6,12 +6,13 @@
 
 #include <QList>
 #include <QNetworkReply>
+#include <QSslConfiguration>
 
 class XNetworkAccessManager;
 
-/// The reply of a directory read: it carries entries, not bytes. Made by a backend without a parent;
-/// whoever receives XNetworkAccessManager::directoryFinished() releases it with deleteLater().
-/// Its final signal is finishedReply().
+/// The reply of a directory read: it carries entries, not bytes. Made by a backend without a
+/// parent; whoever receives XNetworkAccessManager::directoryFinished() releases it with
+/// deleteLater(). Its final signal is finishedReply().
 class XNetworkReply : public QNetworkReply
 {
     Q_OBJECT
@@ -28,17 +29,23 @@ public:
     /// buffer size, manager and finished state.
     XNetworkReply &operator=(const QNetworkReply &other);
 
-    /// For backends: the protected setters of QNetworkReply.
-    void setRequest(const QNetworkRequest &request);
-    void setUrl(const QUrl &url);
-    void setOperation(QNetworkAccessManager::Operation operation);
-    /// Sets code and text and emits error(code) and errorOccurred(code).
+    // For backends.
+    using QNetworkReply::setError;
+    using QNetworkReply::setOperation;
+    using QNetworkReply::setRequest;
+    using QNetworkReply::setUrl;
+    /// Takes over the request and its URL and marks the reply as a directory listing.
+    void setDirectoryRequest(const QNetworkRequest &request);
+    /// Sets code and text and emits errorOccurred(code), which the base class repeats as
+    /// error(code).
     void fail(QNetworkReply::NetworkError code, const QString &text);
-    /// Sets code and text without a signal.
-    void setError(QNetworkReply::NetworkError code, const QString &text);
+    /// The result is complete: sets `finished` and emits finishedReply(), then
+    /// QNetworkReply::finished().
+    void finish();
 
     QList<XUrlInfo> entries;
-    /// True once the reply carries its final result; never reset.
+    /// True once the reply carries its final result; never reset. Hides the signal of the same
+    /// name: connect to &QNetworkReply::finished.
     bool finished = false;
     /// The manager that made it; may stay null.
     XNetworkAccessManager *manager = nullptr;
@@ -52,5 +59,11 @@ Q_SIGNALS:
     void abortOut();
 
 protected:
+    /// There is no byte stream: always -1.
     qint64 readData(char *data, qint64 maxSize) override;
+    void sslConfigurationImplementation(QSslConfiguration &configuration) const override;
+    void setSslConfigurationImplementation(const QSslConfiguration &configuration) override;
+
+private:
+    QSslConfiguration m_sslConfiguration;
 };
