@@ -19,7 +19,7 @@ public:
     explicit NetworkDirRequestBase(const QUrl &url);
     virtual ~NetworkDirRequestBase();
 
-    virtual bool directoryCapable() = 0;
+    virtual bool directoryCapable() const = 0;
     /// Starts the listing; the reply has no parent and may be finished already.
     virtual XNetworkReply *getDirectory() = 0;
     virtual void setManager(XNetworkAccessManager *manager) = 0;

@@ -10,7 +10,7 @@ class NetworkDirRequestLocal : public NetworkDirRequestBase
 public:
     explicit NetworkDirRequestLocal(const QUrl &url);
 
-    bool directoryCapable() override;
+    bool directoryCapable() const override;
     XNetworkReply *getDirectory() override;
     void setManager(XNetworkAccessManager *manager) override;
 };
