@@ -19,7 +19,7 @@ public:
     /// The scheme is compared case-sensitively, unlike XNetworkAccessManager::schemeIsSupported().
     void setUrl(const QUrl &url);
 
-    bool directoryCapable() override;
+    bool directoryCapable() const override;
     /// Throws exceptionType NoBackend when no backend speaks the scheme.
     XNetworkReply *getDirectory() override;
     void setManager(XNetworkAccessManager *manager) override;
