@@ -1,3 +1,79 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "network/XNetworkAccessManager.h"
+
+#include "core/RVLogger.h"
+#include "network/NetworkDirRequest.h"
+#include "network/XNetworkReply.h"
+
+XNetworkAccessManager::XNetworkAccessManager(QObject *parent)
+    : QNetworkAccessManager(parent)
+{
+    setRedirectPolicy(QNetworkRequest::ManualRedirectPolicy);
+}
+
+XNetworkAccessManager::~XNetworkAccessManager()
+{
+    while (!m_requests.empty()) {
+        m_requests.pop_back();
+    }
+}
+
+XNetworkReply *XNetworkAccessManager::getDirectory(const NetworkDirRequest &request)
+{
+    if (!request.directoryCapable()) {
+        RVLogger().log(3, "PROTOCOL DOES NOT SUPPORT DIRECTORY ACCESS");
+        auto *reply = new XNetworkReply;
+        reply->setDirectoryRequest(request.request());
+        reply->setError(QNetworkReply::ProtocolInvalidOperationError,
+                        QObject::tr("Protocol does not support directory reads"));
+        reply->finish();
+        Q_EMIT directoryFinished(reply);
+        return reply;
+    }
+
+    m_requests.push_back(std::make_unique<NetworkDirRequest>(request));
+    NetworkDirRequest &own = *m_requests.back();
+    own.setManager(this);
+    XNetworkReply *reply = own.getDirectory();
+    if (reply->finished) {
+        Q_EMIT directoryFinished(reply);
+    } else {
+        connect(reply, &XNetworkReply::finishedReply, this,
+                &XNetworkAccessManager::emitDirectoryFinished);
+    }
+    return reply;
+}
+
+bool XNetworkAccessManager::schemeIsSupported(const QString &scheme) const
+{
+    static const QStringList schemes{QString(), QStringLiteral("ftp"), QStringLiteral("file"),
+                                     QStringLiteral("http"), QStringLiteral("https")};
+    return schemes.contains(scheme, Qt::CaseInsensitive);
+}
+
+void XNetworkAccessManager::relayAuthenticationRequired(QNetworkReply *reply, QAuthenticator *auth)
+{
+    Q_EMIT authenticationRequired(reply, auth);
+}
+
+void XNetworkAccessManager::relayProxyAuthenticationRequired(const QNetworkProxy &proxy,
+                                                             QAuthenticator *auth)
+{
+    Q_EMIT proxyAuthenticationRequired(proxy, auth);
+}
+
+void XNetworkAccessManager::relayFinished(QNetworkReply *reply)
+{
+    Q_EMIT finished(reply);
+}
+
+void XNetworkAccessManager::relaySslErrors(QNetworkReply *reply, const QList<QSslError> &errors)
+{
+    Q_EMIT sslErrors(reply, errors);
+}
+
+void XNetworkAccessManager::emitDirectoryFinished(XNetworkReply *reply)
+{
+    Q_EMIT directoryFinished(reply);
+}

@@ -8,11 +8,14 @@
 #include <QNetworkReply>
 #include <QSslError>
 
+#include <memory>
+#include <vector>
+
 class NetworkDirRequest;
 class XNetworkReply;
 
-/// Qt's network access manager with one more operation, the listing of a directory. Redirects are not
-/// followed and HTTP/2 is off.
+/// Qt's network access manager with one more operation, the listing of a directory. Redirects are
+/// not followed and HTTP/2 is off.
 class XNetworkAccessManager : public QNetworkAccessManager
 {
     Q_OBJECT
@@ -43,5 +46,5 @@ private Q_SLOTS:
 
 private:
     /// Each with a backend that outlives the reply it made, so that late signals are safe.
-    QList<NetworkDirRequest *> m_requests;
+    std::vector<std::unique_ptr<NetworkDirRequest>> m_requests;
 };

@@ -1,0 +1,198 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "network/NetworkDirRequest.h"
+#include "network/XNetworkAccessManager.h"
+#include "network/XNetworkReply.h"
+#include "tests/support/LogFile.h"
+
+#include <QAuthenticator>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QtTest>
+
+Q_DECLARE_METATYPE(QAuthenticator *)
+
+class tst_XNetworkAccessManager : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void followsNoRedirect();
+    void knowsTheSchemes_data();
+    void knowsTheSchemes();
+    void localListingIsDeliveredInsideTheCall();
+    void eachListingIsDeliveredOnce();
+    void localFailureIsDelivered();
+    void schemeWithoutBackendFails_data();
+    void schemeWithoutBackendFails();
+    void capitalsNeverReachTheBackendChoice();
+    void replyOutlivesTheManager();
+    void laterFinalSignalIsPassedOn();
+    void relaysQtSignals();
+};
+
+void tst_XNetworkAccessManager::initTestCase()
+{
+    qRegisterMetaType<QNetworkReply *>();
+    qRegisterMetaType<QAuthenticator *>();
+    qRegisterMetaType<QList<QSslError>>();
+    qRegisterMetaType<XNetworkReply *>();
+}
+
+void tst_XNetworkAccessManager::followsNoRedirect()
+{
+    QCOMPARE(XNetworkAccessManager().redirectPolicy(), QNetworkRequest::ManualRedirectPolicy);
+}
+
+void tst_XNetworkAccessManager::knowsTheSchemes_data()
+{
+    QTest::addColumn<bool>("supported");
+    for (const char *scheme :
+         {"", "ftp", "FTP", "file", "File", "http", "HTTP", "https", "httpS"}) {
+        QTest::newRow(scheme) << true;
+    }
+    for (const char *scheme : {"gopher", "qrc", "data", "ftps", "sftp", " ", "httpx", "c"}) {
+        QTest::newRow(scheme) << false;
+    }
+}
+
+void tst_XNetworkAccessManager::knowsTheSchemes()
+{
+    const QString scheme = QLatin1String(QTest::currentDataTag());
+    QTEST(XNetworkAccessManager().schemeIsSupported(scheme), "supported");
+}
+
+void tst_XNetworkAccessManager::localListingIsDeliveredInsideTheCall()
+{
+    XNetworkAccessManager manager;
+    XNetworkReply *delivered = nullptr;
+    connect(&manager, &XNetworkAccessManager::directoryFinished, this, [&](XNetworkReply *reply) {
+        delivered = reply;
+    });
+    const std::unique_ptr<XNetworkReply> reply(
+        manager.getDirectory(NetworkDirRequest(QUrl(QStringLiteral("file:///")))));
+    QVERIFY(reply);
+    QCOMPARE(delivered, reply.get());
+    QCOMPARE(reply->error(), QNetworkReply::NoError);
+    QVERIFY(!reply->entries.isEmpty());
+}
+
+void tst_XNetworkAccessManager::eachListingIsDeliveredOnce()
+{
+    XNetworkAccessManager manager;
+    QSignalSpy delivered(&manager, &XNetworkAccessManager::directoryFinished);
+    const NetworkDirRequest request(QUrl(QStringLiteral("/")));
+    const std::unique_ptr<XNetworkReply> first(manager.getDirectory(request));
+    const std::unique_ptr<XNetworkReply> second(manager.getDirectory(request));
+    QCoreApplication::processEvents();
+    QCOMPARE(delivered.count(), 2);
+    QVERIFY(first != second);
+}
+
+void tst_XNetworkAccessManager::localFailureIsDelivered()
+{
+    XNetworkAccessManager manager;
+    QSignalSpy delivered(&manager, &XNetworkAccessManager::directoryFinished);
+    const std::unique_ptr<XNetworkReply> reply(
+        manager.getDirectory(NetworkDirRequest(QUrl(QStringLiteral("file:///does/not/exist")))));
+    QCOMPARE(delivered.count(), 1);
+    QCOMPARE(reply->error(), QNetworkReply::ContentNotFoundError);
+    QVERIFY(reply->entries.isEmpty());
+}
+
+void tst_XNetworkAccessManager::schemeWithoutBackendFails_data()
+{
+    QTest::addColumn<QString>("url");
+    QTest::newRow("gopher") << QStringLiteral("gopher://host/x");
+    QTest::newRow("resources") << QStringLiteral("qrc:///images");
+    QTest::newRow("data") << QStringLiteral("data:,x");
+}
+
+void tst_XNetworkAccessManager::schemeWithoutBackendFails()
+{
+    QFETCH(QString, url);
+    const LogFile log;
+    XNetworkAccessManager manager;
+    int deliveries = 0;
+    connect(&manager, &XNetworkAccessManager::directoryFinished, this, [&](XNetworkReply *reply) {
+        ++deliveries;
+        QVERIFY(reply->finished);
+        QVERIFY(reply->isFinished());
+        QCOMPARE(static_cast<int>(reply->error()), 302);
+    });
+    const std::unique_ptr<XNetworkReply> reply(manager.getDirectory(NetworkDirRequest{QUrl(url)}));
+    QCOMPARE(deliveries, 1);
+    QCOMPARE(reply->error(), QNetworkReply::ProtocolInvalidOperationError);
+    QCOMPARE(reply->errorString(), QStringLiteral("Protocol does not support directory reads"));
+    QCOMPARE(reply->url(), QUrl(url));
+    QCOMPARE(reply->request().url(), QUrl(url));
+    QCOMPARE(static_cast<int>(reply->operation()), 1000);
+    QVERIFY(reply->entries.isEmpty());
+    QCOMPARE(log.count(QStringLiteral("PROTOCOL DOES NOT SUPPORT DIRECTORY ACCESS")), 1);
+}
+
+void tst_XNetworkAccessManager::capitalsNeverReachTheBackendChoice()
+{
+    // schemeIsSupported() ignores case and the choice of a backend does not, but a QUrl lowers its
+    // scheme.
+    QCOMPARE(QUrl(QStringLiteral("FTP://host/")).scheme(), QStringLiteral("ftp"));
+    QVERIFY(XNetworkAccessManager().schemeIsSupported(QStringLiteral("FTP")));
+}
+
+void tst_XNetworkAccessManager::replyOutlivesTheManager()
+{
+    QPointer<XNetworkReply> reply;
+    {
+        XNetworkAccessManager manager;
+        reply = manager.getDirectory(NetworkDirRequest(QUrl(QStringLiteral("/"))));
+    }
+    QVERIFY(reply);
+    delete reply;
+}
+
+void tst_XNetworkAccessManager::laterFinalSignalIsPassedOn()
+{
+    XNetworkAccessManager manager;
+    QSignalSpy delivered(&manager, &XNetworkAccessManager::directoryFinished);
+    XNetworkReply reply;
+    QVERIFY(QMetaObject::invokeMethod(&manager, "emitDirectoryFinished",
+                                      Q_ARG(XNetworkReply *, &reply)));
+    QCOMPARE(delivered.count(), 1);
+    QCOMPARE(delivered[0][0].value<XNetworkReply *>(), &reply);
+}
+
+void tst_XNetworkAccessManager::relaysQtSignals()
+{
+    XNetworkAccessManager manager;
+    XNetworkReply reply;
+    QAuthenticator auth;
+    int calls = 0;
+    connect(&manager, &QNetworkAccessManager::authenticationRequired, this,
+            [&](QNetworkReply *r, QAuthenticator *a) {
+                calls += r == &reply && a == &auth;
+            });
+    connect(&manager, &QNetworkAccessManager::proxyAuthenticationRequired, this,
+            [&](const QNetworkProxy &p, QAuthenticator *a) {
+                calls += p.hostName() == QLatin1String("proxy") && a == &auth;
+            });
+    connect(&manager, &QNetworkAccessManager::finished, this, [&](QNetworkReply *r) {
+        calls += r == &reply;
+    });
+    connect(&manager, &QNetworkAccessManager::sslErrors, this,
+            [&](QNetworkReply *r, const QList<QSslError> &e) {
+                calls += r == &reply && e.value(0).error() == QSslError::HostNameMismatch;
+            });
+    manager.relayAuthenticationRequired(&reply, &auth);
+    QCOMPARE(calls, 1);
+    manager.relayProxyAuthenticationRequired(
+        QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("proxy")), &auth);
+    QCOMPARE(calls, 2);
+    manager.relayFinished(&reply);
+    QCOMPARE(calls, 3);
+    manager.relaySslErrors(&reply, {QSslError(QSslError::HostNameMismatch)});
+    QCOMPARE(calls, 4);
+}
+
+QTEST_GUILESS_MAIN(tst_XNetworkAccessManager)
+#include "tst_XNetworkAccessManager.moc"
