@@ -10,8 +10,8 @@
 #include <QStringList>
 #include <QUrl>
 
-/// What one update is, read from a document at url(). Sizes are bytes, -1 for unknown; texts are given
-/// for a language code, the empty code being the running language.
+/// What one update is, read from a document at url(). Sizes are bytes, -1 for unknown; texts are
+/// given for a language code, the empty code being the running language.
 class DescriptorBaseClass : public QObject
 {
     Q_OBJECT
