@@ -1,2 +1,445 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "ui/RVControlFrame.h"
+
+#include "core/OSInfoBaseClass.h"
+#include "repository/RVEligibility.h"
+#include "repository/RVRepository.h"
+#include "ui/RVStyle.h"
+
+#include <QAuthenticator>
+#include <QDialogButtonBox>
+#include <QEvent>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStackedLayout>
+#include <QVBoxLayout>
+
+namespace
+{
+
+constexpr int longestLocation = 300;
+
+QPushButton *actionButton(const QIcon &icon = {})
+{
+    auto *button = new QPushButton;
+    button->setObjectName(QStringLiteral("RVActionButton"));
+    button->setIcon(icon);
+    return button;
+}
+
+QLabel *richLabel()
+{
+    auto *label = new QLabel;
+    label->setTextFormat(Qt::RichText);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+RVControlFrame::RVControlFrame(RVRepository *repository, const OSInfoBaseClass *osInfo,
+                               SelectionTable::SelectionTableType type, const QString &title,
+                               const QString &helpText, const QIcon &icon, bool filterSps,
+                               QWidget *parent, const RVPaths &paths)
+    : ControlFrame(parent)
+    , m_paths(paths)
+    , m_repository(repository)
+    , m_osInfo(osInfo)
+    , m_type(type)
+    , m_title(title)
+    , m_helpText(helpText)
+    , m_icon(icon)
+    , m_filterSps(filterSps)
+    , m_pages(new QStackedLayout)
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(m_pages);
+    const RVStyle style(paths);
+    m_pages->addWidget(makeSelectionPage(style));
+    m_pages->addWidget(makeRetrievalPage());
+    m_pages->addWidget(makeAuthenticationPage());
+    m_pages->setCurrentIndex(SelectionPage);
+    m_pages->addWidget(makeErrorPage(style));
+    connectRepository();
+    replaceTable({});
+    retranslateUi();
+}
+
+RVControlFrame::~RVControlFrame() = default;
+
+void RVControlFrame::setHeading(const QString &title, const QString &helpText)
+{
+    m_title = title;
+    m_helpText = helpText;
+    Q_EMIT headingChanged();
+}
+
+RVControlFrame::Page RVControlFrame::currentPage() const
+{
+    return static_cast<Page>(m_pages->currentIndex());
+}
+
+void RVControlFrame::setCredentials(const QString &user, const QString &password)
+{
+    m_user->setText(user);
+    m_password->setText(password);
+}
+
+void RVControlFrame::setProxy(const QString &host, int port)
+{
+    m_table->setProxy(host, port);
+}
+
+void RVControlFrame::resetTable()
+{
+    m_retrieved = false;
+    replaceTable({});
+}
+
+void RVControlFrame::enterRetrievalState()
+{
+    m_canceled = false;
+    showPage(RetrievalPage);
+    m_repository->refresh();
+}
+
+void RVControlFrame::cancelRetrieval()
+{
+    m_canceled = true;
+    m_repository->cancel();
+    showPage(SelectionPage);
+}
+
+void RVControlFrame::enterAuthenticationState(QNetworkReply *, QAuthenticator *auth)
+{
+    // The request that asked ends here; the retry has what the user types.
+    auth->setUser(QString());
+    auth->setPassword(QString());
+    showPage(AuthenticationPage);
+}
+
+void RVControlFrame::emitAuthentication()
+{
+    Q_EMIT authenticationCredentials(m_user->text(), m_password->text());
+}
+
+void RVControlFrame::enterErrorState()
+{
+    showPage(ErrorPage);
+}
+
+void RVControlFrame::refreshTableData(QNetworkReply::NetworkError)
+{
+    m_retrieved = true;
+    replaceTable(offered());
+    // An open question stays open, or the user could never answer it: a refresh that needs
+    // credentials for some of its downloads ends all the same.
+    if (!m_canceled && currentPage() != AuthenticationPage) {
+        showPage(SelectionPage);
+    }
+}
+
+void RVControlFrame::refreshTableData()
+{
+    const QHash<QUrl, Qt::CheckState> choices = m_table->userChoices();
+    replaceTable(offered());
+    m_table->restoreUserChoices(choices);
+}
+
+void RVControlFrame::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslateUi();
+    }
+    ControlFrame::changeEvent(event);
+}
+
+void RVControlFrame::retranslateUi()
+{
+    m_noUpdates->setText(tr("<i>No updates of this type are available.</i>"));
+    m_installButton->setText(tr("&Install"));
+    m_detailsButton->setText(tr("&Details"));
+    m_refreshButton->setText(tr("&Refresh"));
+    m_allButton->setText(tr("&All", "as in 'Select All Choices'"));
+    m_noneButton->setText(tr("&None", "as in 'Select No Choices'"));
+    m_retrievalBar->setAccessibleName(tr("Retrieval"));
+    m_userLabel->setText(tr("User Name: "));
+    m_passwordLabel->setText(tr("Password: "));
+    m_retryButton->setText(tr("&Retry"));
+    showLocation();
+}
+
+void RVControlFrame::incInstallFinished()
+{
+    Q_EMIT installFinished();
+}
+
+void RVControlFrame::cancelFromRetrieval()
+{
+    m_canceled = true;
+    m_repository->cancel();
+    enterErrorState();
+}
+
+void RVControlFrame::refreshFailed(const QNetworkReply *reply)
+{
+    const QNetworkReply::NetworkError error =
+        reply ? reply->error() : QNetworkReply::UnknownNetworkError;
+    // The refusal that follows from the empty answer must not hide the question, nor the end of a
+    // cancelled request the page that the cancelling chose.
+    if ((currentPage() == AuthenticationPage && error == QNetworkReply::AuthenticationRequiredError)
+        || (m_canceled && error == QNetworkReply::OperationCanceledError)) {
+        return;
+    }
+    enterErrorState();
+}
+
+void RVControlFrame::relayNetworkError(const QNetworkReply *reply)
+{
+    Q_EMIT networkError(reply);
+}
+
+void RVControlFrame::relayProxyAuthenticationRequired(const QNetworkProxy &proxy,
+                                                      QAuthenticator *auth)
+{
+    Q_EMIT proxyAuthenticationRequired(proxy, auth);
+}
+
+void RVControlFrame::relaySslErrors(QNetworkReply *reply, const QList<QSslError> &errors)
+{
+    Q_EMIT sslErrors(reply, errors);
+}
+
+QWidget *RVControlFrame::makeSelectionPage(const RVStyle &style)
+{
+    auto *page = new QWidget;
+    m_selectionLayout = new QVBoxLayout(page);
+    m_selectionLayout->setContentsMargins(0, 0, 0, 0);
+    m_noUpdates = richLabel();
+    m_noUpdates->setAlignment(Qt::AlignCenter);
+    m_selectionLayout->addWidget(m_noUpdates, 1);
+
+    m_installButton = actionButton(style.StdIcon(RVStyle::Install));
+    m_detailsButton = actionButton(style.StdIcon(RVStyle::Info));
+    m_refreshButton = actionButton(style.StdIcon(RVStyle::Refresh));
+    m_allButton = actionButton(style.StdIcon(RVStyle::SelectAll));
+    m_noneButton = actionButton(style.StdIcon(RVStyle::SelectNone));
+    connect(m_refreshButton, &QPushButton::clicked, this, &RVControlFrame::enterRetrievalState);
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(m_installButton);
+    buttons->addWidget(m_detailsButton);
+    buttons->addWidget(m_refreshButton);
+    buttons->addStretch();
+    buttons->addWidget(m_allButton);
+    buttons->addWidget(m_noneButton);
+    m_selectionLayout->addLayout(buttons);
+    return page;
+}
+
+QWidget *RVControlFrame::makeRetrievalPage()
+{
+    auto *page = new QWidget;
+    m_retrievalLabel = richLabel();
+    m_retrievalBar = new QProgressBar;
+    m_retrievalBar->setRange(0, 0);
+    m_retrievalButtons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    connect(m_retrievalButtons, &QDialogButtonBox::rejected, this,
+            &RVControlFrame::cancelFromRetrieval);
+    auto *layout = new QVBoxLayout(page);
+    layout->addStretch();
+    layout->addWidget(m_retrievalLabel);
+    layout->addWidget(m_retrievalBar);
+    layout->addWidget(m_retrievalButtons);
+    layout->addStretch();
+    return page;
+}
+
+QWidget *RVControlFrame::makeAuthenticationPage()
+{
+    auto *page = new QWidget;
+    m_authenticationLabel = richLabel();
+    m_userLabel = new QLabel;
+    m_user = new QLineEdit;
+    m_userLabel->setBuddy(m_user);
+    m_passwordLabel = new QLabel;
+    m_password = new QLineEdit;
+    m_password->setEchoMode(QLineEdit::Password);
+    m_passwordLabel->setBuddy(m_password);
+    auto *fields = new QGridLayout;
+    fields->addWidget(m_userLabel, 0, 0);
+    fields->addWidget(m_user, 0, 1);
+    fields->addWidget(m_passwordLabel, 1, 0);
+    fields->addWidget(m_password, 1, 1);
+
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    connect(buttons, &QDialogButtonBox::accepted, this, &RVControlFrame::emitAuthentication);
+    connect(buttons, &QDialogButtonBox::accepted, this, &RVControlFrame::enterRetrievalState);
+    connect(buttons, &QDialogButtonBox::rejected, this, &RVControlFrame::cancelRetrieval);
+    connect(m_user, &QLineEdit::returnPressed, m_password, QOverload<>::of(&QWidget::setFocus));
+    connect(m_password, &QLineEdit::returnPressed, buttons->button(QDialogButtonBox::Ok),
+            &QAbstractButton::click);
+
+    auto *layout = new QVBoxLayout(page);
+    layout->addStretch();
+    layout->addWidget(m_authenticationLabel);
+    layout->addLayout(fields);
+    layout->addWidget(buttons);
+    layout->addStretch();
+    return page;
+}
+
+QWidget *RVControlFrame::makeErrorPage(const RVStyle &style)
+{
+    auto *page = new QWidget;
+    m_errorLabel = richLabel();
+    m_retryButton = actionButton(style.StdIcon(RVStyle::Refresh));
+    connect(m_retryButton, &QPushButton::clicked, this, &RVControlFrame::enterRetrievalState);
+    auto *layout = new QVBoxLayout(page);
+    layout->addStretch();
+    layout->addWidget(m_errorLabel);
+    layout->addWidget(m_retryButton, 0, Qt::AlignLeading);
+    layout->addStretch();
+    return page;
+}
+
+void RVControlFrame::connectRepository()
+{
+    connect(m_repository, &RVRepository::refreshDone, this,
+            QOverload<QNetworkReply::NetworkError>::of(&RVControlFrame::refreshTableData));
+    connect(this, &RVControlFrame::authenticationCredentials, m_repository,
+            &RVRepository::setAuthenticationCredentials);
+    connect(m_repository, &RVRepository::authenticationRequired, this,
+            &RVControlFrame::enterAuthenticationState);
+    connect(m_repository, &RVRepository::networkError, this, &RVControlFrame::refreshFailed);
+}
+
+void RVControlFrame::connectTableSignals()
+{
+    connect(m_installButton, &QPushButton::clicked, m_table, &SelectionTable::install);
+    connect(m_table, &SelectionTable::installFinished, this, &RVControlFrame::incInstallFinished);
+    connect(m_detailsButton, &QPushButton::clicked, m_table, &SelectionTable::showDetails);
+    connect(this, &RVControlFrame::authenticationCredentials, m_table,
+            &SelectionTable::setAuthenticationCredentials);
+    connect(m_table, &SelectionTable::authenticationRequired, this,
+            &RVControlFrame::enterAuthenticationState);
+    connect(m_table, &SelectionTable::networkError, this, &RVControlFrame::relayNetworkError);
+    connect(m_table, &SelectionTable::proxyAuthenticationRequired, this,
+            &RVControlFrame::relayProxyAuthenticationRequired);
+    connect(m_table, &SelectionTable::sslErrors, this, &RVControlFrame::relaySslErrors);
+    connect(m_allButton, &QPushButton::clicked, m_table, &SelectionTable::selectAll);
+    connect(m_noneButton, &QPushButton::clicked, m_table, &SelectionTable::selectNone);
+}
+
+void RVControlFrame::retireTable(SelectionTable *table)
+{
+    for (QPushButton *button : {m_installButton, m_detailsButton, m_allButton, m_noneButton}) {
+        button->disconnect(table);
+    }
+    disconnect(table);
+    table->disconnect(this);
+    m_selectionLayout->removeWidget(table);
+    table->hide();
+    if (!table->isInstalling()) {
+        table->deleteLater();
+        return;
+    }
+    // The installer dies with its table, and dpkg with half its packages done: both stay until the
+    // end, which the rest of the page has to hear of; so do the errors of downloads that still run.
+    connect(table, &SelectionTable::installFinished, this, &RVControlFrame::incInstallFinished);
+    connect(table, &SelectionTable::installFinished, table, &QObject::deleteLater);
+    connect(table, &SelectionTable::networkError, this, &RVControlFrame::relayNetworkError);
+    connect(table, &SelectionTable::sslErrors, this, &RVControlFrame::relaySslErrors);
+}
+
+void RVControlFrame::replaceTable(const QList<RVData> &entries)
+{
+    SelectionTable *old = m_table;
+    const bool focused = old && old->hasFocus();
+    m_table = new SelectionTable(entries, m_type, m_osInfo, this, m_paths);
+    m_table->setAuthenticationCredentials(m_repository->user(), m_repository->password());
+    m_table->setProxy(m_repository->proxyHost(), m_repository->proxyPort());
+    m_selectionLayout->insertWidget(0, m_table, 1);
+    setTabOrder(m_table, m_installButton);
+    const bool any = !entries.isEmpty();
+    m_noUpdates->setVisible(m_retrieved && !any);
+    m_table->setVisible(any || !m_retrieved);
+    for (QPushButton *button : {m_installButton, m_detailsButton, m_allButton, m_noneButton}) {
+        button->setEnabled(any);
+    }
+    m_allButton->setVisible(m_type != SelectionTable::RadioButtons);
+    m_noneButton->setVisible(m_type != SelectionTable::RadioButtons);
+    if (focused) {
+        focusPage();
+    }
+    if (old) {
+        retireTable(old);
+    }
+    connectTableSignals();
+}
+
+QList<RVData> RVControlFrame::offered() const
+{
+    return offeredEntries(m_repository->entries(), *m_osInfo, m_filterSps);
+}
+
+void RVControlFrame::showPage(Page page)
+{
+    const bool focused = hasFocusInside();
+    showLocation();
+    m_pages->setCurrentIndex(page);
+    if (focused) {
+        focusPage();
+    }
+}
+
+bool RVControlFrame::hasFocusInside() const
+{
+    // Focus in another section or page is never taken away.
+    const QWidget *focus = window()->focusWidget();
+    return isVisible() && (!focus || isAncestorOf(focus));
+}
+
+void RVControlFrame::focusPage()
+{
+    switch (currentPage()) {
+    case SelectionPage:
+        if (m_table->rowCount() > 0) {
+            m_table->setFocus();
+        } else {
+            m_refreshButton->setFocus();
+        }
+        break;
+    case RetrievalPage:
+        m_retrievalButtons->button(QDialogButtonBox::Cancel)->setFocus();
+        break;
+    case AuthenticationPage: {
+        QLineEdit *field = m_user->text().isEmpty() ? m_user : m_password;
+        field->setFocus();
+        field->selectAll();
+        break;
+    }
+    case ErrorPage:
+        m_retryButton->setFocus();
+        break;
+    }
+}
+
+void RVControlFrame::showLocation()
+{
+    QString location = m_repository->url().toDisplayString();
+    if (location.size() > longestLocation) {
+        location = location.left(longestLocation) + QChar(0x2026);
+    }
+    location = location.toHtmlEscaped();
+    m_retrievalLabel->setText(
+        tr("Retrieving data from repository<br /> <i>%1</i>", "The argument is a repository URI.")
+            .arg(location));
+    m_authenticationLabel->setText(
+        tr("Authentication is required to access <br /><i>%1</i>").arg(location));
+    m_errorLabel->setText(
+        tr("Could not retrieve data from repository<br /> <i>%1</i>").arg(location));
+}
