@@ -1,3 +1,364 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "ui/RVMainPage.h"
+
+#include "core/OSInfo.h"
+#include "core/RVLogger.h"
+#include "repository/RVRepDesc.h"
+#include "repository/RVRepository.h"
+#include "ui/CertDialog.h"
+#include "ui/RVControlFrame.h"
+#include "ui/RVErrorDialog.h"
+#include "ui/RVStyle.h"
+
+#include <plume/Accordion.h>
+#include <plume/AccordionItem.h>
+
+#include <QCryptographicHash>
+#include <QEvent>
+#include <QEventLoop>
+#include <QPointer>
+#include <QSslCertificate>
+#include <QVBoxLayout>
+
+namespace
+{
+
+constexpr int logThreshold = 6;
+constexpr int errorDialogWidth = 600;
+constexpr QLatin1String organisation("Corvane");
+constexpr QLatin1String application("Ravel");
+// Stands for an answer that holds for one reply only.
+constexpr QLatin1String noFingerprint("BOGUS");
+
+QString fingerprintOf(const QList<QSslError> &errors)
+{
+    QString fingerprint = noFingerprint;
+    for (const QSslError &error : errors) {
+        if (!error.certificate().isNull()) {
+            fingerprint =
+                QString::fromLatin1(error.certificate().digest(QCryptographicHash::Sha1).toHex());
+        }
+    }
+    return fingerprint;
+}
+
+bool isProxy(const QString &host, int port)
+{
+    return !host.isEmpty() && port > 0;
+}
+
+} // namespace
+
+const char *const RVMainPage::TITLE_PAGE_TITLE = QT_TRANSLATE_NOOP("RVMainPage", "Ravel");
+const char *const RVMainPage::PAGE_TITLE = QT_TRANSLATE_NOOP("RVMainPage", "Updates");
+const char *const RVMainPage::PAGE_DESC = QT_TRANSLATE_NOOP(
+    "RVMainPage", "Ravel allows you to install the latest updates to your Thin Client software");
+const char *const RVMainPage::PAGE_HELP = QT_TRANSLATE_NOOP(
+    "RVMainPage",
+    "<p><b>Ravel</b> enables the installation of:<ol>  <li>Full software images</li>  "
+    "<li>Bundled software service packs</li>  <li>Individual package updates</li></ol></p><p>To "
+    "customize Ravel, repository locations can be set to look for data in CV's standard update "
+    "sites, company or site-specific repositories, or even local storage.</p>");
+
+RVMainPage::RVMainPage(QMainWindow *, QWidget *parent, Qt::WindowFlags flags, const RVPaths &paths)
+    : WizardPage(parent, flags)
+{
+    RVLogger::setPaths(paths);
+    m_logger = std::make_unique<RVLogger>();
+    RVLogger::m_level = logThreshold;
+    try {
+        m_osInfo = new OSInfo(this, paths);
+    } catch (OSInfoBaseClass::ExceptionType error) {
+        qCritical("OSInfo exception caught");
+        throw error == OSInfoBaseClass::ImageIdUnreadable ? SystemInfoUnavailable
+                                                          : SystemInfoFailed;
+    }
+    m_errorDialog = new RVErrorDialog(this);
+    m_errorDialog->hide();
+    m_errorDialog->setMinimumWidth(errorDialogWidth);
+    connect(m_errorDialog, &QDialog::accepted, m_errorDialog, &QWidget::hide);
+    parseRepositoryDir(paths);
+    makeRepositories(paths);
+    makeSections(paths);
+    retranslateUi();
+    for (RVControlFrame *frame : qAsConst(m_frames)) {
+        const QUrl &url = frame->repository()->url();
+        // The scheme of a QUrl is lower case.
+        if (url.isRelative() || url.isLocalFile()) {
+            frame->enterRetrievalState();
+        }
+    }
+}
+
+RVMainPage::~RVMainPage()
+{
+    // Sections hold repositories, both the system information, and all of them write to the log.
+    delete m_accordion;
+    for (RVRepository *repository : qAsConst(m_repositories)) {
+        repository->disconnect(this);
+        delete repository;
+    }
+    delete m_osInfo;
+    RVLogger::close();
+}
+
+QString RVMainPage::title() const
+{
+    return tr(PAGE_TITLE);
+}
+
+QString RVMainPage::description() const
+{
+    return tr(PAGE_DESC);
+}
+
+QString RVMainPage::helpText() const
+{
+    return tr(PAGE_HELP);
+}
+
+QList<RVMainPage::repositoryStatsType *> RVMainPage::repositoryStats() const
+{
+    m_stats.resize(m_definitions.size());
+    QList<repositoryStatsType *> stats;
+    for (std::size_t i = 0; i < m_definitions.size(); ++i) {
+        if (!m_stats[i]) {
+            m_stats[i] = std::make_unique<repositoryStatsType>();
+        }
+        const RVRepository *repository = m_repositories.at(static_cast<int>(i));
+        *m_stats[i] = {m_definitions[i]->uriDescription, repository->url(),
+                       repository->defaultUrl()};
+        stats.append(m_stats[i].get());
+    }
+    return stats;
+}
+
+void RVMainPage::changeEvent(QEvent *event)
+{
+    WizardPage::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslateUi();
+    }
+}
+
+void RVMainPage::retranslateUi()
+{
+    for (int i = 0; i < m_frames.size(); ++i) {
+        const RVRepDesc &definition = *m_definitions[static_cast<std::size_t>(i)];
+        m_frames.at(i)->setHeading(definition.title.value({}), definition.description.value({}));
+    }
+    Q_EMIT retranslateDone();
+}
+
+void RVMainPage::repositoryURIChanged(int index, const QUrl &newUrl)
+{
+    if (index < 0 || index >= m_repositories.size()) {
+        return;
+    }
+    RVRepository *repository = m_repositories.at(index);
+    RVControlFrame *frame = m_frames.at(index);
+    const QString oldScheme = repository->url().scheme();
+    repository->setUrl(newUrl);
+    const QString scheme = newUrl.scheme();
+    if (scheme != oldScheme) {
+        const QString host = m_proxyHosts.value(scheme);
+        const int port = m_proxyPorts.value(scheme);
+        repository->setProxy(host, port);
+        frame->setProxy(host, port);
+    }
+    // What the user typed for one server is not for another.
+    repository->setAuthenticationCredentials({}, {});
+    frame->setCredentials({}, {});
+    frame->resetTable();
+    if (newUrl.isEmpty()) {
+        m_items.at(index)->hide();
+        frame->cancelRetrieval();
+    } else {
+        m_items.at(index)->show();
+        frame->enterRetrievalState();
+    }
+}
+
+void RVMainPage::setAccordionItemHelp(AccordionItem *item)
+{
+    const int index = m_items.indexOf(item);
+    if (index >= 0) {
+        Q_EMIT helpChanged(m_definitions[static_cast<std::size_t>(index)]->description.value({}));
+    }
+}
+
+void RVMainPage::proxyChanged(const QString &scheme, const QString &server, int port)
+{
+    m_logger->log(5, "Proxy for %s is %s:%d", qUtf8Printable(scheme), qUtf8Printable(server), port);
+    m_proxyHosts.insert(scheme.toLower(), server);
+    m_proxyPorts.insert(scheme.toLower(), port);
+    for (RVControlFrame *frame : qAsConst(m_frames)) {
+        RVRepository *repository = frame->repository();
+        if (repository->url().isEmpty()
+            || repository->url().scheme().compare(scheme, Qt::CaseInsensitive) != 0) {
+            continue;
+        }
+        const bool differs = repository->proxyHost() != server || repository->proxyPort() != port;
+        // "No proxy" has more than one spelling; going from one to another changes nothing.
+        if (differs
+            && (isProxy(server, port)
+                || isProxy(repository->proxyHost(), repository->proxyPort()))) {
+            repository->setProxy(server, port);
+            frame->setProxy(server, port);
+            frame->enterRetrievalState();
+        }
+    }
+}
+
+void RVMainPage::sslErrors(QNetworkReply *reply, const QList<QSslError> &errors)
+{
+    const QString fingerprint = fingerprintOf(errors);
+    if (isAccepted(fingerprint)) {
+        reply->ignoreSslErrors();
+        return;
+    }
+    // The question runs an event loop, in which page and reply may go away.
+    const QPointer<RVMainPage> page(this);
+    const QPointer<QNetworkReply> guardedReply(reply);
+    bool accepted = false;
+    if (CertDialog *open = m_certificateDialogs.value(fingerprint)) {
+        // Downloads from one server run side by side: they wait for one answer.
+        QEventLoop loop;
+        connect(open, &QObject::destroyed, &loop, &QEventLoop::quit);
+        connect(open, &QDialog::finished, &loop, &QEventLoop::quit);
+        loop.exec();
+        accepted = page && isAccepted(fingerprint);
+    } else {
+        const QPointer<CertDialog> dialog(new CertDialog(reply->url(), errors, this));
+        if (fingerprint != noFingerprint) {
+            m_certificateDialogs.insert(fingerprint, dialog);
+            connect(dialog, &QDialog::finished, this, [this, fingerprint](int result) {
+                m_certificateDialogs.remove(fingerprint);
+                if (result == QDialog::Accepted) {
+                    m_acceptedCertificates.append(fingerprint);
+                }
+            });
+        }
+        accepted = dialog->exec() == QDialog::Accepted;
+        if (dialog) {
+            dialog->deleteLater();
+        }
+    }
+    if (accepted && guardedReply) {
+        guardedReply->ignoreSslErrors();
+    }
+}
+
+void RVMainPage::relayModified()
+{
+    Q_EMIT modified();
+}
+
+void RVMainPage::networkError(const QNetworkReply *reply)
+{
+    if (reply->error() != QNetworkReply::OperationCanceledError) {
+        m_logger->log(3, "Network Error '%d' for '%s'", static_cast<int>(reply->error()),
+                      qUtf8Printable(reply->url().toDisplayString()));
+        m_errorDialog->showNetworkError(reply);
+    }
+}
+
+void RVMainPage::shareCredentials(const QString &userName, const QString &password)
+{
+    const auto *sharing = qobject_cast<RVControlFrame *>(sender());
+    if (!sharing) {
+        return;
+    }
+    for (RVControlFrame *frame : qAsConst(m_frames)) {
+        const RVRepository *repository = frame->repository();
+        if (frame == sharing || repository->url().host() != sharing->repository()->url().host()
+            || !repository->user().isEmpty() || !repository->password().isEmpty()) {
+            continue;
+        }
+        // No echo.
+        disconnect(frame, &RVControlFrame::authenticationCredentials, this,
+                   &RVMainPage::shareCredentials);
+        frame->setCredentials(userName, password);
+        frame->emitAuthentication();
+        connect(frame, &RVControlFrame::authenticationCredentials, this,
+                &RVMainPage::shareCredentials);
+        frame->enterRetrievalState();
+    }
+}
+
+void RVMainPage::parseRepositoryDir(const RVPaths &paths)
+{
+    switch (RVDefinitions::readDirectory(paths, &m_definitions)) {
+    case RVDefinitions::NoError:
+        return;
+    case RVDefinitions::NoDefinitionDirectory:
+        throw NoDefinitionDirectory;
+    case RVDefinitions::BadDefinitionFile:
+        throw BadDefinitionFile;
+    case RVDefinitions::NoRepositories:
+        throw NoRepositories;
+    }
+}
+
+void RVMainPage::makeRepositories(const RVPaths &paths)
+{
+    for (const auto &definition : m_definitions) {
+        auto *repository =
+            new RVRepository(organisation, application, definition->settingsKey,
+                             definition->defaultUri, definition->uriDescription.value({}),
+                             definition->picksOne() ? SortByVersion : SortByName, this, paths);
+        for (int i = 0; i < definition->archivePatterns.size(); ++i) {
+            repository->addFilter(
+                QRegExp(definition->archivePatterns.at(i), Qt::CaseSensitive, QRegExp::RegExp),
+                QRegExp(definition->descriptorPatterns.at(i), Qt::CaseSensitive, QRegExp::RegExp));
+        }
+        connect(repository, &RVRepository::networkError, this, &RVMainPage::networkError);
+        connect(repository, &RVRepository::sslErrors, this, &RVMainPage::sslErrors);
+        m_repositories.append(repository);
+    }
+}
+
+void RVMainPage::makeSections(const RVPaths &paths)
+{
+    m_accordion = new Accordion;
+    const RVStyle style(paths);
+    for (int i = 0; i < m_repositories.size(); ++i) {
+        const RVRepDesc &definition = *m_definitions[static_cast<std::size_t>(i)];
+        RVRepository *repository = m_repositories.at(i);
+        auto *frame = new RVControlFrame(
+            repository, m_osInfo,
+            definition.picksOne() ? SelectionTable::RadioButtons : SelectionTable::CheckBoxes,
+            definition.title.value({}), definition.description.value({}),
+            style.StdIcon(definition.icon), definition.filterSps, nullptr, paths);
+        auto *item = new AccordionItem(frame);
+        // The accordion opens the first item that is not hidden.
+        if (repository->url().isEmpty()) {
+            item->hide();
+        }
+        m_accordion->addItem(item);
+        connect(frame, &RVControlFrame::networkError, this, &RVMainPage::networkError);
+        connect(frame, &RVControlFrame::authenticationCredentials, this,
+                &RVMainPage::shareCredentials);
+        connect(item, &AccordionItem::selected, this, &RVMainPage::setAccordionItemHelp);
+        connect(frame, &RVControlFrame::installFinished, m_osInfo, &OSInfo::refresh);
+        connect(frame, &RVControlFrame::installFinished, this, &RVMainPage::relayModified);
+        connect(frame, &RVControlFrame::sslErrors, this, &RVMainPage::sslErrors);
+        m_frames.append(frame);
+        m_items.append(item);
+    }
+    // After the connections above: tables compare with what the system has become.
+    for (const RVControlFrame *installing : qAsConst(m_frames)) {
+        for (RVControlFrame *frame : qAsConst(m_frames)) {
+            connect(installing, &RVControlFrame::installFinished, frame,
+                    QOverload<>::of(&RVControlFrame::refreshTableData));
+        }
+    }
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_accordion, 0, Qt::AlignVCenter);
+}
+
+bool RVMainPage::isAccepted(const QString &fingerprint) const
+{
+    return m_acceptedCertificates.contains(fingerprint);
+}

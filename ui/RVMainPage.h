@@ -8,6 +8,7 @@
 #include <plume/LocaleString.h>
 #include <plume/WizardPage.h>
 
+#include <QHash>
 #include <QList>
 #include <QMap>
 #include <QNetworkReply>
@@ -15,8 +16,12 @@
 #include <QStringList>
 #include <QUrl>
 
+#include <memory>
+#include <vector>
+
 class Accordion;
 class AccordionItem;
+class CertDialog;
 class OSInfo;
 class QMainWindow;
 class RVControlFrame;
@@ -41,8 +46,7 @@ public:
     };
 
     /// What the options page needs to know of a repository.
-    struct repositoryStatsType
-    {
+    struct repositoryStatsType {
         LocaleString label;
         QUrl url;
         QUrl defaultUrl;
@@ -53,13 +57,15 @@ public:
     static const char *const PAGE_DESC;
     static const char *const PAGE_HELP;
 
-    explicit RVMainPage(QMainWindow *window, QWidget *parent = nullptr,
-                        Qt::WindowFlags flags = {}, const RVPaths &paths = {});
+    explicit RVMainPage(QMainWindow *window, QWidget *parent = nullptr, Qt::WindowFlags flags = {},
+                        const RVPaths &paths = {});
     ~RVMainPage() override;
 
     QString title() const override;
     QString description() const override;
     QString helpText() const override;
+    /// One record for each repository, in order. The page keeps them; each call brings them up to
+    /// date.
     QList<repositoryStatsType *> repositoryStats() const;
 
 Q_SIGNALS:
@@ -79,6 +85,25 @@ public Q_SLOTS:
     void shareCredentials(const QString &userName, const QString &password);
 
 private:
-    void parseRepositoryDir();
-    void parseRepositoryListXml(const QString &path);
+    void parseRepositoryDir(const RVPaths &paths);
+    void makeRepositories(const RVPaths &paths);
+    void makeSections(const RVPaths &paths);
+    bool isAccepted(const QString &fingerprint) const;
+
+    std::unique_ptr<RVLogger> m_logger;
+    OSInfo *m_osInfo = nullptr;
+    QList<RVRepository *> m_repositories;
+    Accordion *m_accordion = nullptr;
+    QList<RVControlFrame *> m_frames;
+    QList<AccordionItem *> m_items;
+    RVDefinitions::List m_definitions;
+    RVErrorDialog *m_errorDialog = nullptr;
+    /// By lower-case URL scheme.
+    QMap<QString, QString> m_proxyHosts;
+    QMap<QString, int> m_proxyPorts;
+    /// Hexadecimal SHA-1 fingerprints that the user accepted in this run.
+    QStringList m_acceptedCertificates;
+    /// Questions that are open now, by fingerprint.
+    QHash<QString, CertDialog *> m_certificateDialogs;
+    mutable std::vector<std::unique_ptr<repositoryStatsType>> m_stats;
 };

@@ -1,3 +1,32 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "ui/RVSection.h"
+
+#include "ui/RVMainPage.h"
+
+#include <plume/PlumeMainWindow.h>
+#include <plume/TitlePage.h>
+
+RVSection::RVSection(PlumeMainWindow *window, QObject *parent, const RVPaths &paths)
+    : QObject(parent)
+{
+    // Made before anything is added: a host whose section cannot work gets no half of it.
+    auto *mainPage = new RVMainPage(window, window, {}, paths);
+    m_titlePage =
+        new TitlePage(RVMainPage::tr(RVMainPage::TITLE_PAGE_TITLE),
+                      RVMainPage::tr(RVMainPage::PAGE_DESC), RVMainPage::tr(RVMainPage::PAGE_HELP));
+    window->addTitlePage(m_titlePage);
+    window->addNormalPage(mainPage);
+    connect(mainPage, &RVMainPage::retranslateDone, this, &RVSection::retranslateUi);
+}
+
+RVSection::~RVSection() = default;
+
+void RVSection::retranslateUi()
+{
+    if (m_titlePage) {
+        m_titlePage->setTitle(RVMainPage::tr(RVMainPage::TITLE_PAGE_TITLE));
+        m_titlePage->setDescription(RVMainPage::tr(RVMainPage::PAGE_DESC));
+        m_titlePage->setHelpText(RVMainPage::tr(RVMainPage::PAGE_HELP));
+    }
+}

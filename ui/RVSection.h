@@ -5,9 +5,9 @@
 #include "core/RVPaths.h"
 
 #include <QObject>
+#include <QPointer>
 
 class PlumeMainWindow;
-class RVMainPage;
 class TitlePage;
 
 /// The library's entry: constructing it adds the library's pages to the host's window.
@@ -26,5 +26,5 @@ public Q_SLOTS:
     void retranslateUi();
 
 private:
-    TitlePage *m_titlePage;
+    QPointer<TitlePage> m_titlePage;
 };
