@@ -10,8 +10,8 @@
 #include <QObject>
 #include <QRegExp>
 
-/// Picks the archives out of a listing by one pattern and pairs each with the file that describes it,
-/// found by another.
+/// Picks the archives out of a listing by one pattern and pairs each with the file that describes
+/// it, found by another.
 class RVFilter : public QObject
 {
     Q_OBJECT
