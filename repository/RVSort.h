@@ -7,9 +7,9 @@
 #include <QList>
 
 /// How a section orders its entries.
-enum SortKey {
+enum SortKey : int {
     SortByVersion = 0, ///< newest first: sections in which one entry is picked
-    SortByName = 1,    ///< by name, on equal names newest first: all others
+    SortByName = 1, ///< by name, on equal names newest first: all others
 };
 
 /// Stable; any other key leaves the order as it is. An entry without a descriptor is never less.
