@@ -9,7 +9,8 @@
 
 class RVRepDesc;
 
-/// Reads the repository definition files. The page that shows them turns an error into its exception.
+/// Reads the repository definition files. The page that shows them turns an error into its
+/// exception.
 class RVDefinitions
 {
 public:
