@@ -1,3 +1,295 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "repository/RVRepository.h"
+
+#include "core/RVLogger.h"
+#include "descriptor/RVDescFetch.h"
+#include "network/NetworkDirRequest.h"
+#include "network/XNetworkAccessManager.h"
+#include "network/XNetworkReply.h"
+#include "repository/RVFilter.h"
+
+#include <QSettings>
+
+namespace
+{
+
+/// For the log, which never shows a password.
+QByteArray loggable(const QUrl &url)
+{
+    return url.toString(QUrl::RemovePassword).toUtf8();
+}
+
+} // namespace
+
+RVRepository::RVRepository(const QString &organisation, const QString &application,
+                           const QString &settingsKey, const QUrl &defaultUrl,
+                           const QString &description, SortKey sortKey, QObject *parent,
+                           const RVPaths &paths)
+    : QObject(parent)
+    , m_paths(paths)
+    , m_settings(new QSettings(organisation, application, this))
+    , m_settingsKey(settingsKey)
+    , m_defaultUrl(defaultUrl)
+    , m_description(description)
+    , m_url(defaultUrl)
+    , m_sortKey(sortKey)
+{
+    RVLogger().log(5, "Setting up repository('%s')", qUtf8Printable(m_description));
+    if (!m_settingsKey.isEmpty()) {
+        m_url = QUrl(m_settings->value(m_settingsKey, m_defaultUrl.toString()).toString());
+    }
+}
+
+RVRepository::~RVRepository()
+{
+    const QPointer<XNetworkReply> reply = m_reply;
+    dropRefresh();
+    delete reply;
+}
+
+void RVRepository::addFilter(const QRegExp &archive, const QRegExp &descriptor)
+{
+    m_filters.append(new RVFilter(archive, descriptor, this));
+}
+
+void RVRepository::setProxy(const QString &host, int port)
+{
+    m_proxyHost = host;
+    m_proxyPort = port;
+}
+
+void RVRepository::setUrl(const QUrl &url)
+{
+    m_url = url;
+    if (m_settingsKey.isEmpty()) {
+        return;
+    }
+    if (m_url != m_defaultUrl) {
+        m_settings->setValue(m_settingsKey, m_url.toString());
+    } else {
+        m_settings->remove(m_settingsKey);
+    }
+}
+
+void RVRepository::setUrl(const QString &urlStr)
+{
+    setUrl(QUrl(urlStr));
+}
+
+void RVRepository::setAuthenticationCredentials(const QString &user, const QString &password)
+{
+    m_user = user;
+    m_password = password;
+}
+
+void RVRepository::cancel()
+{
+    Q_EMIT cancelRefresh();
+}
+
+void RVRepository::dropRefresh()
+{
+    ++m_generation;
+    if (m_reply) {
+        m_reply->disconnect(this);
+        disconnect(m_reply);
+        m_reply->abort();
+        m_reply->deleteLater();
+        m_reply.clear();
+    }
+    if (m_manager) {
+        m_manager->disconnect(this);
+        m_manager->deleteLater();
+        m_manager.clear();
+    }
+    if (m_descFetch) {
+        m_descFetch->disconnect(this);
+        disconnect(m_descFetch);
+        m_descFetch->cancel();
+        m_descFetch->deleteLater();
+        m_descFetch = nullptr;
+    }
+}
+
+void RVRepository::refresh()
+{
+    dropRefresh();
+    const int generation = m_generation;
+    RVLogger log;
+    log.log(5, "Refreshing repository('%s')", loggable(m_url).constData());
+    if (m_url.isEmpty()) {
+        m_listing.clear();
+        m_entries.clear();
+        Q_EMIT refreshDone(QNetworkReply::NoError);
+        return;
+    }
+
+    m_manager = new XNetworkAccessManager(this);
+    if (!m_proxyHost.isEmpty() && m_proxyPort > 0) {
+        const bool isFtp = m_url.scheme().toLower() == QLatin1String("ftp");
+        m_manager->setProxy(
+            QNetworkProxy(isFtp ? QNetworkProxy::FtpCachingProxy : QNetworkProxy::HttpProxy,
+                          m_proxyHost, static_cast<quint16>(m_proxyPort)));
+        log.log(5, "  Using proxy %s:%d", qUtf8Printable(m_proxyHost), m_proxyPort);
+    }
+    connect(m_manager, &QNetworkAccessManager::authenticationRequired, this,
+            &RVRepository::attemptAuthentication);
+    connect(m_manager, &QNetworkAccessManager::proxyAuthenticationRequired, this,
+            &RVRepository::relayProxyAuthenticationRequired);
+    connect(m_manager, &QNetworkAccessManager::sslErrors, this, &RVRepository::relaySslErrors);
+
+    NetworkDirRequest request(m_url);
+    request.setManager(m_manager);
+    const QPointer<XNetworkReply> reply = m_manager->getDirectory(request);
+    const QNetworkReply::NetworkError error = reply->error();
+    if (!reply->finished && error == QNetworkReply::NoError) {
+        follow(m_manager, reply);
+        return;
+    }
+
+    m_manager->deleteLater();
+    m_manager.clear();
+    if (reply->finished) {
+        directoryFinished(reply);
+    }
+    if (error == QNetworkReply::NoError || generation != m_generation) {
+        return;
+    }
+    // A listing that failed inside the call has been reported above. It is told once more, together
+    // with refreshDone(), as every listing that could not start: the page that waits for it goes
+    // on.
+    Q_EMIT networkError(reply);
+    if (reply) {
+        reply->abort();
+        reply->deleteLater();
+    }
+    if (generation == m_generation) {
+        Q_EMIT refreshDone(error);
+    }
+}
+
+void RVRepository::follow(XNetworkAccessManager *manager, XNetworkReply *reply)
+{
+    m_manager = manager;
+    m_reply = reply;
+    connect(manager, &XNetworkAccessManager::directoryFinished, this,
+            &RVRepository::directoryFinished);
+    connect(manager, &XNetworkAccessManager::directoryFinished, this,
+            &RVRepository::deleteSenderLater);
+    connect(this, &RVRepository::cancelRefresh, reply, &XNetworkReply::abort);
+    connect(reply, &QNetworkReply::errorOccurred, this,
+            qOverload<QNetworkReply::NetworkError>(&RVRepository::relayNetworkError));
+    connect(reply, &QNetworkReply::finished, reply, &QObject::deleteLater);
+}
+
+void RVRepository::directoryFinished(XNetworkReply *reply)
+{
+    m_reply.clear();
+    m_error = reply->error();
+    m_entries.clear();
+    RVLogger().log(5, "Finished directory fetch('%s'), Err=%d", loggable(m_url).constData(),
+                   static_cast<int>(m_error));
+    m_listing.clear();
+    reply->deleteLater();
+    if (m_error != QNetworkReply::NoError) {
+        Q_EMIT networkError(reply);
+        return;
+    }
+    m_listing = reply->entries;
+    filter();
+    fetchDescriptors();
+}
+
+void RVRepository::filter()
+{
+    const auto append = [this](const RVFilter &filter) {
+        QList<RVData> found;
+        filter.filterList(m_listing, found, m_paths);
+        m_entries.append(found);
+    };
+    m_entries.clear();
+    for (const RVFilter *filter : qAsConst(m_filters)) {
+        append(*filter);
+    }
+    if (m_filters.isEmpty()) {
+        append(RVFilter(QStringLiteral("*"), QString()));
+    }
+}
+
+void RVRepository::fetchDescriptors()
+{
+    const int generation = m_generation;
+    if (m_entries.isEmpty()) {
+        // The empty fetch below reports once more.
+        descFetchFinished();
+        if (generation != m_generation) {
+            return;
+        }
+    }
+    RVLogger().log(5, "Beginning descriptor fetch for '%s'", loggable(m_url).constData());
+    m_descFetch = new RVDescFetch(m_entries, m_user, m_password, this);
+    m_descFetch->proxyHost = m_proxyHost;
+    m_descFetch->proxyPort = m_proxyPort;
+    connect(m_descFetch, &RVDescFetch::finished, this, &RVRepository::descFetchFinished);
+    connect(m_descFetch, &RVDescFetch::authenticationRequired, this,
+            &RVRepository::attemptAuthentication);
+    connect(m_descFetch, &RVDescFetch::networkError, this,
+            qOverload<const QNetworkReply *>(&RVRepository::relayNetworkError));
+    connect(m_descFetch, &RVDescFetch::proxyAuthenticationRequired, this,
+            &RVRepository::relayProxyAuthenticationRequired);
+    connect(m_descFetch, &RVDescFetch::sslErrors, this, &RVRepository::relaySslErrors);
+    connect(this, &RVRepository::cancelRefresh, m_descFetch, &RVDescFetch::cancel);
+    m_descFetch->fetchAll();
+}
+
+void RVRepository::descFetchFinished()
+{
+    RVLogger().log(5, "Descriptor fetch finished for '%s'", loggable(m_url).constData());
+    if (m_descFetch) {
+        m_descFetch->disconnect(this);
+        disconnect(m_descFetch);
+        m_descFetch->deleteLater();
+        m_descFetch = nullptr;
+    }
+    sortEntries(m_entries, m_sortKey);
+    Q_EMIT refreshDone(m_error);
+}
+
+void RVRepository::attemptAuthentication(QNetworkReply *reply, QAuthenticator *auth)
+{
+    const bool isUnset = m_user.isEmpty() && m_password.isEmpty();
+    const bool wasRefused = auth->user() == m_user && auth->password() == m_password;
+    if (isUnset || wasRefused) {
+        Q_EMIT authenticationRequired(reply, auth);
+        return;
+    }
+    auth->setUser(m_user);
+    auth->setPassword(m_password);
+}
+
+void RVRepository::relayNetworkError(const QNetworkReply *reply)
+{
+    Q_EMIT networkError(reply);
+}
+
+void RVRepository::relayNetworkError(QNetworkReply::NetworkError /*error*/)
+{
+    Q_EMIT networkError(qobject_cast<const QNetworkReply *>(sender()));
+}
+
+void RVRepository::relayProxyAuthenticationRequired(const QNetworkProxy &proxy,
+                                                    QAuthenticator *auth)
+{
+    Q_EMIT proxyAuthenticationRequired(proxy, auth);
+}
+
+void RVRepository::relaySslErrors(QNetworkReply *reply, const QList<QSslError> &errors)
+{
+    Q_EMIT sslErrors(reply, errors);
+}
+
+void RVRepository::deleteSenderLater(XNetworkReply * /*reply*/)
+{
+    sender()->deleteLater();
+}

@@ -12,6 +12,7 @@
 #include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QObject>
+#include <QPointer>
 #include <QRegExp>
 #include <QSslError>
 #include <QUrl>
@@ -19,10 +20,13 @@
 class QSettings;
 class RVDescFetch;
 class RVFilter;
+class XNetworkAccessManager;
 class XNetworkReply;
 
 /// One update repository at run time: where it is, what it lists, and its current entries.
-/// refresh() ends with refreshDone(), or with networkError() alone when the listing failed.
+/// refresh() ends with refreshDone(): twice when the location lists no entry, after networkError()
+/// when the listing could not start, and not at all, networkError() being the last signal, when the
+/// listing failed later or no descriptor could be asked for.
 class RVRepository : public QObject
 {
     Q_OBJECT
@@ -77,6 +81,10 @@ private Q_SLOTS:
     void deleteSenderLater(XNetworkReply *reply);
 
 private:
+    friend struct RVRepositoryTestAccess;
+
+    void dropRefresh();
+    void follow(XNetworkAccessManager *manager, XNetworkReply *reply);
     void filter();
     void fetchDescriptors();
 
@@ -89,7 +97,11 @@ private:
     QUrl m_url;
     QList<RVData> m_entries;
     QList<RVFilter *> m_filters;
+    // Of the refresh that runs; a later one drops them and counts m_generation up.
+    QPointer<XNetworkAccessManager> m_manager;
+    QPointer<XNetworkReply> m_reply;
     RVDescFetch *m_descFetch = nullptr;
+    int m_generation = 0;
     QNetworkReply::NetworkError m_error = QNetworkReply::NoError;
     SortKey m_sortKey;
     QString m_proxyHost;
