@@ -35,6 +35,10 @@ public:
     /// sentence for the user.
     bool load(const RVPaths &paths, QString *error);
 
+    /// The system below `root` (absolute): its files, and from now on its settings instead of the
+    /// user's.
+    static RVPaths enterRoot(const QString &root);
+
     /// Languages by code ("de"); the empty one is the system's.
     void setLanguage(const QString &code);
     bool isSystemModified() const { return m_systemModified; }

@@ -4,9 +4,8 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDir>
+#include <QFileInfo>
 #include <QMessageBox>
-#include <QSettings>
 #include <QSocketNotifier>
 
 #include <csignal>
@@ -118,12 +117,7 @@ int main(int argc, char *argv[])
         if (directory.isEmpty() || !info.isDir()) {
             return fail(exitUsage, QStringLiteral("'%1' is not a directory.").arg(directory));
         }
-        const QString path = info.canonicalFilePath();
-        paths = RVPaths::under(path);
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                           path + QLatin1String("/.config"));
-        QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
-                           path + QLatin1String("/etc/xdg"));
+        paths = HostWindow::enterRoot(info.canonicalFilePath());
     }
     if (!display) {
         return fail(exitFailure, QStringLiteral("There is no display: DISPLAY is not set."));
