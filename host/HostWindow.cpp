@@ -95,7 +95,13 @@ QString sentence(RVMainPage::ExceptionType type, const RVPaths &paths)
 HostWindow::HostWindow(QWidget *parent)
     : PlumeMainWindow(parent)
 {
+    // A static library's resources are linked in only when they are named.
+    Q_INIT_RESOURCE(host);
+    Q_INIT_RESOURCE(host_translations);
     setObjectName(QStringLiteral("hostWindow"));
+    setWindowIcon(QIcon(QStringLiteral(":/host/ravel.svg")));
+    // A bare X server names no icon theme.
+    QIcon::setFallbackThemeName(QStringLiteral("Adwaita"));
     buildMenus();
     buildCentre();
     buildStatusBar();
@@ -148,6 +154,7 @@ void HostWindow::buildMenus()
 
     m_viewMenu = menuBar()->addMenu(QString());
     m_showHelpAction = m_viewMenu->addAction(QString());
+    m_showHelpAction->setObjectName(QStringLiteral("showHelpAction"));
     m_showHelpAction->setCheckable(true);
     m_showHelpAction->setChecked(true);
     m_showHelpAction->setShortcut(Qt::Key_F1);
@@ -158,8 +165,7 @@ void HostWindow::buildMenus()
     fillLanguageMenu();
 
     m_helpMenu = menuBar()->addMenu(QString());
-    m_aboutAction =
-        m_helpMenu->addAction(QApplication::windowIcon(), QString(), this, &HostWindow::about);
+    m_aboutAction = m_helpMenu->addAction(windowIcon(), QString(), this, &HostWindow::about);
     m_aboutAction->setObjectName(QStringLiteral("aboutAction"));
     m_aboutQtAction = m_helpMenu->addAction(QString(), qApp, &QApplication::aboutQt);
 }
@@ -372,7 +378,7 @@ void HostWindow::markModified()
 void HostWindow::about()
 {
     QMessageBox box(QMessageBox::NoIcon, tr("About Ravel"), QString(), QMessageBox::Close, this);
-    box.setIconPixmap(QApplication::windowIcon().pixmap(64, 64));
+    box.setIconPixmap(windowIcon().pixmap(64, 64));
     box.setTextFormat(Qt::RichText);
     box.setText(QStringLiteral("<h3>Ravel %1</h3>").arg(QCoreApplication::applicationVersion())
                 + QStringLiteral("<p>%1</p>").arg(tr("Software updates for thin clients.")));

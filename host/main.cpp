@@ -123,9 +123,9 @@ int main(int argc, char *argv[])
         return fail(exitFailure, QStringLiteral("There is no display: DISPLAY is not set."));
     }
 
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/host/ravel.svg")));
     closeWindowsOnSignals();
     HostWindow window;
+    QApplication::setWindowIcon(window.windowIcon());
     QString error;
     if (!window.load(paths, &error)) {
         fail(exitFailure, error);

@@ -1,0 +1,107 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>HostWindow</name>
+    <message>
+        <source>The directory with the repository definitions, "%1", does not exist.</source>
+        <translation>Le répertoire des définitions de dépôts, « %1 », n’existe pas.</translation>
+    </message>
+    <message>
+        <source>A repository definition file in "%1" is not a valid repository list. The log file says which one.</source>
+        <translation>Un fichier de définition dans « %1 » n’est pas une liste de dépôts valide. Le journal dit lequel.</translation>
+    </message>
+    <message>
+        <source>The definition files in "%1" define no repository.</source>
+        <translation>Les fichiers de définition dans « %1 » ne définissent aucun dépôt.</translation>
+    </message>
+    <message>
+        <source>The identification of the installed image, "%1", cannot be read.</source>
+        <translation>L’identification de l’image installée, « %1 », n’est pas lisible.</translation>
+    </message>
+    <message>
+        <source>The facts about the installed system cannot be read.</source>
+        <translation>Les informations sur le système installé ne sont pas lisibles.</translation>
+    </message>
+    <message>
+        <source>The update pages could not be opened: %1</source>
+        <translation>Les pages de mise à jour n’ont pas pu être ouvertes : %1</translation>
+    </message>
+    <message>
+        <source>The update pages could not be opened.</source>
+        <translation>Les pages de mise à jour n’ont pas pu être ouvertes.</translation>
+    </message>
+    <message>
+        <source>About Ravel</source>
+        <translation>À propos de Ravel</translation>
+    </message>
+    <message>
+        <source>Software updates for thin clients.</source>
+        <translation>Mises à jour logicielles pour clients légers.</translation>
+    </message>
+    <message>
+        <source>Copyright 2026 the Ravel developers. This program is free software: you may redistribute and change it under the terms of the GNU General Public License, version 2 or, at your option, any later version. It comes without any warranty.</source>
+        <translation>Copyright 2026 les développeurs de Ravel. Ce programme est un logiciel libre : vous pouvez le redistribuer et le modifier selon les termes de la licence publique générale GNU, version 2 ou, à votre choix, toute version ultérieure. Il est fourni sans aucune garantie.</translation>
+    </message>
+    <message>
+        <source>An operation is still running. Please wait for its end.</source>
+        <translation>Une opération est en cours. Veuillez attendre qu’elle se termine.</translation>
+    </message>
+    <message>
+        <source>Ravel: Thin Client Configuration</source>
+        <translation>Ravel : configuration du client léger</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>Show &amp;Help</source>
+        <translation>Afficher l’&amp;aide</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Langue</translation>
+    </message>
+    <message>
+        <source>&amp;System Language</source>
+        <translation>Langue du &amp;système</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>&amp;About Ravel</source>
+        <translation>À &amp;propos de Ravel</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>À propos de &amp;Qt</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>System modified</source>
+        <translation>Système modifié</translation>
+    </message>
+    <message>
+        <source>Updates were installed since this window was opened.</source>
+        <translation>Des mises à jour ont été installées depuis l’ouverture de cette fenêtre.</translation>
+    </message>
+</context>
+</TS>
