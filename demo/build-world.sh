@@ -227,7 +227,7 @@ offer_image()
   {
     echo '<?xml version="1.0" encoding="UTF-8"?>'
     echo '<update_data>'
-    elements name "tc-system $version"
+    elements name tc-system
     texts title "Complete system, release $version" "Vollständiges System, Ausgabe $version" \
       "Système complet, version $version"
     texts notes '<p>Replaces everything on the device; settings are kept.</p>' \

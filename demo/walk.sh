@@ -1,0 +1,62 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Ravel developers
+# SPDX-License-Identifier: GPL-2.0-or-later
+#
+# walk.sh BUILD_DIR: walks through the demo world without a person: a virtual display, a window
+# manager, a fresh world, and the program of tests/e2e/walk.cpp. One line a step; the exit code is
+# that program's. Screenshots are in BUILD_DIR/screenshots afterwards.
+set -euo pipefail
+
+if [ $# -ne 1 ] || [ ! -d "$1" ]; then
+  echo "usage: ${0##*/} BUILD_DIR" >&2
+  exit 2
+fi
+build=$(cd -- "$1" && pwd -P)
+demo=$(cd -- "$(dirname -- "$(readlink -f -- "$0")")" && pwd -P)
+world=$build/demo/walk
+"$demo/build-world.sh" "$world"
+
+# Nothing of the person who runs this: no settings, no theme, no language.
+home=$world/home
+rm -rf -- "$home"
+mkdir -- "$home"
+mkdir -m 0700 -- "$home/run"
+export HOME=$home XDG_CONFIG_HOME=$home/.config XDG_CACHE_HOME=$home/.cache XDG_RUNTIME_DIR=$home/run
+export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb
+unset WAYLAND_DISPLAY QT_QPA_PLATFORMTHEME QT_STYLE_OVERRIDE QT_SCALE_FACTOR LANGUAGE
+
+pids=()
+# shellcheck disable=SC2317  # the trap calls it
+stop()
+{
+  local pid
+  for pid in "${pids[@]}"; do
+    kill "$pid" 2>/dev/null || true
+    wait "$pid" 2>/dev/null || true
+  done
+}
+trap stop EXIT
+
+Xvfb -displayfd 3 -screen 0 1280x1000x24 -nolisten tcp 3>"$home/display" 2>"$home/xvfb.log" &
+pids=("$!")
+for ((i = 0; i < 100; ++i)); do
+  [ ! -s "$home/display" ] || break
+  sleep 0.1
+done
+if [ ! -s "$home/display" ]; then
+  echo "walk: no virtual display" >&2
+  cat "$home/xvfb.log" >&2
+  exit 1
+fi
+DISPLAY=:$(cat "$home/display")
+export DISPLAY
+# A window manager gives dialogs their frames and the focus.
+openbox --sm-disable 2>"$home/openbox.log" &
+pids=("$!" "${pids[@]}")
+
+mkdir -p -- "$build/screenshots"
+status=0
+timeout --kill-after=5 120 \
+  "$build/tests/e2e/ravel-walk" "$world/root" "$build/screenshots" || status=$?
+[ "$status" -ne 124 ] || echo "walk: stopped after two minutes" >&2
+exit "$status"
