@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QList>
 
 #include <cerrno>
@@ -57,6 +56,7 @@ public:
 
     void run()
     {
+        ::fchmod(m_topFd, S_IRWXU);
         bool progress = true;
         while (progress) {
             progress = false;
@@ -126,9 +126,10 @@ private:
 
 TemporaryDir::TemporaryDir()
 {
-    const QString base = QFileInfo(QDir::tempPath()).absoluteFilePath();
+    // Empty when there is no such directory.
+    const QString base = QDir::tempPath();
     QByteArray name = QFile::encodeName(base + QStringLiteral("/plume-XXXXXX"));
-    if (!::mkdtemp(name.data())) {
+    if (base.isEmpty() || !::mkdtemp(name.data())) {
         return;
     }
     m_fd = ::open(name.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
