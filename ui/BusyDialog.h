@@ -3,17 +3,26 @@
 #pragma once
 
 #include <QDialog>
+#include <QList>
 #include <QProcess>
+#include <QTextDecoder>
+#include <QTimer>
+
+#include <memory>
 
 class QDialogButtonBox;
 class QGroupBox;
 class QLabel;
 class QProgressBar;
+class QPushButton;
 class QTextDocument;
 class QTextEdit;
 
 /// Progress of a download and of the installation after it, with the installer's output on request.
-/// canceled() is its only signal, and comes at most once. Deletes itself when it is closed after the end.
+/// canceled() is its only signal, and comes at most once. Closing the dialog means Cancel while
+/// there is a Cancel button and nothing while there is none; after the end it closes, and deletes
+/// itself. The details hold the last 20,000 lines and two million characters of the output, in
+/// lines of at most a thousand: an installer can write for hours.
 class BusyDialog : public QDialog
 {
     Q_OBJECT
@@ -57,9 +66,61 @@ public Q_SLOTS:
     void incValueChanged(int value);
     void processDestroyed(QObject *obj);
 
+    /// Closing, and the Escape key.
+    void reject() override;
+
 Q_SIGNALS:
     void canceled();
 
+protected:
+    bool event(QEvent *event) override;
+
+private Q_SLOTS:
+    void flushOutput();
+
 private:
+    /// One of the two output channels of the process.
+    struct Channel {
+        std::unique_ptr<QTextDecoder> decoder;
+        int column = 0;
+        bool afterReturn = false;
+        bool isError = false;
+    };
+    struct Output {
+        QString text;
+        bool isError;
+    };
+
+    void setup(const QString &labelText, const QString &cancelText, int minimum, int maximum);
+    void applyCancelText(const QString &text);
+    void updateNames();
+    void resetChannels();
+    void append(Channel &channel, const QByteArray &bytes);
+    void appendText(const QString &text, bool isError);
+    void trimDetails();
+    void scrollToEnd();
+    QPushButton *cancelButton() const;
+    QPushButton *closeButton() const;
+
+    QLabel *m_label = nullptr;
+    bool m_labelTextIsDefault = false;
+    bool m_cancelTextIsDefault = false;
+    QString m_cancelText;
+    QProgressBar *m_progressBar = nullptr;
+    QDialogButtonBox *m_buttonBox = nullptr;
+    bool m_autoClose = true;
+    bool m_autoReset = true;
     bool m_wasCanceled = false;
+    bool m_isFinished = false;
+    QGroupBox *m_detailsBox = nullptr;
+    QTextDocument *m_document = nullptr;
+    QTextEdit *m_detailsView = nullptr;
+    QProcess *m_process = nullptr;
+
+    Channel m_standardOutput;
+    Channel m_standardError;
+    /// Decoded output that is not in the document yet: runs of one channel, in order of arrival.
+    QList<Output> m_pending;
+    int m_pendingSize = 0;
+    QTimer m_flushTimer;
 };
