@@ -2,6 +2,91 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "archive/ArchiveDDImage.h"
 
+#include "archive/ImageQuestion.h"
+#include "archive/InstallScript.h"
+#include "core/RVLogger.h"
+
+#include <QFileInfo>
+#include <QPointer>
+#include <QProcessEnvironment>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cerrno>
+#include <sys/stat.h>
+
+namespace
+{
+
+/// A text for a line of the script's here-document, in which the shell still expands.
+QByteArray inHereDocument(const QString &text)
+{
+    QByteArray escaped;
+    for (const char c : text.toUtf8()) {
+        if (c == '\\' || c == '$' || c == '`') {
+            escaped += '\\';
+        }
+        escaped += c;
+    }
+    return escaped;
+}
+
+/// A text between the script's single quotes.
+QByteArray inQuotes(const QString &text)
+{
+    return text.toUtf8().replace('\'', "'\\''");
+}
+
+/// A path as one word of the script; the device's own paths need no quotes.
+QByteArray word(const QString &path)
+{
+    static const QRegularExpression harmless(QStringLiteral("\\A[A-Za-z0-9/._-]+\\z"));
+    return harmless.match(path).hasMatch() ? path.toUtf8() : '\'' + inQuotes(path) + '\'';
+}
+
+/// A host in front of a port, where an IPv6 address needs its brackets.
+QString hostBeforePort(const QString &host)
+{
+    return host.contains(QLatin1Char(':')) && !host.startsWith(QLatin1Char('['))
+        ? QLatin1Char('[') + host + QLatin1Char(']')
+        : host;
+}
+
+bool isHost(const QString &text)
+{
+    QUrl url;
+    url.setHost(text);
+    return !url.host().isEmpty();
+}
+
+bool hasControlCharacter(const QString &text)
+{
+    return std::any_of(text.begin(), text.end(), [](QChar c) {
+        return c.category() == QChar::Other_Control;
+    });
+}
+
+/// What would make the shell run or find something else than the script says.
+void removeShellSettings(QProcess *proc)
+{
+    static const QStringList settings{
+        QStringLiteral("BASH_ENV"), QStringLiteral("ENV"),    QStringLiteral("SHELLOPTS"),
+        QStringLiteral("BASHOPTS"), QStringLiteral("CDPATH"), QStringLiteral("IFS"),
+    };
+    QProcessEnvironment environment = proc->processEnvironment();
+    if (environment.isEmpty()) {
+        environment = QProcessEnvironment::systemEnvironment();
+    }
+    for (const QString &name : environment.keys()) {
+        if (settings.contains(name) || name.startsWith(QLatin1String("BASH_FUNC_"))) {
+            environment.remove(name);
+        }
+    }
+    proc->setProcessEnvironment(environment);
+}
+
+} // namespace
+
 ArchiveDDImage::ArchiveDDImage(const QUrl &url, QObject *parent, const RVPaths &paths)
     : ArchiveBaseClass(url, parent)
     , m_paths(paths)
@@ -20,11 +105,101 @@ bool ArchiveDDImage::extract(QIODevice *source) const
 
 void ArchiveDDImage::install(QProcess *proc)
 {
-    proc->start(m_paths.trueTool, QStringList());
+    RVLogger().log(5, "Preparing for image installation of '%s'",
+                   qUtf8Printable(m_url.toString(QUrl::RemovePassword)));
+    if (hasControlCharacter(fileName())) {
+        failInstallation(proc, QStringLiteral("The image's file name holds a control character"),
+                         m_paths);
+        return;
+    }
+    // The question runs an event loop, in which the section and its process may go away.
+    const QPointer<QProcess> process(proc);
+    const bool confirmed = m_question && m_question->confirmImageInstall();
+    if (!process) {
+        return;
+    }
+    if (!confirmed) {
+        RVLogger().log(5, "Image installation aborted by user.");
+        proc->start(m_paths.trueTool, QStringList());
+        return;
+    }
+    Q_EMIT installStarted();
+    if (!writeInstallScript(script())) {
+        failInstallation(
+            proc, QStringLiteral("Could not write ./RVinstall.sh: %1").arg(qt_error_string(errno)),
+            m_paths);
+        return;
+    }
+    removeShellSettings(proc);
+    // The configuration holds a password. The process inherits the mask, and start() forks at once.
+    const mode_t mask = ::umask(077);
+    proc->start(QStringLiteral("bash"), {QStringLiteral("./RVinstall.sh")});
+    ::umask(mask);
 }
 
 void ArchiveDDImage::setProxy(const QString &host, int port)
 {
     m_proxyHost = host;
     m_proxyPort = port;
+}
+
+QString ArchiveDDImage::fileName() const
+{
+    return QFileInfo(m_url.path()).fileName();
+}
+
+QByteArrayList ArchiveDDImage::proxyLines() const
+{
+    if (m_proxyHost.isEmpty() || m_proxyPort <= 0) {
+        return {};
+    }
+    if (!isHost(m_proxyHost)) {
+        RVLogger().log(4, "The proxy '%s' is no host name and is left out",
+                       qUtf8Printable(m_proxyHost));
+        return {};
+    }
+    const bool isFtp = m_url.scheme().compare(QLatin1String("ftp"), Qt::CaseInsensitive) == 0;
+    return {QByteArray("remote-deploy.proxy=") + (isFtp ? "ftp://" : "")
+            + inHereDocument(hostBeforePort(m_proxyHost)) + ':' + QByteArray::number(m_proxyPort)};
+}
+
+QByteArray ArchiveDDImage::script() const
+{
+    const QString deployDir = m_paths.writableDir + QStringLiteral("/CV");
+    const bool isEtcReadOnly =
+        QFileInfo(m_paths.etcDir).isSymLink() && QFileInfo(m_paths.writableDir).isDir();
+    const QString autoUpdateDir =
+        (isEtcReadOnly ? m_paths.writableDir : m_paths.etcDir) + QStringLiteral("/auto-update");
+    const QByteArray port = m_url.port() >= 0 ? ':' + QByteArray::number(m_url.port()) : "";
+
+    // Concatenated: a value that looks like a placeholder stays what it is.
+    const QByteArrayList configuration{
+        "#!/bin/bash",
+        "mkdir -p " + word(deployDir),
+        "if ! cd " + word(deployDir) + "; then",
+        "    echo 'Could not mkdir " + inQuotes(deployDir) + "!' >&2",
+        "    exit 1",
+        "fi",
+        "cat >Snapstow.conf <<EOF",
+        "[General]",
+        "autostart=remote-deploy",
+        "remote-deploy.proto=" + inHereDocument(m_url.scheme()),
+        "remote-deploy.host=" + inHereDocument(hostBeforePort(m_url.host(QUrl::FullyEncoded)))
+            + port,
+        "remote-deploy.user=" + inHereDocument(m_url.userName(QUrl::FullyEncoded)),
+        "remote-deploy.pass=" + inHereDocument(m_url.password(QUrl::FullyEncoded)),
+        "remote-deploy.path=" + inHereDocument(m_url.path(QUrl::FullyEncoded)),
+    };
+    const QByteArrayList update{
+        "EOF",
+        "mkdir -p " + word(autoUpdateDir),
+        "if ! cd " + word(autoUpdateDir) + "; then",
+        "  echo 'Could not mkdir " + inQuotes(autoUpdateDir) + "' >&2",
+        "  exit 1",
+        "fi",
+        "echo '" + inQuotes(fileName()) + "' >new_image",
+        "cd /",
+        "exec " + word(m_paths.rebootTool),
+    };
+    return (configuration + proxyLines() + update).join('\n') + '\n';
 }

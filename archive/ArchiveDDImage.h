@@ -5,6 +5,8 @@
 #include "archive/ArchiveBaseClass.h"
 #include "core/RVPaths.h"
 
+#include <QByteArrayList>
+
 class ImageQuestion;
 
 /// A compressed full disk image. The program never downloads it: installing it means asking, then
@@ -30,6 +32,11 @@ public:
 
 private:
     Q_DISABLE_COPY_MOVE(ArchiveDDImage)
+
+    QString fileName() const;
+    /// Empty without a proxy.
+    QByteArrayList proxyLines() const;
+    QByteArray script() const;
 
     const RVPaths m_paths;
     bool m_urlHandled;

@@ -115,13 +115,9 @@ void ArchiveDeb::install(QProcess *proc)
         proc->start(m_paths.shell, {QStringLiteral("./RVinstall.sh")});
         return;
     }
-    const QString reason =
-        QStringLiteral("Could not write ./RVinstall.sh: %1").arg(qt_error_string(errno));
-    RVLogger().log(3, "%s", qUtf8Printable(reason));
-    // Whoever watches the process learns of it the way it learns of every failed installation.
-    proc->start(m_paths.shell,
-                {QStringLiteral("-c"), QStringLiteral("printf '%s\\n' \"$1\" >&2; exit 1"),
-                 QStringLiteral("RVinstall.sh"), reason});
+    failInstallation(
+        proc, QStringLiteral("Could not write ./RVinstall.sh: %1").arg(qt_error_string(errno)),
+        m_paths);
 }
 
 void ArchiveDeb::setProxy(const QString &host, int port)

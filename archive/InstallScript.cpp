@@ -2,8 +2,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "archive/InstallScript.h"
 
-#include <QFile>
+#include "core/RVLogger.h"
+#include "core/RVPaths.h"
 
+#include <QFile>
+#include <QProcess>
+
+#include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -18,9 +23,19 @@ bool writeInstallScript(const QByteArray &lines)
     QFile script;
     const bool written = script.open(handle, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)
         && script.write(lines) == lines.size() && script.flush();
+    const int reason = errno;
     script.close();
     if (!written) {
         ::unlink(fileName);
+        errno = reason;
     }
     return written;
+}
+
+void failInstallation(QProcess *proc, const QString &reason, const RVPaths &paths)
+{
+    RVLogger().log(3, "%s", qUtf8Printable(reason));
+    proc->start(paths.shell,
+                {QStringLiteral("-c"), QStringLiteral("printf '%s\\n' \"$1\" >&2; exit 1"),
+                 QStringLiteral("RVinstall.sh"), reason});
 }

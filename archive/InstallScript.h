@@ -4,7 +4,16 @@
 
 #include <QByteArray>
 
+class QProcess;
+class QString;
+struct RVPaths;
+
 /// Puts `lines` into "./RVinstall.sh", the script that an installer process runs. It replaces
 /// whatever has that name: a planted link is never followed. Mode 0700, since a script can hold a
-/// password. False, and no script, when it could not be written whole.
+/// password. False, and no script, when it could not be written whole; errno says why.
 bool writeInstallScript(const QByteArray &lines);
+
+/// Makes `proc` an installation that fails: it says `reason` on standard error and exits with 1, so
+/// that whoever watches learns of it the way it learns of every failed installation. Logged at
+/// level 3.
+void failInstallation(QProcess *proc, const QString &reason, const RVPaths &paths);
