@@ -7,6 +7,7 @@
 #include "core/RVLogger.h"
 #include "ui/BusyDialog.h"
 #include "ui/ItemDetailsDialog.h"
+#include "ui/RVChoiceItem.h"
 #include "ui/TableLabelItem.h"
 #include "ui/TableRadioButtonItem.h"
 
@@ -24,8 +25,8 @@ constexpr int unshrunkLength = 7;
 constexpr int smallestHeight = 126;
 constexpr int largestHeight = 300;
 constexpr int smallestLabelWidth = 50;
-// Line height of the font that the pixel sizes were chosen for.
-constexpr int referenceLine = 18;
+// Line height up to which the pixel heights do; they grow with a larger font.
+constexpr int referenceLine = 22;
 
 // Names, titles and versions come from a server: what is shown of them is bounded.
 QString shown(const QString &text)
@@ -49,6 +50,20 @@ public:
                     : SelectionTable::tr("%1, not selected",
                                          "accessible text; the argument is an update"))
             .arg(value.toString());
+    }
+};
+
+// A version reads from left to right in every language.
+class VersionDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->direction = Qt::LeftToRight;
     }
 };
 
@@ -103,9 +118,15 @@ SelectionTable::SelectionTable(const QList<RVData> &entries, SelectionTableType 
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setTabKeyNavigation(false);
     setItemDelegateForColumn(UpdateColumn, m_labelItem);
+    auto *versions = new VersionDelegate(this);
+    setItemDelegateForColumn(InstalledColumn, versions);
+    setItemDelegateForColumn(OfferedColumn, versions);
     if (m_type == RadioButtons) {
         m_radioItem = new TableRadioButtonItem(this);
         setItemDelegateForColumn(ChoiceColumn, m_radioItem);
+    } else {
+        setItemDelegateForColumn(ChoiceColumn,
+                                 new RVChoiceItem(QStyle::PE_IndicatorCheckBox, this));
     }
     for (int row = 0; row < m_entries.size(); ++row) {
         fillRow(row, osInfo);
@@ -117,6 +138,12 @@ SelectionTable::SelectionTable(const QList<RVData> &entries, SelectionTableType 
         setColumnHidden(InstalledColumn, true);
         horizontalHeader()->hide();
         connect(this, &QTableWidget::cellClicked, this, &SelectionTable::radioClicked);
+    } else {
+        connect(this, &QTableWidget::cellClicked, this, [this](int row, int column) {
+            if (column == ChoiceColumn) {
+                toggle(row);
+            }
+        });
     }
     retranslateUi();
     applyFonts();
@@ -368,7 +395,8 @@ void SelectionTable::retranslateUi()
 void SelectionTable::resizeEvent(QResizeEvent *event)
 {
     QTableWidget::resizeEvent(event);
-    const int width = qMax(smallestLabelWidth, event->size().width() - m_fixedWidth);
+    // The base class may have shown or hidden the scroll bar: the event's own size is stale then.
+    const int width = qMax(smallestLabelWidth, viewport()->width() - m_fixedWidth);
     if (width != columnWidth(UpdateColumn)) {
         setColumnWidth(UpdateColumn, width);
         resizeRowsToContents();
@@ -398,8 +426,7 @@ void SelectionTable::keyPressEvent(QKeyEvent *event)
     if (m_type == RadioButtons) {
         radioClicked(row, currentColumn());
     } else {
-        QTableWidgetItem *choice = item(row, ChoiceColumn);
-        choice->setCheckState(choice->checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+        toggle(row);
     }
 }
 
@@ -436,6 +463,12 @@ void SelectionTable::fillRow(int row, const OSInfoBaseClass *osInfo)
         setVersion(item(row, InstalledColumn), installed);
     }
     setVersion(item(row, OfferedColumn), offered.toString());
+}
+
+void SelectionTable::toggle(int row)
+{
+    QTableWidgetItem *choice = item(row, ChoiceColumn);
+    choice->setCheckState(choice->checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
 }
 
 void SelectionTable::applyFonts()

@@ -107,6 +107,7 @@ private:
     };
 
     void fillRow(int row, const OSInfoBaseClass *osInfo);
+    void toggle(int row);
     void applyFonts();
     void fitToContents();
     void endInstallation();

@@ -13,7 +13,7 @@ namespace
 {
 
 constexpr int horizontalMargin = 6;
-constexpr int verticalMargin = 3;
+constexpr int verticalMargin = 4;
 
 // Never fetches anything: an image that names a FIFO would stop the layout for ever.
 class LabelDocument : public QTextDocument

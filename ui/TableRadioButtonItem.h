@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "ui/RVChoiceItem.h"
 
-/// Paints a checkable cell as a radio button that is on while the item is checked. It only paints:
-/// the table turns a row on, so that a second click never turns it off.
-class TableRadioButtonItem : public QStyledItemDelegate
+/// Paints a checkable cell as a radio button that is on while the item is checked.
+class TableRadioButtonItem : public RVChoiceItem
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(TableRadioButtonItem)
@@ -14,12 +13,4 @@ class TableRadioButtonItem : public QStyledItemDelegate
 public:
     explicit TableRadioButtonItem(QObject *parent = nullptr);
     ~TableRadioButtonItem() override;
-
-    void paint(QPainter *painter, const QStyleOptionViewItem &option,
-               const QModelIndex &index) const override;
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
-
-protected:
-    bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
-                     const QModelIndex &index) override;
 };
