@@ -266,6 +266,7 @@ void RVInstallProc::startInstallation()
     if (!proxyHost.isEmpty() && proxyPort > 0) {
         first->setProxy(proxyHost, proxyPort);
     }
+    first->setImageQuestion(imageQuestion);
     const QPointer<RVInstallProc> alive(this);
     first->install(this);
     if (alive) {

@@ -16,6 +16,7 @@
 
 #include <memory>
 
+class ImageQuestion;
 class TemporaryDir;
 
 /// Downloads and unpacks a batch of updates and is itself the process in which their installer
@@ -42,6 +43,9 @@ public:
     /// Written before start(); a port of 0 or less means no proxy.
     QString proxyHost;
     int proxyPort = -2;
+    /// Written before start(); not owned, and alive until the installation has begun. Without one a
+    /// full image is never installed.
+    ImageQuestion *imageQuestion = nullptr;
 
 public Q_SLOTS:
     /// Starts the downloads, or the installation at once when the first archive is not extracted.

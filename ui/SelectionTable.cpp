@@ -103,6 +103,7 @@ SelectionTable::SelectionTable(const QList<RVData> &entries, SelectionTableType 
                                const OSInfoBaseClass *osInfo, QWidget *parent, const RVPaths &paths)
     : QTableWidget(entries.size(), ColumnCount, parent)
     , m_paths(paths)
+    , m_imageQuestion(paths)
     , m_entries(entries)
     , m_type(type)
     , m_labelItem(new TableLabelItem(true, this))
@@ -243,6 +244,7 @@ void SelectionTable::install()
     m_procedure = new RVInstallProc(batch, m_user, m_password, this, m_paths);
     m_procedure->proxyHost = m_proxyHost;
     m_procedure->proxyPort = m_proxyPort;
+    m_procedure->imageQuestion = &m_imageQuestion;
     connect(m_procedure, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
             &SelectionTable::incInstallFinished);
     connect(m_procedure, &RVInstallProc::networkError, this, &SelectionTable::relayNetworkError);

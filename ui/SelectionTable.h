@@ -4,6 +4,7 @@
 
 #include "core/RVPaths.h"
 #include "repository/RVData.h"
+#include "ui/ImageInstallBox.h"
 
 #include <QHash>
 #include <QList>
@@ -113,6 +114,7 @@ private:
     void endInstallation();
 
     const RVPaths m_paths;
+    ImageInstallBox m_imageQuestion;
     const QList<RVData> m_entries;
     const SelectionTableType m_type;
     TableRadioButtonItem *m_radioItem = nullptr;

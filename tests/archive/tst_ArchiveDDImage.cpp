@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "archive/ArchiveDDImage.h"
 #include "archive/ImageQuestion.h"
+#include "archive/RVInstallProc.h"
 #include "tests/support/FakeRoot.h"
 #include "tests/support/LogFile.h"
 #include "tests/support/WarningGuard.h"
@@ -98,6 +99,8 @@ private Q_SLOTS:
     void scriptThatCannotBeWritten();
     void plantedScriptIsReplaced();
     void processGoneWhileAsking();
+    void isAskedThroughTheProcedure_data();
+    void isAskedThroughTheProcedure();
 
 private:
     /// Installs `url` with a yes below the private root, to the end; the exit code.
@@ -626,6 +629,33 @@ void TestArchiveDDImage::processGoneWhileAsking()
     image.install(m_process.get());
     QCOMPARE(started.count(), 0);
     QVERIFY(!QFile::exists(QStringLiteral("RVinstall.sh")));
+}
+
+void TestArchiveDDImage::isAskedThroughTheProcedure_data()
+{
+    QTest::addColumn<bool>("confirmed");
+    QTest::newRow("yes") << true;
+    QTest::newRow("no") << false;
+}
+
+void TestArchiveDDImage::isAskedThroughTheProcedure()
+{
+    QFETCH(bool, confirmed);
+    const QUrl url(QStringLiteral("http://h/x.dd.gz"));
+    Answer answer(confirmed);
+    {
+        RVInstallProc procedure(
+            RVData(url, QUrl(QStringLiteral("http://h/x.xml")), nullptr, m_root->paths()), nullptr,
+            m_root->paths());
+        procedure.imageQuestion = &answer;
+        QSignalSpy started(&procedure, &RVInstallProc::installStarted);
+        procedure.start();
+        QVERIFY(procedure.waitForFinished(10000));
+        QCOMPARE(procedure.exitCode(), 0);
+        QCOMPARE(started.count(), confirmed ? 1 : 0);
+    }
+    QCOMPARE(answer.count, 1);
+    QCOMPARE(QFile::exists(m_root->path() + QStringLiteral("/reboot.log")), confirmed);
 }
 
 QTEST_GUILESS_MAIN(TestArchiveDDImage)

@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "tests/support/LogFile.h"
+#include "tests/support/WarningGuard.h"
+#include "ui/ImageInstallBox.h"
+#include "ui/RVStyle.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <QtTest>
+
+#include <functional>
+
+namespace
+{
+
+/// Asks, and does `act` with the box as soon as it is open.
+bool ask(const std::function<void(QMessageBox *)> &act)
+{
+    ImageInstallBox question;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (box) {
+            timer.stop();
+            act(box);
+        }
+    });
+    timer.start(0);
+    return question.confirmImageInstall();
+}
+
+QImage picture(const QIcon &icon)
+{
+    return icon.pixmap(16, 16).toImage();
+}
+
+} // namespace
+
+class TestImageInstallBox : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void saysWhatWillHappen();
+    void answers_data();
+    void answers();
+};
+
+void TestImageInstallBox::saysWhatWillHappen()
+{
+    const LogFile log;
+    WarningGuard warnings;
+    warnings.allow(QStringLiteral("^This plugin does not support propagateSizeHints"));
+    ask([](QMessageBox *box) {
+        const RVStyle style;
+        QCOMPARE(box->parentWidget(), nullptr);
+        QVERIFY(box->isModal());
+        QCOMPARE(box->icon(), QMessageBox::Warning);
+        QCOMPARE(box->text(), QStringLiteral("Full-Image install pending."));
+        QCOMPARE(box->informativeText(),
+                 QStringLiteral("Installation of a new image will force a reboot and completely "
+                                "wipe out the existing disk image on the thin client, including "
+                                "all settings.  Do you want to continue?"));
+        QCOMPARE(box->standardButtons(), QMessageBox::Abort | QMessageBox::Apply);
+        QCOMPARE(picture(box->button(QMessageBox::Abort)->icon()),
+                 picture(style.StdIcon(RVStyle::Abort)));
+        QCOMPARE(picture(box->button(QMessageBox::Apply)->icon()),
+                 picture(style.StdIcon(RVStyle::Apply)));
+        QVERIFY(!box->button(QMessageBox::Abort)->icon().isNull());
+        QVERIFY(!box->button(QMessageBox::Apply)->icon().isNull());
+        box->reject();
+    });
+    QVERIFY2(warnings.isClean(), warnings.report());
+}
+
+void TestImageInstallBox::answers_data()
+{
+    QTest::addColumn<QString>("act");
+    QTest::addColumn<bool>("confirmed");
+    QTest::newRow("Apply") << "apply" << true;
+    QTest::newRow("Abort") << "abort" << false;
+    QTest::newRow("Escape") << "escape" << false;
+    QTest::newRow("Return") << "return" << false;
+    QTest::newRow("closed") << "close" << false;
+    QTest::newRow("program quits") << "quit" << false;
+}
+
+void TestImageInstallBox::answers()
+{
+    QFETCH(QString, act);
+    WarningGuard warnings;
+    warnings.allow(QStringLiteral("^This plugin does not support propagateSizeHints"));
+    const bool confirmed = ask([&act](QMessageBox *box) {
+        if (act == QLatin1String("apply")) {
+            QTest::mouseClick(box->button(QMessageBox::Apply), Qt::LeftButton);
+        } else if (act == QLatin1String("abort")) {
+            QTest::mouseClick(box->button(QMessageBox::Abort), Qt::LeftButton);
+        } else if (act == QLatin1String("escape")) {
+            QTest::keyClick(box, Qt::Key_Escape);
+        } else if (act == QLatin1String("return")) {
+            QTest::keyClick(box, Qt::Key_Return);
+        } else if (act == QLatin1String("close")) {
+            box->close();
+        } else {
+            QCoreApplication::quit();
+        }
+    });
+    QTEST(confirmed, "confirmed");
+    QVERIFY2(warnings.isClean(), warnings.report());
+}
+
+QTEST_MAIN(TestImageInstallBox)
+#include "tst_ImageInstallBox.moc"

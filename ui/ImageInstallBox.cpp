@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "ui/ImageInstallBox.h"
+
+#include "ui/RVStyle.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QMessageBox>
+
+ImageInstallBox::ImageInstallBox(const RVPaths &paths)
+    : m_paths(paths)
+{
+}
+
+bool ImageInstallBox::confirmImageInstall()
+{
+    // The catalogues have the texts under the archive that asks.
+    QMessageBox box(QMessageBox::Warning, QString(),
+                    QCoreApplication::translate("ArchiveDDImage", "Full-Image install pending."),
+                    QMessageBox::Abort | QMessageBox::Apply);
+    box.setInformativeText(QCoreApplication::translate(
+        "ArchiveDDImage",
+        "Installation of a new image will force a reboot and completely wipe out the existing disk "
+        "image on the thin client, including all settings.  Do you want to continue?"));
+    const RVStyle style(m_paths);
+    box.button(QMessageBox::Abort)->setIcon(style.StdIcon(RVStyle::Abort));
+    box.button(QMessageBox::Apply)->setIcon(style.StdIcon(RVStyle::Apply));
+    box.setDefaultButton(QMessageBox::Abort);
+    box.setEscapeButton(QMessageBox::Abort);
+    // A box that ends without an answer, as when the program quits, is no yes.
+    return box.exec() == QMessageBox::Apply;
+}
