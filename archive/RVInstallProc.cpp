@@ -134,13 +134,20 @@ void RVInstallProc::cancel()
     }
     m_state = State::Ended;
     // Emptied first: what still arrives from these downloads is not theirs any more to unpack.
+    QList<QPointer<QNetworkReply>> replies;
     const QMap<ArchiveGeneric *, QNetworkReply *> pending = std::exchange(m_pending, {});
     for (auto it = pending.cbegin(); it != pending.cend(); ++it) {
         disconnect(it.key(), &ArchiveGeneric::extractFinished, this,
                    &RVInstallProc::incExtractFinished);
-        it.value()->abort();
-        it.value()->manager()->deleteLater();
-        it.value()->deleteLater();
+        replies.append(it.value());
+    }
+    for (const QPointer<QNetworkReply> &reply : std::as_const(replies)) {
+        // Whoever hears of an error may run an event loop, in which other replies end and go away.
+        if (reply) {
+            reply->abort();
+            reply->manager()->deleteLater();
+            reply->deleteLater();
+        }
     }
     Q_EMIT finished(1, QProcess::CrashExit);
 }

@@ -26,7 +26,7 @@ class TemporaryDir;
 /// errorOccurred(FailedToStart) when there was no installer program to start. A batch whose every
 /// download fails at once gets none by itself: cancel() ends it. It must not be destroyed while the
 /// installer runs; if it is, it waits: a dpkg whose reader goes away leaves packages
-/// half-installed.
+/// half-installed. In slots of its own signals use deleteLater().
 class RVInstallProc : public QProcess
 {
     Q_OBJECT
