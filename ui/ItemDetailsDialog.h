@@ -3,10 +3,18 @@
 #pragma once
 
 #include <QDialog>
+#include <QList>
+#include <QSharedPointer>
 
 class DescriptorGeneric;
+class NotesDocument;
+class QLabel;
+class QScrollArea;
+class QTextEdit;
 
-/// Everything that a descriptor says about one update. Not modal; deletes itself after OK.
+/// Everything that a descriptor says about one update. Not modal; deletes itself when it is closed.
+/// What comes from the descriptor is shown as text, but for the notes, whose markup is reduced by
+/// NotesDocument.
 class ItemDetailsDialog : public QDialog
 {
     Q_OBJECT
@@ -16,15 +24,35 @@ public:
     /// `descriptor` must outlive the dialog.
     explicit ItemDetailsDialog(const DescriptorGeneric *descriptor, QWidget *parent = nullptr,
                                Qt::WindowFlags flags = {});
+    /// Keeps the descriptor for as long as the dialog is open.
+    explicit ItemDetailsDialog(const QSharedPointer<const DescriptorGeneric> &descriptor,
+                               QWidget *parent = nullptr, Qt::WindowFlags flags = {});
     ~ItemDetailsDialog() override;
 
     void retranslateUi();
     /// A byte count in KiB, MiB or GiB.
     QString sizeStr(qint64 bytes) const;
+    /// What a reader of the descriptor is to see of one of its texts: XML descriptors keep the
+    /// texts as they stand in the document, with "&amp;" for "&".
+    static QString plainText(const QString &descriptorText);
+
+    /// OK, closing and Escape all end here.
+    void done(int result) override;
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void setup();
+    QString information() const;
+
+    QSharedPointer<const DescriptorGeneric> m_keptDescriptor;
     const DescriptorGeneric *m_descriptor;
+    QLabel *m_informationLabel = nullptr;
+    NotesDocument *m_notes = nullptr;
+    QTextEdit *m_notesView = nullptr;
+    QScrollArea *m_contentsArea = nullptr;
+    /// Name and version of each content file, row by row.
+    QList<QLabel *> m_contentLabels;
+    QLabel *m_moreLabel = nullptr;
 };
