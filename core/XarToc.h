@@ -3,22 +3,34 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 
 class QIODevice;
 
-/// The table of contents of a xar archive, an XML document with the root "xar": unpacked within a
-/// bound and checked against the archive's own checksum, but not parsed.
+/// The table of contents of a xar archive: a header, then a packed XML document with the root
+/// "xar". Everything in it is foreign, so it is unpacked within a bound, checked against the
+/// archive's own checksum, and walked without being built up in memory.
 class XarToc
 {
 public:
-    /// A larger table is refused; the XML readers take no larger document either.
+    /// A larger table, or one whose elements nest deeper, is refused; the readers of XML
+    /// descriptors take no larger document either.
     static constexpr int maxBytes = 16 * 1024 * 1024;
+    static constexpr int maxDepth = 256;
+    /// The longest path that the system takes.
+    static constexpr int maxPath = 4096;
 
     /// False when `source`, which is open and random-access, does not start with an archive header
     /// and an intact table.
     bool read(QIODevice *source);
-    const QByteArray &xml() const { return m_xml; }
+
+    /// The texts of the subdocuments, as they are stored.
+    const QList<QByteArray> &subdocuments() const { return m_subdocuments; }
+    int memberCount() const { return m_memberCount; }
 
 private:
-    QByteArray m_xml;
+    bool parse(const QByteArray &table);
+
+    QList<QByteArray> m_subdocuments;
+    int m_memberCount = 0;
 };
