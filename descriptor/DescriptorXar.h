@@ -37,6 +37,8 @@ public Q_SLOTS:
 private:
     Q_DISABLE_COPY_MOVE(DescriptorXar)
 
+    void readSubdocument(const QByteArray &text);
+
     bool m_urlHandled;
     LocaleString m_name;
     LocaleString m_title;
