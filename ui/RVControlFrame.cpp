@@ -132,13 +132,16 @@ void RVControlFrame::enterErrorState()
     showPage(ErrorPage);
 }
 
-void RVControlFrame::refreshTableData(QNetworkReply::NetworkError)
+void RVControlFrame::refreshTableData(QNetworkReply::NetworkError error)
 {
     m_retrieved = true;
     replaceTable(offered());
     // An open question stays open, or the user could never answer it: a refresh that needs
-    // credentials for some of its downloads ends all the same.
-    if (!m_canceled && currentPage() != AuthenticationPage) {
+    // credentials for some of its downloads ends all the same. A listing that failed has nothing to
+    // select from.
+    const bool asked = currentPage() == AuthenticationPage;
+    const bool failed = currentPage() == ErrorPage && error != QNetworkReply::NoError;
+    if (!m_canceled && !asked && !failed) {
         showPage(SelectionPage);
     }
 }

@@ -70,7 +70,7 @@ public Q_SLOTS:
     void enterAuthenticationState(QNetworkReply *reply, QAuthenticator *auth);
     void emitAuthentication();
     void enterErrorState();
-    /// The repository has finished a refresh. Its error does not matter: what there is, is shown.
+    /// The repository has finished a refresh: a new table, whatever the error.
     void refreshTableData(QNetworkReply::NetworkError error);
     /// The installed system has changed: the same entries anew, with what the user chose of them.
     void refreshTableData();
