@@ -257,11 +257,15 @@ void RVMainPage::relayModified()
 
 void RVMainPage::networkError(const QNetworkReply *reply)
 {
-    if (reply->error() != QNetworkReply::OperationCanceledError) {
-        m_logger->log(3, "Network Error '%d' for '%s'", static_cast<int>(reply->error()),
-                      qUtf8Printable(reply->url().toDisplayString()));
-        m_errorDialog->showNetworkError(reply);
+    // Repositories tell of a failed listing when it fails and again when it ends: one message is
+    // enough.
+    if (reply->error() == QNetworkReply::OperationCanceledError || m_reportedReply == reply) {
+        return;
     }
+    m_reportedReply = reply;
+    m_logger->log(3, "Network Error '%d' for '%s'", static_cast<int>(reply->error()),
+                  qUtf8Printable(reply->url().toDisplayString()));
+    m_errorDialog->showNetworkError(reply);
 }
 
 void RVMainPage::shareCredentials(const QString &userName, const QString &password)

@@ -12,6 +12,7 @@
 #include <QList>
 #include <QMap>
 #include <QNetworkReply>
+#include <QPointer>
 #include <QSslError>
 #include <QStringList>
 #include <QUrl>
@@ -105,5 +106,6 @@ private:
     QStringList m_acceptedCertificates;
     /// Questions that are open now, by fingerprint.
     QHash<QString, CertDialog *> m_certificateDialogs;
+    QPointer<const QNetworkReply> m_reportedReply;
     mutable std::vector<std::unique_ptr<repositoryStatsType>> m_stats;
 };
