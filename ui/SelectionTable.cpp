@@ -221,7 +221,7 @@ void SelectionTable::showDetails()
         return;
     }
     // On the window: the table may be replaced while the user still reads.
-    auto *dialog = new ItemDetailsDialog(m_entries.at(row).descriptor().data(), window());
+    auto *dialog = new ItemDetailsDialog(m_entries.at(row).descriptor(), window());
     dialog->show();
 }
 
