@@ -46,7 +46,7 @@ bool NetworkDirRequest::directoryCapable() const
 XNetworkReply *NetworkDirRequest::getDirectory()
 {
     if (!m_backend) {
-        throw NoBackend;
+        throw exceptionType(NoBackend);
     }
     return m_backend->getDirectory();
 }

@@ -18,6 +18,7 @@ public:
 
     explicit NetworkDirRequestBase(const QUrl &url);
     virtual ~NetworkDirRequestBase();
+    NetworkDirRequestBase &operator=(const NetworkDirRequestBase &) = delete;
 
     virtual bool directoryCapable() const = 0;
     /// Starts the listing; the reply has no parent and may be finished already.
@@ -28,7 +29,6 @@ public:
 
 protected:
     NetworkDirRequestBase(const NetworkDirRequestBase &) = default;
-    NetworkDirRequestBase &operator=(const NetworkDirRequestBase &) = delete;
 
     QNetworkRequest m_request;
 };
