@@ -19,11 +19,11 @@ RVData::RVData(const QUrl &archive, const QUrl &descriptor, QObject *parent, con
     , m_archiveUrl(archive)
     , m_descriptorUrl(descriptor.isEmpty() ? archive : descriptor)
     , m_descriptor(new DescriptorGeneric(m_descriptorUrl))
-    , m_archive(new ArchiveGeneric(m_archiveUrl, nullptr, paths))
 {
     if (!m_descriptor->urlIsHandled()) {
         warnUnhandled("descriptor", m_descriptorUrl);
     }
+    m_archive.reset(new ArchiveGeneric(m_archiveUrl, nullptr, paths));
     if (!m_archive->urlIsHandled()) {
         warnUnhandled("archive", m_archiveUrl);
     }
