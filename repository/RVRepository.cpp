@@ -9,10 +9,23 @@
 #include "network/XNetworkReply.h"
 #include "repository/RVFilter.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 
 namespace
 {
+
+/// A location may hold a password, so the file is its owner's alone before one goes into it.
+void makePrivate(const QString &fileName)
+{
+    QDir().mkpath(QFileInfo(fileName).path());
+    QFile file(fileName);
+    if (!file.exists() && !file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        return;
+    }
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+}
 
 /// For the log, which never shows a password.
 QByteArray loggable(const QUrl &url)
@@ -66,6 +79,7 @@ void RVRepository::setUrl(const QUrl &url)
         return;
     }
     if (m_url != m_defaultUrl) {
+        makePrivate(m_settings->fileName());
         m_settings->setValue(m_settingsKey, m_url.toString());
     } else {
         m_settings->remove(m_settingsKey);
@@ -151,6 +165,7 @@ void RVRepository::refresh()
     m_manager->deleteLater();
     m_manager.clear();
     if (reply->finished) {
+        m_reply = reply;
         directoryFinished(reply);
     }
     if (error == QNetworkReply::NoError || generation != m_generation) {
@@ -185,7 +200,11 @@ void RVRepository::follow(XNetworkAccessManager *manager, XNetworkReply *reply)
 
 void RVRepository::directoryFinished(XNetworkReply *reply)
 {
+    if (reply != m_reply) {
+        return; // its result is in already
+    }
     m_reply.clear();
+    disconnect(this, nullptr, reply, nullptr);
     m_error = reply->error();
     m_entries.clear();
     RVLogger().log(5, "Finished directory fetch('%s'), Err=%d", loggable(m_url).constData(),
