@@ -60,8 +60,8 @@ RVControlFrame::RVControlFrame(RVRepository *repository, const OSInfoBaseClass *
     layout->addLayout(m_pages);
     const RVStyle style(paths);
     m_pages->addWidget(makeSelectionPage(style));
-    m_pages->addWidget(makeRetrievalPage());
-    m_pages->addWidget(makeAuthenticationPage());
+    m_pages->addWidget(makeRetrievalPage(style));
+    m_pages->addWidget(makeAuthenticationPage(style));
     m_pages->setCurrentIndex(SelectionPage);
     m_pages->addWidget(makeErrorPage(style));
     connectRepository();
@@ -243,13 +243,14 @@ QWidget *RVControlFrame::makeSelectionPage(const RVStyle &style)
     return page;
 }
 
-QWidget *RVControlFrame::makeRetrievalPage()
+QWidget *RVControlFrame::makeRetrievalPage(const RVStyle &style)
 {
     auto *page = new QWidget;
     m_retrievalLabel = richLabel();
     m_retrievalBar = new QProgressBar;
     m_retrievalBar->setRange(0, 0);
     m_retrievalButtons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    m_retrievalButtons->button(QDialogButtonBox::Cancel)->setIcon(style.StdIcon(RVStyle::Cancel));
     connect(m_retrievalButtons, &QDialogButtonBox::rejected, this,
             &RVControlFrame::cancelFromRetrieval);
     auto *layout = new QVBoxLayout(page);
@@ -261,7 +262,7 @@ QWidget *RVControlFrame::makeRetrievalPage()
     return page;
 }
 
-QWidget *RVControlFrame::makeAuthenticationPage()
+QWidget *RVControlFrame::makeAuthenticationPage(const RVStyle &style)
 {
     auto *page = new QWidget;
     m_authenticationLabel = richLabel();
@@ -279,6 +280,8 @@ QWidget *RVControlFrame::makeAuthenticationPage()
     fields->addWidget(m_password, 1, 1);
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    buttons->button(QDialogButtonBox::Ok)->setIcon(style.StdIcon(RVStyle::Ok));
+    buttons->button(QDialogButtonBox::Cancel)->setIcon(style.StdIcon(RVStyle::Cancel));
     connect(buttons, &QDialogButtonBox::accepted, this, &RVControlFrame::emitAuthentication);
     connect(buttons, &QDialogButtonBox::accepted, this, &RVControlFrame::enterRetrievalState);
     connect(buttons, &QDialogButtonBox::rejected, this, &RVControlFrame::cancelRetrieval);
@@ -361,7 +364,7 @@ void RVControlFrame::retireTable(SelectionTable *table)
 void RVControlFrame::replaceTable(const QList<RVData> &entries)
 {
     SelectionTable *old = m_table;
-    const bool focused = old && old->hasFocus();
+    const bool focused = old != nullptr && old->hasFocus();
     m_table = new SelectionTable(entries, m_type, m_osInfo, this, m_paths);
     m_table->setAuthenticationCredentials(m_repository->user(), m_repository->password());
     m_table->setProxy(m_repository->proxyHost(), m_repository->proxyPort());
@@ -403,7 +406,7 @@ bool RVControlFrame::hasFocusInside() const
 {
     // Focus in another section or page is never taken away.
     const QWidget *focus = window()->focusWidget();
-    return isVisible() && (!focus || isAncestorOf(focus));
+    return isVisible() && (focus == nullptr || isAncestorOf(focus));
 }
 
 void RVControlFrame::focusPage()

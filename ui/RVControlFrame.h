@@ -94,8 +94,8 @@ private Q_SLOTS:
 
 private:
     QWidget *makeSelectionPage(const RVStyle &style);
-    QWidget *makeRetrievalPage();
-    QWidget *makeAuthenticationPage();
+    QWidget *makeRetrievalPage(const RVStyle &style);
+    QWidget *makeAuthenticationPage(const RVStyle &style);
     QWidget *makeErrorPage(const RVStyle &style);
     void connectRepository();
     void connectTableSignals();

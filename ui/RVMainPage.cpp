@@ -26,14 +26,14 @@ namespace
 
 constexpr int logThreshold = 6;
 constexpr int errorDialogWidth = 600;
-constexpr QLatin1String organisation("Corvane");
-constexpr QLatin1String application("Ravel");
+constexpr char organisation[] = "Corvane";
+constexpr char application[] = "Ravel";
 // Stands for an answer that holds for one reply only.
-constexpr QLatin1String noFingerprint("BOGUS");
+constexpr char noFingerprint[] = "BOGUS";
 
 QString fingerprintOf(const QList<QSslError> &errors)
 {
-    QString fingerprint = noFingerprint;
+    QString fingerprint = QLatin1String(noFingerprint);
     for (const QSslError &error : errors) {
         if (!error.certificate().isNull()) {
             fingerprint =
@@ -228,10 +228,10 @@ void RVMainPage::sslErrors(QNetworkReply *reply, const QList<QSslError> &errors)
         connect(open, &QObject::destroyed, &loop, &QEventLoop::quit);
         connect(open, &QDialog::finished, &loop, &QEventLoop::quit);
         loop.exec();
-        accepted = page && isAccepted(fingerprint);
+        accepted = !page.isNull() && isAccepted(fingerprint);
     } else {
         const QPointer<CertDialog> dialog(new CertDialog(reply->url(), errors, this));
-        if (fingerprint != noFingerprint) {
+        if (fingerprint != QLatin1String(noFingerprint)) {
             m_certificateDialogs.insert(fingerprint, dialog);
             connect(dialog, &QDialog::finished, this, [this, fingerprint](int result) {
                 m_certificateDialogs.remove(fingerprint);
@@ -259,7 +259,8 @@ void RVMainPage::networkError(const QNetworkReply *reply)
 {
     // Repositories tell of a failed listing when it fails and again when it ends: one message is
     // enough.
-    if (reply->error() == QNetworkReply::OperationCanceledError || m_reportedReply == reply) {
+    if (!reply || reply->error() == QNetworkReply::OperationCanceledError
+        || m_reportedReply == reply) {
         return;
     }
     m_reportedReply = reply;
@@ -293,25 +294,22 @@ void RVMainPage::shareCredentials(const QString &userName, const QString &passwo
 
 void RVMainPage::parseRepositoryDir(const RVPaths &paths)
 {
-    switch (RVDefinitions::readDirectory(paths, &m_definitions)) {
-    case RVDefinitions::NoError:
-        return;
-    case RVDefinitions::NoDefinitionDirectory:
-        throw NoDefinitionDirectory;
-    case RVDefinitions::BadDefinitionFile:
-        throw BadDefinitionFile;
-    case RVDefinitions::NoRepositories:
-        throw NoRepositories;
+    static_assert(int(NoDefinitionDirectory) == int(RVDefinitions::NoDefinitionDirectory)
+                  && int(BadDefinitionFile) == int(RVDefinitions::BadDefinitionFile)
+                  && int(NoRepositories) == int(RVDefinitions::NoRepositories));
+    const RVDefinitions::Error error = RVDefinitions::readDirectory(paths, &m_definitions);
+    if (error != RVDefinitions::NoError) {
+        throw static_cast<ExceptionType>(error);
     }
 }
 
 void RVMainPage::makeRepositories(const RVPaths &paths)
 {
     for (const auto &definition : m_definitions) {
-        auto *repository =
-            new RVRepository(organisation, application, definition->settingsKey,
-                             definition->defaultUri, definition->uriDescription.value({}),
-                             definition->picksOne() ? SortByVersion : SortByName, this, paths);
+        auto *repository = new RVRepository(
+            QLatin1String(organisation), QLatin1String(application), definition->settingsKey,
+            definition->defaultUri, definition->uriDescription.value({}),
+            definition->picksOne() ? SortByVersion : SortByName, this, paths);
         for (int i = 0; i < definition->archivePatterns.size(); ++i) {
             repository->addFilter(
                 QRegExp(definition->archivePatterns.at(i), Qt::CaseSensitive, QRegExp::RegExp),

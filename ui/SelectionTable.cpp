@@ -40,16 +40,15 @@ class ChoiceItem : public QTableWidgetItem
 public:
     QVariant data(int role) const override
     {
-        const QVariant value = QTableWidgetItem::data(role);
         if (role != Qt::AccessibleTextRole) {
-            return value;
+            return QTableWidgetItem::data(role);
         }
         return (checkState() == Qt::Checked
                     ? SelectionTable::tr("%1, selected",
                                          "accessible text; the argument is an update")
                     : SelectionTable::tr("%1, not selected",
                                          "accessible text; the argument is an update"))
-            .arg(value.toString());
+            .arg(QTableWidgetItem::data(role).toString());
     }
 };
 

@@ -63,22 +63,22 @@ void TableLabelItem::paint(QPainter *painter, const QStyleOptionViewItem &option
     const QRect rect =
         cell.rect.adjusted(horizontalMargin, verticalMargin, -horizontalMargin, -verticalMargin);
     LabelDocument document(html, cell.font, cell.direction, rect.width());
-    const int slack = qMax(0, rect.height() - qCeil(document.size().height()));
+    const qreal slack = qMax(0.0, rect.height() - document.size().height());
 
     QPalette::ColorGroup group = QPalette::Disabled;
-    if (cell.state & QStyle::State_Enabled) {
-        group = cell.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
+    if (cell.state.testFlag(QStyle::State_Enabled)) {
+        group = cell.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
     }
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette = cell.palette;
     context.palette.setColor(QPalette::Text,
                              cell.palette.color(group,
-                                                cell.state & QStyle::State_Selected
+                                                cell.state.testFlag(QStyle::State_Selected)
                                                     ? QPalette::HighlightedText
                                                     : QPalette::Text));
     painter->save();
     painter->setClipRect(rect, Qt::IntersectClip);
-    painter->translate(rect.left(), rect.top() + slack / 2);
+    painter->translate(rect.left(), rect.top() + qFloor(slack / 2));
     document.documentLayout()->draw(painter, context);
     painter->restore();
 }
