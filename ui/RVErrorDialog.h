@@ -5,7 +5,8 @@
 #include <QErrorMessage>
 #include <QNetworkReply>
 
-/// Says in one sentence what went wrong on the network, and logs it. One for the whole page.
+/// Says in one sentence what went wrong on the network, and logs it. One for the whole page. When a
+/// repository's every file fails, the messages beyond the first twenty are only logged.
 class RVErrorDialog : public QErrorMessage
 {
     Q_OBJECT
@@ -15,8 +16,15 @@ public:
     explicit RVErrorDialog(QWidget *parent = nullptr);
     ~RVErrorDialog() override;
 
+    /// The sentence for one of Qt 4's codes, empty for no error. `url` is shown as it is.
+    static QString messageFor(int code, const QString &url);
+
 public Q_SLOTS:
     void showNetworkError(const QNetworkReply *reply);
     void changeEvent(QEvent *event) override;
+    /// Nothing to redo: a text is made when its message is shown.
     void retranslateUi();
+
+private:
+    int m_waiting = 0;
 };
