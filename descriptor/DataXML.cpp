@@ -35,14 +35,97 @@ QList<QDomElement> elementsNamed(const QDomElement &root, const QString &tag)
     return result;
 }
 
+void appendEscaped(const QString &text, bool inAttribute, QString *out)
+{
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        if (c == QLatin1Char('&')) {
+            out->append(QLatin1String("&amp;"));
+        } else if (c == QLatin1Char('<')) {
+            out->append(QLatin1String("&lt;"));
+        } else if (c == QLatin1Char('>') && text.midRef(0, i).endsWith(QLatin1String("]]"))) {
+            out->append(QLatin1String("&gt;"));
+        } else if (c == QLatin1Char('\r')) {
+            out->append(QLatin1String("&#xd;"));
+        } else if (c == QLatin1Char('"') && inAttribute) {
+            out->append(QLatin1String("&quot;"));
+        } else if (c == QLatin1Char('\n') && inAttribute) {
+            out->append(QLatin1String("&#xa;"));
+        } else if (c == QLatin1Char('\t') && inAttribute) {
+            out->append(QLatin1String("&#x9;"));
+        } else {
+            out->append(c);
+        }
+    }
+}
+
+void appendChildren(const QDomNode &parent, QString *out);
+
+// What QDomNode::save() writes without indentation, which takes quadratic time for a long text with
+// many signs to escape.
+void appendNode(const QDomNode &node, QString *out)
+{
+    if (node.isText() && !node.isCDATASection()) {
+        appendEscaped(node.nodeValue(), false, out);
+        return;
+    }
+    if (!node.isElement()) {
+        QTextStream stream(out);
+        node.save(stream, 0);
+        return;
+    }
+    const QLatin1Char lineFeed('\n');
+    const QDomNamedNodeMap attributes = node.attributes();
+    out->append(QLatin1Char('<') + node.nodeName());
+    for (int i = 0; i < attributes.count(); ++i) {
+        const QDomNode attribute = attributes.item(i);
+        out->append(QLatin1Char(' ') + attribute.nodeName() + QLatin1String("=\""));
+        appendEscaped(attribute.nodeValue(), true, out);
+        out->append(QLatin1Char('"'));
+    }
+    if (node.hasChildNodes()) {
+        out->append(QLatin1Char('>'));
+        if (!node.firstChild().isText()) {
+            out->append(lineFeed);
+        }
+        appendChildren(node, out);
+        out->append(QLatin1String("</") + node.nodeName() + QLatin1Char('>'));
+    } else {
+        out->append(QLatin1String("/>"));
+    }
+    if (!node.nextSibling().isText()) {
+        out->append(lineFeed);
+    }
+}
+
+void appendChildren(const QDomNode &parent, QString *out)
+{
+    for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        appendNode(child, out);
+    }
+}
+
 QString content(const QDomElement &element)
 {
     QString text;
-    QTextStream stream(&text);
-    for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
-        child.save(stream, 0);
-    }
+    appendChildren(element, &text);
     return text;
+}
+
+template<typename Use>
+bool forEachContent(const QDomElement &root, const QString &tag, Use use)
+{
+    const QList<QDomElement> matches = elementsNamed(root, tag);
+    int length = 0;
+    for (const QDomElement &match : matches) {
+        const QString text = content(match);
+        length += text.size();
+        if (length > DataXML::maxContent) {
+            break;
+        }
+        use(match, text);
+    }
+    return !matches.isEmpty();
 }
 
 // QString::toLongLong alone also takes blanks around the number and separators within it.
@@ -126,33 +209,17 @@ bool DataXML::elementsToQString(const QDomElement &elem, const QString &tag, QSt
 bool DataXML::elementsToStringList(const QDomElement &elem, const QString &tag,
                                    QStringList *out) const
 {
-    const QList<QDomElement> matches = elementsNamed(elem, tag);
-    int length = 0;
-    for (const QDomElement &match : matches) {
-        const QString text = content(match);
-        length += text.size();
-        if (length > maxContent) {
-            break;
-        }
+    return forEachContent(elem, tag, [out](const QDomElement & /*match*/, const QString &text) {
         out->append(text);
-    }
-    return !matches.isEmpty();
+    });
 }
 
 bool DataXML::elementsToLocaleString(const QDomElement &elem, const QString &tag,
                                      LocaleString *out) const
 {
-    const QList<QDomElement> matches = elementsNamed(elem, tag);
-    int length = 0;
-    for (const QDomElement &match : matches) {
-        const QString text = content(match);
-        length += text.size();
-        if (length > maxContent) {
-            break;
-        }
+    return forEachContent(elem, tag, [this, out](const QDomElement &match, const QString &text) {
         out->setValue(text, getLangAttr(match));
-    }
-    return !matches.isEmpty();
+    });
 }
 
 bool DataXML::elementsToQint64(const QDomElement &elem, const QString &tag, qint64 *out) const

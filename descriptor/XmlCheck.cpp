@@ -36,6 +36,10 @@ public:
             return refuse(
                 QStringLiteral("more than %1 elements inside one another").arg(XmlCheck::maxDepth));
         }
+        if (attributes.count() > XmlCheck::maxAttributes) {
+            return refuse(QStringLiteral("more than %1 attributes on one element")
+                              .arg(XmlCheck::maxAttributes));
+        }
         return addNodes(1 + attributes.count());
     }
 

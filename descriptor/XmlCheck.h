@@ -20,6 +20,8 @@ public:
     static constexpr int maxEntities = 1000;
     /// Elements, attributes, texts, comments and so on: about 100 MB of DOM.
     static constexpr int maxNodes = 250'000;
+    /// Of one element: the DOM reaches the n-th attribute in n steps.
+    static constexpr int maxAttributes = 256;
 
     /// True when `document` is well-formed and within the bounds; else error(), line() and column()
     /// (from 1) say why and where.

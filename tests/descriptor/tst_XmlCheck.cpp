@@ -117,9 +117,19 @@ void TestXmlCheck::bounds_data()
         << "<r>" + QByteArray("&x;").repeated(nodes) + "</r>" << many;
     QTest::newRow("a text cut by references is one")
         << "<r>" + QByteArray("a&lt;").repeated(nodes) + "</r>" << none;
-    QTest::newRow("too many attributes for one element")
-        << "<r" + QByteArray(" a=''").repeated(nodes + 1) + "/>"
-        << QStringLiteral("more than 250000 attributes");
+    const auto attributes = [](int count) {
+        QByteArray document = "<r";
+        for (int i = 0; i < count; ++i) {
+            document += " a" + QByteArray::number(i) + "=''";
+        }
+        return document + "/>";
+    };
+    QTest::newRow("the most attributes") << attributes(XmlCheck::maxAttributes) << none;
+    QTest::newRow("one attribute more")
+        << attributes(XmlCheck::maxAttributes + 1)
+        << QStringLiteral("more than 256 attributes on one element");
+    QTest::newRow("more attributes than nodes")
+        << attributes(nodes + 1) << QStringLiteral("more than 250000 attributes");
 }
 
 void TestXmlCheck::bounds()
