@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "tests/support/HttpServer.h"
+
+#include <QTcpSocket>
+
+#include <sys/socket.h>
+
+namespace
+{
+
+QByteArray response(int status, const QByteArray &headers, const QByteArray &body)
+{
+    return "HTTP/1.1 " + QByteArray::number(status) + " Status\r\n" + headers + "Content-Length: "
+        + QByteArray::number(body.size()) + "\r\nConnection: close\r\n\r\n" + body;
+}
+
+} // namespace
+
+HttpServer::HttpServer(QObject *parent)
+    : QObject(parent)
+{
+    connect(&m_server, &QTcpServer::newConnection, this, &HttpServer::accept);
+    if (!m_server.listen(QHostAddress::LocalHost)) {
+        qFatal("no port for the test's HTTP server");
+    }
+    // Qt lets 50 connections wait; the next ones would be tried again only after a second.
+    ::listen(static_cast<int>(m_server.socketDescriptor()), 1024);
+}
+
+HttpServer::~HttpServer()
+{
+    // A socket that goes says so.
+    const auto sockets = m_server.findChildren<QTcpSocket *>();
+    for (QTcpSocket *socket : sockets) {
+        socket->disconnect(this);
+    }
+}
+
+QUrl HttpServer::url(const QString &path) const
+{
+    return QUrl(
+        QStringLiteral("http://127.0.0.1:%1%2").arg(QString::number(m_server.serverPort()), path));
+}
+
+void HttpServer::serve(const QString &path, const QByteArray &body, int status,
+                       const QByteArray &headers)
+{
+    serveRaw(path, response(status, headers, body));
+}
+
+void HttpServer::serveRaw(const QString &path, const QByteArray &answer)
+{
+    m_answers.insert(path.toUtf8(), answer);
+}
+
+void HttpServer::protect(const QString &user, const QString &password)
+{
+    m_credentials = (user + QLatin1Char(':') + password).toUtf8().toBase64();
+}
+
+void HttpServer::release()
+{
+    m_held = false;
+    const QHash<QTcpSocket *, QByteArray> waiting = m_waiting;
+    for (auto it = waiting.cbegin(); it != waiting.cend(); ++it) {
+        answer(it.key(), it.value());
+    }
+}
+
+void HttpServer::accept()
+{
+    while (QTcpSocket *socket = m_server.nextPendingConnection()) {
+        connect(socket, &QTcpSocket::readyRead, this, [this, socket] {
+            receive(socket);
+        });
+        connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
+            m_waiting.remove(socket);
+            socket->deleteLater();
+        });
+    }
+}
+
+void HttpServer::receive(QTcpSocket *socket)
+{
+    const QByteArray head = socket->peek(64 * 1024);
+    if (!head.contains("\r\n\r\n")) {
+        return;
+    }
+    socket->readAll();
+    m_requests.append(head);
+    m_waiting.insert(socket, head);
+    m_mostWaiting = qMax(m_mostWaiting, m_waiting.size());
+    if (!m_held) {
+        answer(socket, head);
+    }
+}
+
+void HttpServer::answer(QTcpSocket *socket, const QByteArray &head)
+{
+    m_waiting.remove(socket);
+    const QByteArray path = head.split(' ').value(1);
+    if (!m_credentials.isEmpty() && !head.contains("Authorization: Basic " + m_credentials)) {
+        socket->write(response(401, "WWW-Authenticate: Basic realm=\"test\"\r\n", "who?"));
+    } else {
+        socket->write(m_answers.value(path, response(404, {}, "not here")));
+    }
+    socket->disconnectFromHost();
+}

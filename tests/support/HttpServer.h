@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QHash>
+#include <QTcpServer>
+#include <QUrl>
+
+class QTcpSocket;
+
+/// A small HTTP/1.1 server on the loopback interface, in the test's own thread: one request a
+/// connection, fixed answers by path, 404 for any other path.
+class HttpServer : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit HttpServer(QObject *parent = nullptr);
+    ~HttpServer() override;
+
+    QUrl url(const QString &path) const;
+
+    void serve(const QString &path, const QByteArray &body, int status = 200,
+               const QByteArray &headers = {});
+    /// Sends exactly these bytes and closes the connection.
+    void serveRaw(const QString &path, const QByteArray &answer);
+    /// Asks for these credentials, by the basic scheme, before it answers anything.
+    void protect(const QString &user, const QString &password);
+    /// Keeps requests unanswered until release().
+    void hold() { m_held = true; }
+    void release();
+
+    /// The heads of all requests so far, in the order in which they came.
+    const QList<QByteArray> &requests() const { return m_requests; }
+    /// Requests that are waiting for an answer now, and the most that ever did at a time.
+    int waiting() const { return m_waiting.size(); }
+    int mostWaiting() const { return m_mostWaiting; }
+
+private:
+    void accept();
+    void receive(QTcpSocket *socket);
+    void answer(QTcpSocket *socket, const QByteArray &head);
+
+    QTcpServer m_server;
+    QHash<QByteArray, QByteArray> m_answers;
+    QList<QByteArray> m_requests;
+    QHash<QTcpSocket *, QByteArray> m_waiting;
+    QByteArray m_credentials;
+    int m_mostWaiting = 0;
+    bool m_held = false;
+};
