@@ -1,3 +1,248 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "descriptor/RVDescFetch.h"
+
+#include "core/RVLogger.h"
+#include "descriptor/DescriptorXML.h"
+#include "descriptor/XmlCheck.h"
+
+#include <QAuthenticator>
+#include <QFileInfo>
+#include <QNetworkAccessManager>
+
+#include <algorithm>
+#include <utility>
+
+namespace
+{
+
+QByteArray forLog(const QUrl &url)
+{
+    return url.toString(QUrl::RemovePassword).toUtf8();
+}
+
+// Opening a pipe or a device would block the event loop.
+bool isSpecialFile(const QUrl &url)
+{
+    const QFileInfo file(url.toLocalFile());
+    return url.isLocalFile() && file.exists() && !file.isFile() && !file.isDir();
+}
+
+QNetworkRequest requestFor(const QUrl &url)
+{
+    QNetworkRequest request(url);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                         QNetworkRequest::ManualRedirectPolicy);
+    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
+    // A compressed body may unpack to a thousand times what the bound below sees.
+    request.setRawHeader("Accept-Encoding", "identity");
+    return request;
+}
+
+void boundXmlBody(QNetworkReply *reply)
+{
+    constexpr qint64 room = 64 * 1024;
+    reply->setReadBufferSize(XmlCheck::maxBytes + room);
+    QObject::connect(reply, &QNetworkReply::readyRead, reply, [reply] {
+        if (reply->bytesAvailable() > XmlCheck::maxBytes) {
+            RVLogger().log(4, "Descriptor larger than %d bytes, aborting %s", XmlCheck::maxBytes,
+                           forLog(reply->url()).constData());
+            reply->abort();
+        }
+    });
+}
+
+} // namespace
+
+RVDescFetch::RVDescFetch(QList<RVData> &entries, const QString &ftpUser, const QString &ftpPassword,
+                         QObject *parent)
+    : QObject(parent)
+    , m_entries(entries)
+    , m_ftpUser(ftpUser)
+    , m_ftpPassword(ftpPassword)
+{
+}
+
+RVDescFetch::~RVDescFetch() = default;
+
+void RVDescFetch::fetchAll()
+{
+    const Replies forgotten = takeFetches();
+    for (QNetworkReply *reply : forgotten) {
+        disconnect(reply, nullptr, this, nullptr);
+        reply->manager()->deleteLater();
+    }
+    if (m_entries.isEmpty()) {
+        Q_EMIT finished();
+        return;
+    }
+    m_next = 0;
+    m_active = true;
+    if (startWaiting()) {
+        // Nothing in flight here: all of them failed at once, which has been told one by one.
+        m_active = m_active && !m_fetches.isEmpty();
+    }
+}
+
+void RVDescFetch::cancel()
+{
+    RVLogger().log(5, "DESCRIPTOR FETCH CANCEL, KILLING %d FETCHES",
+                   static_cast<int>(m_fetches.size()));
+    m_next = m_entries.size();
+    m_active = false;
+    // A receiver of networkError() may run an event loop, in which other replies end and go.
+    const QPointer<RVDescFetch> self(this);
+    const Replies replies = takeFetches();
+    for (const QPointer<QNetworkReply> &reply : replies) {
+        if (reply) {
+            reply->abort();
+        }
+        if (!self) {
+            return;
+        }
+        if (reply) {
+            reply->deleteLater();
+            reply->manager()->deleteLater();
+        }
+    }
+    Q_EMIT finished();
+}
+
+// False when this object is gone: the receivers of networkError() may delete it, or cancel().
+bool RVDescFetch::startWaiting()
+{
+    const QPointer<RVDescFetch> self(this);
+    while (self && m_next < m_entries.size() && m_fetches.size() < RVLimits::transfersInFlight) {
+        start(m_entries.at(m_next++));
+    }
+    return !self.isNull();
+}
+
+void RVDescFetch::start(const RVData &entry)
+{
+    QUrl url = entry.descriptorUrl();
+    DescriptorGeneric *descriptor = entry.descriptor().data();
+    if (!descriptor) {
+        qCritical("Null descriptor in RVDescFetch for '%s'", forLog(url).constData());
+        RVLogger().log(3, "Null descriptor in RVDescFetch for '%s'", forLog(url).constData());
+        return;
+    }
+    // Copies of one entry share the descriptor; the download in flight fills it for all of them.
+    if (m_fetches.contains(descriptor)) {
+        return;
+    }
+    if (isSpecialFile(url)) {
+        RVLogger().log(4, "Descriptor is not a regular file: %s", forLog(url).constData());
+        return;
+    }
+    const bool isFtp = url.scheme() == QLatin1String("ftp");
+    if (isFtp && !m_ftpUser.isEmpty() && !m_ftpPassword.isEmpty()) {
+        url.setUserName(m_ftpUser, QUrl::DecodedMode);
+        url.setPassword(m_ftpPassword, QUrl::DecodedMode);
+    }
+
+    auto *manager = new QNetworkAccessManager(this);
+    if (!proxyHost.isEmpty() && proxyPort > 0) {
+        manager->setProxy(
+            QNetworkProxy(isFtp ? QNetworkProxy::FtpCachingProxy : QNetworkProxy::HttpProxy,
+                          proxyHost, static_cast<quint16>(proxyPort)));
+    }
+    connect(manager, &QNetworkAccessManager::finished, descriptor,
+            qOverload<QNetworkReply *>(&DescriptorGeneric::read));
+    connect(descriptor, &DescriptorGeneric::readFinished, this, &RVDescFetch::readFinished);
+    connect(manager, &QNetworkAccessManager::finished, this, &RVDescFetch::deleteSenderLater);
+    connect(manager, &QNetworkAccessManager::authenticationRequired, this,
+            &RVDescFetch::relayAuthenticationRequired);
+    connect(manager, &QNetworkAccessManager::proxyAuthenticationRequired, this,
+            &RVDescFetch::relayProxyAuthenticationRequired);
+    connect(manager, &QNetworkAccessManager::sslErrors, this, &RVDescFetch::relaySslErrors);
+
+    QNetworkReply *reply = manager->get(requestFor(url));
+    if (reply->error() == QNetworkReply::NoError) {
+        m_fetches.insert(descriptor, reply);
+        connect(reply, &QNetworkReply::errorOccurred, this, &RVDescFetch::relayNetworkError);
+        connect(reply, &QNetworkReply::finished, reply, &QObject::deleteLater);
+        connect(reply, &QObject::destroyed, this, &RVDescFetch::replyDestroyed);
+        if (DescriptorXML(url).urlIsHandled()) {
+            boundXmlBody(reply);
+        }
+        return;
+    }
+
+    disconnect(descriptor, &DescriptorGeneric::readFinished, this, &RVDescFetch::readFinished);
+    disconnect(manager, &QNetworkAccessManager::finished, this, &RVDescFetch::deleteSenderLater);
+    const QPointer<RVDescFetch> self(this);
+    Q_EMIT networkError(reply);
+    if (self) {
+        reply->close();
+        manager->deleteLater();
+        reply->deleteLater();
+    }
+}
+
+void RVDescFetch::endFetch(DescriptorGeneric *descriptor)
+{
+    disconnect(descriptor, &DescriptorGeneric::readFinished, this, &RVDescFetch::readFinished);
+    m_fetches.remove(descriptor);
+    if (startWaiting() && m_active && m_fetches.isEmpty()) {
+        m_active = false;
+        Q_EMIT finished();
+    }
+}
+
+// Nothing that the taken replies or their descriptors still do is counted.
+RVDescFetch::Replies RVDescFetch::takeFetches()
+{
+    Replies replies;
+    const QMap<DescriptorGeneric *, QNetworkReply *> fetches = std::exchange(m_fetches, {});
+    for (auto it = fetches.cbegin(); it != fetches.cend(); ++it) {
+        disconnect(it.key(), &DescriptorGeneric::readFinished, this, &RVDescFetch::readFinished);
+        disconnect(it.value()->manager(), nullptr, it.key(), nullptr);
+        replies.append(it.value());
+    }
+    return replies;
+}
+
+void RVDescFetch::readFinished()
+{
+    endFetch(qobject_cast<DescriptorGeneric *>(sender()));
+}
+
+void RVDescFetch::deleteSenderLater(QNetworkReply * /*reply*/)
+{
+    sender()->deleteLater();
+}
+
+void RVDescFetch::relayNetworkError(QNetworkReply::NetworkError /*err*/)
+{
+    const auto *reply = qobject_cast<QNetworkReply *>(sender());
+    RVLogger().log(4, "Descriptor fetch error %d from %s", static_cast<int>(reply->error()),
+                   forLog(reply->url()).constData());
+    Q_EMIT networkError(reply);
+}
+
+void RVDescFetch::relayAuthenticationRequired(QNetworkReply *reply, QAuthenticator *auth)
+{
+    Q_EMIT authenticationRequired(reply, auth);
+}
+
+void RVDescFetch::relayProxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *auth)
+{
+    Q_EMIT proxyAuthenticationRequired(proxy, auth);
+}
+
+void RVDescFetch::relaySslErrors(QNetworkReply *reply, const QList<QSslError> &errors)
+{
+    Q_EMIT sslErrors(reply, errors);
+}
+
+void RVDescFetch::replyDestroyed(QObject *obj)
+{
+    // Of the reply only the address is left, so it is not cast down.
+    const auto it = std::find_if(m_fetches.cbegin(), m_fetches.cend(), [obj](const QObject *reply) {
+        return reply == obj;
+    });
+    if (it != m_fetches.cend()) {
+        endFetch(it.key());
+    }
+}

@@ -9,10 +9,12 @@
 #include <QMap>
 #include <QNetworkProxy>
 #include <QNetworkReply>
+#include <QPointer>
 #include <QSslError>
 
 /// Downloads and reads the descriptors of one repository's entries. Owned by its repository.
-/// Its final signal is finished(); networkError() tells of single failures and ends nothing.
+/// Its final signal is finished(), once for each fetchAll() that leaves something to wait for and
+/// once for each cancel(); networkError() tells of single failures and ends nothing.
 class RVDescFetch : public QObject
 {
     Q_OBJECT
@@ -28,9 +30,17 @@ public:
     QString proxyHost;
     int proxyPort = -2;
 
+    /// True between fetchAll() and finished(). False right after fetchAll() means that finished()
+    /// has been emitted, or, where every entry failed at once, that it will not be.
+    bool isActive() const { return m_active; }
+
 public Q_SLOTS:
-    /// Starts the downloads, each through a manager of its own, RVLimits::transfersInFlight at a time.
+    /// Starts the downloads in order, each through a manager of its own,
+    /// RVLimits::transfersInFlight at a time; those that an earlier call started are forgotten. An
+    /// XML descriptor longer than XmlCheck takes is aborted as soon as that shows.
     void fetchAll();
+    /// Aborts what is in flight (remote ones say so by a last networkError()), drops what waits,
+    /// and emits finished().
     void cancel();
 
 Q_SIGNALS:
@@ -50,8 +60,18 @@ private Q_SLOTS:
     void replyDestroyed(QObject *obj);
 
 private:
+    using Replies = QList<QPointer<QNetworkReply>>;
+
+    bool startWaiting();
+    void start(const RVData &entry);
+    void endFetch(DescriptorGeneric *descriptor);
+    Replies takeFetches();
+
     QList<RVData> m_entries;
+    /// What is in flight. Entries from m_next on wait.
     QMap<DescriptorGeneric *, QNetworkReply *> m_fetches;
     QString m_ftpUser;
     QString m_ftpPassword;
+    int m_next = 0;
+    bool m_active = false;
 };

@@ -135,6 +135,7 @@ void TestDescriptorGeneric::signalsOncePerRead_data()
     QTest::newRow("understood") << QStringLiteral("a.xml") << good << true;
     QTest::newRow("not understood") << QStringLiteral("a.xml") << QByteArray("?") << false;
     QTest::newRow("not a package") << QStringLiteral("a.deb") << good << false;
+    QTest::newRow("not a xar archive") << QStringLiteral("a.xar") << good << false;
     QTest::newRow("no backend") << QStringLiteral("a.txt") << good << false;
 }
 
