@@ -41,12 +41,22 @@ DpkgRoot::DpkgRoot()
 {
     const QDir root(m_dir.path());
     m_valid = m_dir.isValid();
-    for (const char *directory : {"info", "updates", "triggers", "parts"}) {
-        m_valid =
-            m_valid && root.mkpath(QStringLiteral("var/lib/dpkg/") + QLatin1String(directory));
+    for (const char *directory :
+         {"lib/dpkg/info", "lib/dpkg/updates", "lib/dpkg/triggers", "lib/dpkg/parts", "log"}) {
+        m_valid = m_valid && root.mkpath(QStringLiteral("var/") + QLatin1String(directory));
     }
     m_valid = m_valid && write(root.filePath(QStringLiteral("var/lib/dpkg/status")), QByteArray())
-        && write(root.filePath(QStringLiteral("var/lib/dpkg/available")), QByteArray());
+        && write(root.filePath(QStringLiteral("var/lib/dpkg/available")), QByteArray())
+        && write(root.filePath(QStringLiteral(".dpkg.cfg")),
+                 "log " + QFile::encodeName(path()) + "/var/log/dpkg.log\n");
+}
+
+RVPaths DpkgRoot::paths() const
+{
+    RVPaths paths = RVPaths::under(path());
+    // Without a configuration of its own, dpkg notes in the log of the system that runs the tests.
+    paths.installerEnvironment.append(QStringLiteral("HOME=") + path());
+    return paths;
 }
 
 QString DpkgRoot::build(const Package &package, const QString &file)

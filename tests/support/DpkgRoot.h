@@ -28,7 +28,7 @@ public:
     bool isValid() const { return m_valid; }
     QString path() const { return m_dir.path(); }
     /// The system as the product is told of it.
-    RVPaths paths() const { return RVPaths::under(path()); }
+    RVPaths paths() const;
 
     /// Makes the package as `file` (absolute) and returns why that failed, or the empty text.
     static QString build(const Package &package, const QString &file);
