@@ -50,17 +50,21 @@ endfunction()
 
 # ravel_add_test(<Class> LABELS <folder> <kind> [ENGINE] [LINK ...] [LOCK ...] [TIMEOUT s])
 # builds tst_<Class>.cpp and runs it as ctest "<folder>.<Class>" with a HOME of its own.
-# ENGINE links the engine alone: such a test cannot use a widget.
+# ENGINE links the engine alone: such a test cannot use a widget. HOST links the host's window and the
+# library as a host sees it.
 function(ravel_add_test name)
-  cmake_parse_arguments(ARG "ENGINE" "TIMEOUT" "SOURCES;LINK;LABELS;LOCK;ENVIRONMENT" ${ARGN})
+  cmake_parse_arguments(ARG "ENGINE;HOST" "TIMEOUT" "SOURCES;LINK;LABELS;LOCK;ENVIRONMENT" ${ARGN})
   cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
   set(home ${CMAKE_CURRENT_BINARY_DIR}/home_${name})
   file(MAKE_DIRECTORY ${home})
+  file(CHMOD ${home} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
   add_executable(tst_${name} tst_${name}.cpp ${ARG_SOURCES})
   set_target_properties(tst_${name} PROPERTIES AUTOMOC ON CXX_EXTENSIONS OFF)
   target_include_directories(tst_${name} PRIVATE ${PROJECT_SOURCE_DIR})
   if(ARG_ENGINE)
     target_link_libraries(tst_${name} PRIVATE ravel_test_support Ravel::engine Qt5::Test ${ARG_LINK} ravel_flags)
+  elseif(ARG_HOST)
+    target_link_libraries(tst_${name} PRIVATE ravel_test_support ravel_host_window Qt5::Test ${ARG_LINK} ravel_flags)
   else()
     target_link_libraries(tst_${name} PRIVATE ravel_test_support Ravel::testable Qt5::Test Qt5::Widgets ${ARG_LINK} ravel_flags)
   endif()
