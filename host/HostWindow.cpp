@@ -10,6 +10,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QHBoxLayout>
+#include <QImage>
 #include <QLabel>
 #include <QLibraryInfo>
 #include <QListWidget>
@@ -23,6 +24,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTextBrowser>
+#include <QTextDocument>
 #include <QTranslator>
 #include <QVBoxLayout>
 
@@ -32,13 +34,24 @@
 namespace
 {
 
-/// Help comes from pages and definition files; whatever it refers to is not fetched.
-class HelpView : public QTextBrowser
+/// Help comes from pages and definition files; whatever it refers to is not fetched. An image has
+/// to be there all the same: where a document has none, its layout opens the file of that name
+/// itself.
+class HelpDocument : public QTextDocument
 {
 public:
-    using QTextBrowser::QTextBrowser;
+    using QTextDocument::QTextDocument;
 
-    QVariant loadResource(int, const QUrl &) override { return {}; }
+protected:
+    QVariant loadResource(int type, const QUrl &) override
+    {
+        if (type != ImageResource) {
+            return {};
+        }
+        QImage nothing(1, 1, QImage::Format_ARGB32_Premultiplied);
+        nothing.fill(Qt::transparent);
+        return nothing;
+    }
 };
 
 /// The name of a language in that language, with a capital letter as menus have it.
@@ -100,8 +113,6 @@ HostWindow::HostWindow(QWidget *parent)
     Q_INIT_RESOURCE(host_translations);
     setObjectName(QStringLiteral("hostWindow"));
     setWindowIcon(QIcon(QStringLiteral(":/host/ravel.svg")));
-    // A bare X server names no icon theme.
-    QIcon::setFallbackThemeName(QStringLiteral("Adwaita"));
     buildMenus();
     buildCentre();
     buildStatusBar();
@@ -131,6 +142,14 @@ bool HostWindow::load(const RVPaths &paths, QString *error)
         *error = tr("The update pages could not be opened.");
     }
     return false;
+}
+
+void HostWindow::nameApplication()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Corvane"));
+    QCoreApplication::setApplicationName(QStringLiteral("ravel-host"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(RAVEL_VERSION));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Ravel"));
 }
 
 RVPaths HostWindow::enterRoot(const QString &root)
@@ -205,7 +224,8 @@ void HostWindow::buildCentre()
     column->addWidget(m_header);
     column->addWidget(m_stack, 1);
 
-    m_help = new HelpView;
+    m_help = new QTextBrowser;
+    m_help->setDocument(new HelpDocument(m_help));
     m_help->setObjectName(QStringLiteral("helpPane"));
     m_help->setOpenLinks(false);
     m_help->setFrameShape(QFrame::NoFrame);
@@ -313,7 +333,8 @@ void HostWindow::takePage(WizardPage *page, bool isTitlePage)
     area->setWidgetResizable(true);
     area->setWidget(page);
     m_stack->addWidget(area);
-    if (page->windowIcon().isNull()) {
+    // Without an icon of its own a page has its window's.
+    if (!page->testAttribute(Qt::WA_SetWindowIcon)) {
         page->setWindowIcon(QIcon(isTitlePage ? QStringLiteral(":/host/welcome.svg")
                                               : QStringLiteral(":/host/updates.svg")));
     }
@@ -392,7 +413,7 @@ void HostWindow::about()
 bool HostWindow::isBusy() const
 {
     const QWidget *modal = QApplication::activeModalWidget();
-    if (modal && modal != this && isAncestorOf(modal)) {
+    if (modal && modal != this) {
         return true;
     }
     const QList<QProcess *> processes = findChildren<QProcess *>();
@@ -445,7 +466,7 @@ void HostWindow::restoreState()
 
 void HostWindow::retranslateUi()
 {
-    setWindowTitle(tr("Ravel: Thin Client Configuration"));
+    setWindowTitle(tr("Thin Client Configuration"));
     m_fileMenu->setTitle(tr("&File"));
     m_quitAction->setText(tr("&Quit"));
     m_viewMenu->setTitle(tr("&View"));

@@ -35,6 +35,9 @@ public:
     /// sentence for the user.
     bool load(const RVPaths &paths, QString *error);
 
+    /// The names under which settings are kept and windows are shown; before the application is
+    /// made.
+    static void nameApplication();
     /// The system below `root` (absolute): its files, and from now on its settings instead of the
     /// user's.
     static RVPaths enterRoot(const QString &root);

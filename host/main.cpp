@@ -75,9 +75,7 @@ int fail(int exitCode, const QString &message)
 
 int main(int argc, char *argv[])
 {
-    QCoreApplication::setOrganizationName(QStringLiteral("Corvane"));
-    QCoreApplication::setApplicationName(QStringLiteral("ravel-host"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(RAVEL_VERSION));
+    HostWindow::nameApplication();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 

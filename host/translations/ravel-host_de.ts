@@ -48,8 +48,8 @@
         <translation>Ein Vorgang läuft noch. Bitte warten Sie, bis er beendet ist.</translation>
     </message>
     <message>
-        <source>Ravel: Thin Client Configuration</source>
-        <translation>Ravel: Thin-Client-Konfiguration</translation>
+        <source>Thin Client Configuration</source>
+        <translation>Thin-Client-Konfiguration</translation>
     </message>
     <message>
         <source>&amp;File</source>

@@ -48,8 +48,8 @@
         <translation>Une opération est en cours. Veuillez attendre qu’elle se termine.</translation>
     </message>
     <message>
-        <source>Ravel: Thin Client Configuration</source>
-        <translation>Ravel : configuration du client léger</translation>
+        <source>Thin Client Configuration</source>
+        <translation>Configuration du client léger</translation>
     </message>
     <message>
         <source>&amp;File</source>
