@@ -1,0 +1,624 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+//
+// ravel-walk ROOT SCREENSHOTS: goes through the main job in the demo world as a person would, with
+// mouse and keyboard, and looks at what is on the screen and in the package database. It knows the
+// library's widgets by their class and object names alone.
+#include "host/HostWindow.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCursor>
+#include <QDialog>
+#include <QDir>
+#include <QGroupBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <QProcess>
+#include <QProgressBar>
+#include <QScreen>
+#include <QTableWidget>
+#include <QTest>
+#include <QTextDocumentFragment>
+#include <QTextEdit>
+#include <QTextStream>
+
+#include <cstdio>
+#include <functional>
+#include <unistd.h>
+
+namespace
+{
+
+constexpr int stepTimeout = 15000;
+
+struct Failure {
+    QString reason;
+};
+
+void require(bool condition, const QString &reason)
+{
+    if (!condition) {
+        throw Failure{reason};
+    }
+}
+
+void waitFor(const std::function<bool()> &condition, const QString &what)
+{
+    require(QTest::qWaitFor(condition, stepTimeout), QStringLiteral("no %1").arg(what));
+}
+
+void requireEqual(const QStringList &actual, const QStringList &expected)
+{
+    require(actual == expected,
+            QStringLiteral("expected [%1], found [%2]")
+                .arg(expected.join(QLatin1String("; ")), actual.join(QLatin1String("; "))));
+}
+
+QString plain(QString text)
+{
+    if (Qt::mightBeRichText(text)) {
+        text = QTextDocumentFragment::fromHtml(text).toPlainText();
+    }
+    // Mnemonics, and the places where a long word may be broken.
+    return text.remove(QLatin1Char('&')).remove(QChar(0x200b));
+}
+
+bool isOfClass(const QObject *object, const char *className)
+{
+    return object->inherits(className);
+}
+
+QWidget *findByClass(const QWidget *parent, const char *className)
+{
+    const QList<QWidget *> widgets = parent->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (isOfClass(widget, className) && widget->isVisible()) {
+            return widget;
+        }
+    }
+    return nullptr;
+}
+
+QDialog *dialog(const char *className)
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        if (isOfClass(widget, className) && widget->isVisible()) {
+            return qobject_cast<QDialog *>(widget);
+        }
+    }
+    return nullptr;
+}
+
+QAbstractButton *button(const QWidget *parent, const QString &text)
+{
+    const QList<QAbstractButton *> buttons = parent->findChildren<QAbstractButton *>();
+    for (QAbstractButton *candidate : buttons) {
+        if (candidate->isVisible() && plain(candidate->text()) == text) {
+            return candidate;
+        }
+    }
+    throw Failure{QStringLiteral("no button \"%1\"").arg(text)};
+}
+
+void click(QWidget *widget)
+{
+    require(widget->isEnabled(), QStringLiteral("a control is not enabled"));
+    QTest::mouseClick(widget, Qt::LeftButton);
+}
+
+class Walk
+{
+public:
+    Walk(const QString &root, const QString &screenshots)
+        : m_root(root)
+        , m_screenshots(screenshots)
+    {
+    }
+
+    bool run();
+
+private:
+    void step(const char *what, const std::function<void()> &body);
+    void openWindow();
+    void changePages();
+    void checkSections();
+    void refreshPackages();
+    void checkOffer();
+    void readDetails();
+    void switchLanguage();
+    void install();
+    void finishInstallation();
+    void checkDatabase();
+    void checkInstalledTable();
+    void checkServicePacks();
+    void checkImages();
+    void checkLog();
+    void closeWindow();
+
+    QList<QWidget *> sections() const;
+    QWidget *section(const QString &title) const;
+    void openSection(const QString &title);
+    QTableWidget *table() const;
+    QStringList rows() const;
+    void clickCell(int row, int column);
+    void chooseLanguage(const QString &code);
+    void screenshot(const QString &name);
+
+    QString m_root;
+    QString m_screenshots;
+    std::unique_ptr<HostWindow> m_window;
+    QWidget *m_section = nullptr;
+};
+
+void Walk::step(const char *what, const std::function<void()> &body)
+{
+    try {
+        body();
+    } catch (const Failure &failure) {
+        screenshot(QStringLiteral("failure"));
+        std::printf("FAIL %s: %s\n", what, qUtf8Printable(failure.reason));
+        throw;
+    }
+    std::printf("ok   %s\n", what);
+    std::fflush(stdout);
+}
+
+bool Walk::run()
+{
+    try {
+        step("the window opens", [this] {
+            openWindow();
+        });
+        step("the keyboard goes from page to page", [this] {
+            changePages();
+        });
+        step("three sections are there", [this] {
+            checkSections();
+        });
+        step("the packages are refreshed", [this] {
+            refreshPackages();
+        });
+        step("what fits is offered, what is newer is chosen", [this] {
+            checkOffer();
+        });
+        step("the details are shown and closed", [this] {
+            readDetails();
+        });
+        step("the language changes and changes back", [this] {
+            switchLanguage();
+        });
+        step("the installation starts and shows progress", [this] {
+            install();
+        });
+        step("the installation ends and shows dpkg's output", [this] {
+            finishInstallation();
+        });
+        step("the package database has the offered versions", [this] {
+            checkDatabase();
+        });
+        step("the table shows them as installed", [this] {
+            checkInstalledTable();
+        });
+        step("the service packs leave out the installed one", [this] {
+            checkServicePacks();
+        });
+        step("one of the images can be chosen", [this] {
+            checkImages();
+        });
+        step("the log tells the story", [this] {
+            checkLog();
+        });
+        step("the window closes and keeps its settings", [this] {
+            closeWindow();
+        });
+    } catch (const Failure &) {
+        return false;
+    }
+    return true;
+}
+
+/// The window with whatever lies over it.
+void Walk::screenshot(const QString &name)
+{
+    if (!m_window) {
+        return;
+    }
+    QRect area = m_window->frameGeometry();
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        if (widget->isVisible() && QTest::qWaitForWindowExposed(widget)) {
+            area |= widget->frameGeometry();
+        }
+    }
+    QTest::qWait(100);
+    QScreen *screen = m_window->screen();
+    screen->grabWindow(0, area.x(), area.y(), area.width(), area.height())
+        .save(QDir(m_screenshots).filePath(name + QLatin1String(".png")));
+}
+
+QList<QWidget *> Walk::sections() const
+{
+    QList<QWidget *> result;
+    const QList<QWidget *> widgets = m_window->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (isOfClass(widget, "AccordionItem") && widget->isVisible()) {
+            result.append(widget);
+        }
+    }
+    return result;
+}
+
+QWidget *Walk::section(const QString &title) const
+{
+    const QList<QWidget *> all = sections();
+    for (QWidget *item : all) {
+        const auto *heading =
+            item->findChild<QAbstractButton *>(QStringLiteral("accordionHeading"));
+        if (heading->accessibleName() == title) {
+            return item;
+        }
+    }
+    throw Failure{QStringLiteral("no section \"%1\"").arg(title)};
+}
+
+void Walk::openSection(const QString &title)
+{
+    m_section = section(title);
+    auto *heading = m_section->findChild<QAbstractButton *>(QStringLiteral("accordionHeading"));
+    if (!heading->isChecked()) {
+        click(heading);
+    }
+    waitFor(
+        [this] {
+            return table() && table()->isVisible();
+        },
+        QStringLiteral("table"));
+}
+
+QTableWidget *Walk::table() const
+{
+    return qobject_cast<QTableWidget *>(findByClass(m_section, "SelectionTable"));
+}
+
+QStringList Walk::rows() const
+{
+    QStringList result;
+    const QTableWidget *shown = table();
+    require(shown, QStringLiteral("no table"));
+    for (int row = 0; row < shown->rowCount(); ++row) {
+        const QString name = plain(shown->item(row, 1)->text()).section(QLatin1Char('\n'), 0, 0);
+        const bool checked = shown->item(row, 0)->checkState() == Qt::Checked;
+        QStringList cells{checked ? QStringLiteral("x") : QStringLiteral("-"), name};
+        for (int column = 2; column < 4; ++column) {
+            if (!shown->isColumnHidden(column)) {
+                cells.append(shown->item(row, column)->text());
+            }
+        }
+        result.append(cells.join(QLatin1Char(' ')));
+    }
+    return result;
+}
+
+void Walk::clickCell(int row, int column)
+{
+    QTableWidget *shown = table();
+    require(shown && shown->item(row, column), QStringLiteral("no such cell"));
+    QTest::mouseClick(shown->viewport(), Qt::LeftButton, {},
+                      shown->visualItemRect(shown->item(row, column)).center());
+}
+
+void Walk::openWindow()
+{
+    // Out of the way of what is looked at.
+    QCursor::setPos(0, 0);
+    m_window = std::make_unique<HostWindow>();
+    QString error;
+    require(m_window->load(HostWindow::enterRoot(m_root), &error), error);
+    m_window->show();
+    require(QTest::qWaitForWindowActive(m_window.get(), stepTimeout),
+            QStringLiteral("the window is not active"));
+}
+
+void Walk::changePages()
+{
+    auto *list = m_window->findChild<QListWidget *>(QStringLiteral("pageList"));
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Home);
+    waitFor(
+        [this] {
+            return findByClass(m_window.get(), "TitlePage");
+        },
+        QStringLiteral("title page"));
+    screenshot(QStringLiteral("welcome"));
+    QTest::keyClick(list, Qt::Key_Down);
+    waitFor(
+        [this] {
+            return findByClass(m_window.get(), "RVMainPage");
+        },
+        QStringLiteral("updates page"));
+}
+
+void Walk::checkSections()
+{
+    QStringList titles;
+    const QList<QWidget *> all = sections();
+    for (const QWidget *item : all) {
+        titles.append(item->findChild<QAbstractButton *>(QStringLiteral("accordionHeading"))
+                          ->accessibleName());
+    }
+    requireEqual(titles,
+                 {QStringLiteral("Software images"), QStringLiteral("Service packs"),
+                  QStringLiteral("Packages")});
+}
+
+void Walk::refreshPackages()
+{
+    openSection(QStringLiteral("Packages"));
+    const QPointer<QTableWidget> before = table();
+    click(button(m_section, QStringLiteral("Refresh")));
+    waitFor(
+        [this, &before] {
+            return before.isNull() && table();
+        },
+        QStringLiteral("new table"));
+    const auto *help = m_window->findChild<QTextEdit *>(QStringLiteral("helpPane"));
+    require(help->toPlainText().startsWith(QLatin1String("Packages update single programs")),
+            QStringLiteral("the help pane does not follow the section"));
+}
+
+void Walk::checkOffer()
+{
+    requireEqual(
+        rows(),
+        {QStringLiteral("x tc-audio 0.9-1 1.0-1"), QStringLiteral("x tc-browser 4.2-1 4.3-1"),
+         QStringLiteral("x tc-network none 1.1-1"), QStringLiteral("- tc-printing 1.6-2 1.6-2"),
+         QStringLiteral("x tc-terminal 2.0-3 2.1-1")});
+    screenshot(QStringLiteral("packages"));
+}
+
+void Walk::readDetails()
+{
+    clickCell(1, 1);
+    click(button(m_section, QStringLiteral("Details")));
+    waitFor(
+        [] {
+            return dialog("ItemDetailsDialog");
+        },
+        QStringLiteral("details dialog"));
+    QPointer<QDialog> details = dialog("ItemDetailsDialog");
+    require(QTest::qWaitForWindowActive(details, stepTimeout),
+            QStringLiteral("the dialog is not active"));
+    require(details->windowTitle() == QLatin1String("tc-browser"), details->windowTitle());
+    QString text;
+    const QList<QLabel *> labels = details->findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        text += plain(label->text()) + QLatin1Char('\n');
+    }
+    for (const QString &expected :
+         {QStringLiteral("Web browser with kiosk mode"), QStringLiteral("4.3-1"),
+          QStringLiteral("/repos/packages/tc-browser_4.3-1_all.xml"), QStringLiteral("2.8 MiB")}) {
+        require(text.contains(expected), QStringLiteral("no \"%1\" in \"%2\"").arg(expected, text));
+    }
+    const auto *notes = details->findChild<QTextEdit *>();
+    require(notes && notes->toPlainText().contains(QLatin1String("Kiosk mode keeps its home page")),
+            QStringLiteral("the notes are not there"));
+    screenshot(QStringLiteral("details"));
+    click(button(details, QStringLiteral("OK")));
+    waitFor(
+        [&details] {
+            return details.isNull();
+        },
+        QStringLiteral("end of the dialog"));
+}
+
+void Walk::chooseLanguage(const QString &code)
+{
+    auto *menu = m_window->findChild<QMenu *>(QStringLiteral("languageMenu"));
+    auto *action = m_window->findChild<QAction *>(QLatin1String("language_") + code);
+    require(menu && action, QStringLiteral("no such language"));
+    QMenuBar *bar = m_window->menuBar();
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menu->menuAction()).center());
+    waitFor(
+        [menu] {
+            return menu->isVisible();
+        },
+        QStringLiteral("language menu"));
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+}
+
+void Walk::switchLanguage()
+{
+    const auto shows = [this](const QString &heading, const QString &title, const QString &menu) {
+        const auto *button =
+            m_section->findChild<QAbstractButton *>(QStringLiteral("accordionHeading"));
+        return button->accessibleName() == heading && table()
+            && plain(table()->item(1, 1)->text()).endsWith(title)
+            && plain(m_window->menuBar()->actions().constFirst()->text()) == menu;
+    };
+    const QStringList before = rows();
+    chooseLanguage(QStringLiteral("de"));
+    waitFor(
+        [&shows] {
+            return shows(QStringLiteral("Pakete"), QStringLiteral("Webbrowser mit Kioskmodus"),
+                         QStringLiteral("Datei"));
+        },
+        QStringLiteral("German texts"));
+    screenshot(QStringLiteral("german"));
+    chooseLanguage(QStringLiteral("en"));
+    waitFor(
+        [&shows] {
+            return shows(QStringLiteral("Packages"), QStringLiteral("Web browser with kiosk mode"),
+                         QStringLiteral("File"));
+        },
+        QStringLiteral("English texts"));
+    requireEqual(rows(), before);
+}
+
+void Walk::install()
+{
+    const auto *mark = m_window->findChild<QWidget *>(QStringLiteral("modifiedMark"));
+    require(!mark->isVisible(), QStringLiteral("the system counts as modified too early"));
+    QAbstractButton *start = button(m_section, QStringLiteral("Install"));
+    start->setFocus();
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Space);
+    waitFor(
+        [] {
+            return dialog("BusyDialog");
+        },
+        QStringLiteral("progress dialog"));
+    require(dialog("BusyDialog")->isModal(), QStringLiteral("the dialog is not modal"));
+    screenshot(QStringLiteral("progress"));
+}
+
+void Walk::finishInstallation()
+{
+    QPointer<QDialog> busy = dialog("BusyDialog");
+    require(busy, QStringLiteral("the dialog has gone"));
+    const auto *bar = busy->findChild<QProgressBar *>();
+    waitFor(
+        [bar] {
+            return bar->text().contains(QLatin1String("Done"));
+        },
+        QStringLiteral("end of the installation"));
+    auto *details = busy->findChild<QGroupBox *>();
+    require(!details->isChecked(), QStringLiteral("details open: the installation failed"));
+    details->setFocus();
+    QTest::keyClick(details, Qt::Key_Space);
+    const auto *output = busy->findChild<QTextEdit *>();
+    waitFor(
+        [output] {
+            return output->isVisible();
+        },
+        QStringLiteral("output"));
+    for (const char *line : {"Setting up tc-audio (1.0-1)", "Setting up tc-browser (4.3-1)",
+                             "Setting up tc-network (1.1-1)", "Setting up tc-terminal (2.1-1)"}) {
+        require(
+            output->toPlainText().contains(QLatin1String(line)),
+            QStringLiteral("no \"%1\" in \"%2\"").arg(QLatin1String(line), output->toPlainText()));
+    }
+    require(!output->toPlainText().contains(QLatin1String("warning")), output->toPlainText());
+    screenshot(QStringLiteral("installed"));
+    click(button(busy, QStringLiteral("Close")));
+    waitFor(
+        [&busy] {
+            return busy.isNull();
+        },
+        QStringLiteral("end of the dialog"));
+}
+
+void Walk::checkDatabase()
+{
+    QProcess query;
+    query.start(QStringLiteral("dpkg-query"),
+                {QStringLiteral("--admindir=") + m_root + QLatin1String("/var/lib/dpkg"),
+                 QStringLiteral("--show"), QStringLiteral("--showformat"),
+                 QStringLiteral("${Package} ${Version} ${db:Status-Status}\\n")});
+    require(query.waitForFinished(stepTimeout) && query.exitCode() == 0,
+            QStringLiteral("dpkg-query failed"));
+    requireEqual(
+        QString::fromUtf8(query.readAllStandardOutput())
+            .split(QLatin1Char('\n'), Qt::SkipEmptyParts),
+        {QStringLiteral("tc-audio 1.0-1 installed"), QStringLiteral("tc-browser 4.3-1 installed"),
+         QStringLiteral("tc-display 1.2-1 installed"), QStringLiteral("tc-network 1.1-1 installed"),
+         QStringLiteral("tc-printing 1.6-2 installed"),
+         QStringLiteral("tc-session 3.0-1 installed"),
+         QStringLiteral("tc-terminal 2.1-1 installed")});
+}
+
+void Walk::checkInstalledTable()
+{
+    requireEqual(
+        rows(),
+        {QStringLiteral("- tc-audio 1.0-1 1.0-1"), QStringLiteral("- tc-browser 4.3-1 4.3-1"),
+         QStringLiteral("- tc-network 1.1-1 1.1-1"), QStringLiteral("- tc-printing 1.6-2 1.6-2"),
+         QStringLiteral("- tc-terminal 2.1-1 2.1-1")});
+    const auto *mark = m_window->findChild<QWidget *>(QStringLiteral("modifiedMark"));
+    require(mark->isVisible(), QStringLiteral("the system does not count as modified"));
+    screenshot(QStringLiteral("after"));
+}
+
+void Walk::checkServicePacks()
+{
+    openSection(QStringLiteral("Service packs"));
+    requireEqual(rows(),
+                 {QStringLiteral("x SP-6.1.2-2 none 2"), QStringLiteral("x SP-6.1.2-3 none 3")});
+    screenshot(QStringLiteral("service-packs"));
+}
+
+void Walk::checkImages()
+{
+    openSection(QStringLiteral("Software images"));
+    requireEqual(rows(),
+                 {QStringLiteral("x tc-system 6.2.0"), QStringLiteral("- tc-system 6.1.10"),
+                  QStringLiteral("- tc-system 6.1.2")});
+    clickCell(1, 1);
+    requireEqual(rows(),
+                 {QStringLiteral("- tc-system 6.2.0"), QStringLiteral("x tc-system 6.1.10"),
+                  QStringLiteral("- tc-system 6.1.2")});
+    QTest::keyClick(table(), Qt::Key_Down);
+    QTest::keyClick(table(), Qt::Key_Space);
+    requireEqual(rows(),
+                 {QStringLiteral("- tc-system 6.2.0"), QStringLiteral("- tc-system 6.1.10"),
+                  QStringLiteral("x tc-system 6.1.2")});
+    clickCell(0, 0);
+    screenshot(QStringLiteral("images"));
+}
+
+void Walk::checkLog()
+{
+    const auto contents = [this](const char *path) {
+        QFile file(m_root + QLatin1String(path));
+        require(file.open(QIODevice::ReadOnly), QStringLiteral("no %1").arg(file.fileName()));
+        return QString::fromUtf8(file.readAll());
+    };
+    const QString log = contents(getuid() == 0 ? "/var/log/Ravel.log" : "/tmp/Ravel.log");
+    int from = 0;
+    for (const char *line :
+         {": Base OS: 6.1.2\n", ": Service Pack List:\n", ":     -> SP-6.1.2-1\n",
+          ": Setting up repository('Image location')\n",
+          ": Setting up repository('Service pack location')\n",
+          ": Setting up repository('Package location')\n", "/repos/packages'), Err=0\n",
+          ": Copying .deb file tc-audio_1.0-1_all.deb to local storage\n",
+          ":   Starting installation.\n", ": INSTALL FINISHED\n"}) {
+        const int at = log.indexOf(QLatin1String(line), from);
+        require(
+            at >= 0,
+            QStringLiteral("\"%1\" is missing or too early").arg(QLatin1String(line).trimmed()));
+        from = at;
+    }
+    require(
+        contents("/var/log/dpkg.log").contains(QLatin1String("upgrade tc-browser:all 4.2-1 4.3-1")),
+        QStringLiteral("dpkg's own log went elsewhere"));
+}
+
+void Walk::closeWindow()
+{
+    QTest::keyClick(m_window.get(), Qt::Key_Q, Qt::ControlModifier);
+    waitFor(
+        [this] {
+            return !m_window->isVisible();
+        },
+        QStringLiteral("end of the window"));
+    m_window.reset();
+    require(QFileInfo::exists(m_root + QLatin1String("/.config/Corvane/ravel-host.conf")),
+            QStringLiteral("the settings went elsewhere"));
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    HostWindow::nameApplication();
+    QApplication application(argc, argv);
+    if (application.arguments().size() != 3) {
+        std::fprintf(stderr, "usage: ravel-walk ROOT SCREENSHOTS\n");
+        return 2;
+    }
+    QApplication::setQuitOnLastWindowClosed(false);
+    return Walk(application.arguments().at(1), application.arguments().at(2)).run() ? 0 : 1;
+}
