@@ -51,10 +51,11 @@ fi
 DISPLAY=:$(cat "$home/display")
 export DISPLAY
 # A window manager gives dialogs their frames and the focus.
-openbox --sm-disable 2>"$home/openbox.log" &
+openbox --sm-disable >"$home/openbox.log" 2>&1 &
 pids=("$!" "${pids[@]}")
 
-mkdir -p -- "$build/screenshots"
+rm -rf -- "$build/screenshots"
+mkdir -- "$build/screenshots"
 status=0
 timeout --kill-after=5 120 \
   "$build/tests/e2e/ravel-walk" "$world/root" "$build/screenshots" || status=$?
