@@ -5,16 +5,20 @@
 #include <QString>
 
 /// Regular expressions that came from a server: QRegExp's syntax, within bounds that keep compiling
-/// them cheap (length 512, nesting 32, product of nested counts 1,000).
+/// and matching them cheap. QRegExp writes counts out: ((a{1,30}){1,30}){1,30} becomes 27,000
+/// states. So, beside the bounds below, the automaton's size is estimated beforehand and limited.
 class RVPattern
 {
 public:
     static constexpr int maxLength = 512;
+    /// Of parentheses.
     static constexpr int maxDepth = 32;
+    /// Of the counts in braces that stand within one another.
     static constexpr int maxCountProduct = 1000;
 
+    /// True when `pattern` is valid and cheap to compile and to match.
     static bool isBounded(const QString &pattern);
-    /// True when `pattern` matches the whole of `text`, case-sensitively. A pattern beyond the bounds
-    /// matches nothing and costs one level-4 log line; an invalid one matches nothing.
+    /// True when `pattern` matches the whole of `text`, case-sensitively. A pattern beyond the
+    /// bounds matches nothing and costs one level-4 log line; an invalid one matches nothing.
     static bool exactMatch(const QString &pattern, const QString &text);
 };
