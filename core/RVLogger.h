@@ -9,9 +9,9 @@
 #include <cstdio>
 
 /// Handle onto the process's one log file; made on the stack wherever something is to be logged.
-/// Levels: 0 fatal, 2 severe configuration problem, 3 error, 4 warning, 5 progress; a lower number is
-/// more serious. A log that cannot be written is silently off: no caller ever sees an error.
-/// GUI thread only.
+/// Levels: 0 fatal, 2 severe configuration problem, 3 error, 4 warning, 5 progress; a lower number
+/// is more serious. A log that cannot be written is silently off: no caller ever sees an error. GUI
+/// thread only.
 class RVLogger : public QObject
 {
     Q_OBJECT
@@ -26,8 +26,9 @@ public:
     /// An entry without a level: written while m_level is above 5.
     void log(const char *format, ...) Q_ATTRIBUTE_FORMAT_PRINTF(2, 3);
 
-    /// Opens the log for appending and writes its header. Returns null when the place is not writable
-    /// or holds anything but a regular file of our own with one link. The caller keeps the stream.
+    /// Opens the log for appending and writes its header. Returns null when the place is not
+    /// writable or holds anything but a regular file of our own with one link. The caller keeps the
+    /// stream.
     static std::FILE *open();
     /// Closes the log; the next entry opens it again, with a new header.
     static void close();

@@ -5,16 +5,17 @@
 #include <QString>
 #include <QStringList>
 
-/// Every file that the system reads and every program that it starts, in one place. The defaults are
-/// the device's; a struct made with under() describes a system that lives below another directory.
-/// A value: it is handed down as the last, defaulted argument of whatever needs one of the paths.
-struct RVPaths
-{
+/// Every file that the system reads and every program that it starts, in one place. The defaults
+/// are the device's; a struct made with under() describes a system that lives below another
+/// directory. A value: it is handed down as the last, defaulted argument of whatever needs one of
+/// the paths.
+struct RVPaths {
     QString imageId = QStringLiteral("/etc/imageid");
     QString servicePackDir = QStringLiteral("/etc/service-packs");
     QString hardwareTool = QStringLiteral("/usr/bin/cvtc-hwsw-id");
     QString definitionDir = QStringLiteral("/etc/cvtc-ravel/repositories");
-    /// The package database's status file; empty means the one that the package library is set up for.
+    /// The package database's status file; empty means the one that the package library is set up
+    /// for.
     QString packageStatus;
     /// The log of a process whose real user is root, and of any other process.
     QString rootLog = QStringLiteral("/var/log/Ravel.log");
@@ -32,8 +33,8 @@ struct RVPaths
     /// "NAME=value" entries added to the installer's environment; none on the device itself.
     QStringList installerEnvironment;
 
-    /// The same system below the directory `root` (absolute, without a trailing slash): the files and
-    /// programs move, packageStatus is root's own database, and the installer's environment makes an
-    /// unmodified dpkg work on that root, as an ordinary user too.
+    /// The same system below the directory `root` (absolute, without a trailing slash): the files
+    /// and programs move, packageStatus is root's own database, and the installer's environment
+    /// makes an unmodified dpkg work on that root, as an ordinary user too.
     static RVPaths under(const QString &root);
 };

@@ -17,7 +17,8 @@ public:
     QString path() const;
     /// The file as it stands, header and time stamps included.
     QByteArray raw() const;
-    /// The entries' texts without header and time stamps; a continuation line is an element of its own.
+    /// The entries' texts without header and time stamps; a continuation line is an element of its
+    /// own.
     QStringList lines() const;
     bool contains(const QString &line) const { return lines().contains(line); }
     int count(const QString &line) const { return static_cast<int>(lines().count(line)); }

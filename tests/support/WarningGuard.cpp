@@ -4,7 +4,8 @@
 
 #include <QtGlobal>
 
-namespace {
+namespace
+{
 WarningGuard *s_current = nullptr;
 }
 
