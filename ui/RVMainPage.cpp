@@ -4,6 +4,7 @@
 
 #include "core/OSInfo.h"
 #include "core/RVLogger.h"
+#include "network/XNetworkError.h"
 #include "repository/RVRepDesc.h"
 #include "repository/RVRepository.h"
 #include "ui/CertDialog.h"
@@ -264,7 +265,7 @@ void RVMainPage::networkError(const QNetworkReply *reply)
         return;
     }
     m_reportedReply = reply;
-    m_logger->log(3, "Network Error '%d' for '%s'", static_cast<int>(reply->error()),
+    m_logger->log(3, "Network Error '%d' for '%s'", static_cast<int>(qt4Error(reply->error())),
                   qUtf8Printable(reply->url().toDisplayString()));
     m_errorDialog->showNetworkError(reply);
 }
