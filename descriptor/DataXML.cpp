@@ -35,28 +35,40 @@ QList<QDomElement> elementsNamed(const QDomElement &root, const QString &tag)
     return result;
 }
 
+QLatin1String escapeAt(const QString &text, int i, bool inAttribute)
+{
+    switch (text.at(i).unicode()) {
+    case '&':
+        return QLatin1String("&amp;");
+    case '<':
+        return QLatin1String("&lt;");
+    case '>':
+        return QLatin1String(text.midRef(0, i).endsWith(QLatin1String("]]")) ? "&gt;" : "");
+    case '\r':
+        return QLatin1String("&#xd;");
+    case '"':
+        return QLatin1String(inAttribute ? "&quot;" : "");
+    case '\n':
+        return QLatin1String(inAttribute ? "&#xa;" : "");
+    case '\t':
+        return QLatin1String(inAttribute ? "&#x9;" : "");
+    default:
+        return {};
+    }
+}
+
 void appendEscaped(const QString &text, bool inAttribute, QString *out)
 {
+    int written = 0;
     for (int i = 0; i < text.size(); ++i) {
-        const QChar c = text.at(i);
-        if (c == QLatin1Char('&')) {
-            out->append(QLatin1String("&amp;"));
-        } else if (c == QLatin1Char('<')) {
-            out->append(QLatin1String("&lt;"));
-        } else if (c == QLatin1Char('>') && text.midRef(0, i).endsWith(QLatin1String("]]"))) {
-            out->append(QLatin1String("&gt;"));
-        } else if (c == QLatin1Char('\r')) {
-            out->append(QLatin1String("&#xd;"));
-        } else if (c == QLatin1Char('"') && inAttribute) {
-            out->append(QLatin1String("&quot;"));
-        } else if (c == QLatin1Char('\n') && inAttribute) {
-            out->append(QLatin1String("&#xa;"));
-        } else if (c == QLatin1Char('\t') && inAttribute) {
-            out->append(QLatin1String("&#x9;"));
-        } else {
-            out->append(c);
+        const QLatin1String escape = escapeAt(text, i, inAttribute);
+        if (!escape.isEmpty()) {
+            out->append(text.midRef(written, i - written));
+            out->append(escape);
+            written = i + 1;
         }
     }
+    out->append(text.midRef(written));
 }
 
 void appendChildren(const QDomNode &parent, QString *out);
