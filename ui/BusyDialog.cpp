@@ -13,6 +13,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStyle>
 #include <QTextBlock>
 #include <QTextCodec>
 #include <QTextCursor>
@@ -99,13 +100,14 @@ void BusyDialog::setup(const QString &labelText, const QString &cancelText, int 
     connect(cancelButton(), &QPushButton::clicked, this, &BusyDialog::cancel);
     closeButton()->setIcon(style.StdIcon(RVStyle::Close));
     closeButton()->hide();
+    // The dialog does not shrink while there is no button to press.
+    m_buttonBox->setMinimumHeight(cancelButton()->sizeHint().height());
     connect(closeButton(), &QPushButton::clicked, this, &BusyDialog::hide);
     connect(closeButton(), &QPushButton::clicked, this, &BusyDialog::deleteLater);
 
     m_detailsBox = new QGroupBox;
     m_detailsBox->setObjectName(QStringLiteral("detailsBox"));
     m_detailsBox->setCheckable(true);
-    m_detailsBox->setChecked(false);
     connect(m_detailsBox, &QGroupBox::clicked, this, &BusyDialog::setDetailsChecked);
 
     m_document = new QTextDocument(this);
@@ -117,13 +119,13 @@ void BusyDialog::setup(const QString &labelText, const QString &cancelText, int 
     m_detailsView->setReadOnly(true);
     m_detailsView->setTabChangesFocus(true);
     m_detailsView->setMinimumHeight(12 * fontMetrics().lineSpacing());
-    m_detailsView->hide();
     // The layout works in steps of its own: the end may come after the text that was put there.
     QScrollBar *scrollBar = m_detailsView->verticalScrollBar();
     connect(scrollBar, &QScrollBar::rangeChanged, this, [scrollBar](int, int max) {
         scrollBar->setValue(max);
     });
     auto *detailsLayout = new QVBoxLayout(m_detailsBox);
+    detailsLayout->setContentsMargins({});
     detailsLayout->addWidget(m_detailsView);
 
     auto *layout = new QVBoxLayout(this);
@@ -138,6 +140,7 @@ void BusyDialog::setup(const QString &labelText, const QString &cancelText, int 
     connect(&m_flushTimer, &QTimer::timeout, this, &BusyDialog::flushOutput);
     m_standardError.isError = true;
     resetChannels();
+    setDetailsChecked(false);
     updateNames();
     cancelButton()->setFocus();
 }
@@ -292,6 +295,9 @@ void BusyDialog::setDetailsChecked(bool checked)
 {
     m_detailsBox->setChecked(checked);
     m_detailsView->setVisible(checked);
+    // The closed box is a line to click on, without the frame that has nothing in it.
+    const int line = qMax(fontMetrics().height(), style()->pixelMetric(QStyle::PM_IndicatorHeight));
+    m_detailsBox->setMaximumHeight(checked ? QWIDGETSIZE_MAX : line);
     m_detailsBox->layout()->activate();
     layout()->activate();
     if (isVisible()) {

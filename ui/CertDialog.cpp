@@ -12,6 +12,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QStyle>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextEdit>
@@ -137,7 +138,6 @@ CertDialog::CertDialog(const QUrl &url, const QList<QSslError> &errors, QWidget 
     m_detailsBox = new QGroupBox;
     m_detailsBox->setObjectName(QStringLiteral("detailsBox"));
     m_detailsBox->setCheckable(true);
-    m_detailsBox->setChecked(false);
     connect(m_detailsBox, &QGroupBox::toggled, this, &CertDialog::setDetailsChecked);
     m_detailsView = new QTextEdit;
     m_detailsView->setObjectName(QStringLiteral("detailsView"));
@@ -145,10 +145,10 @@ CertDialog::CertDialog(const QUrl &url, const QList<QSslError> &errors, QWidget 
     m_detailsView->setAcceptRichText(true);
     m_detailsView->setTabChangesFocus(true);
     m_detailsView->setDocument(new QTextDocument(m_detailsView));
-    m_detailsView->setMinimumSize(60 * fontMetrics().averageCharWidth(),
-                                  14 * fontMetrics().lineSpacing());
-    m_detailsView->hide();
+    m_detailsView->setMinimumSize(80 * fontMetrics().averageCharWidth(),
+                                  16 * fontMetrics().lineSpacing());
     auto *detailsLayout = new QVBoxLayout(m_detailsBox);
+    detailsLayout->setContentsMargins({});
     detailsLayout->addWidget(m_detailsView);
 
     m_buttonBox = new QDialogButtonBox(QDialogButtonBox::Yes | QDialogButtonBox::No);
@@ -172,6 +172,7 @@ CertDialog::CertDialog(const QUrl &url, const QList<QSslError> &errors, QWidget 
     layout->addWidget(m_buttonBox);
     rejectButton->setFocus();
 
+    setDetailsChecked(false);
     retranslateUi();
 }
 
@@ -181,6 +182,9 @@ void CertDialog::setDetailsChecked(bool checked)
 {
     m_detailsBox->setChecked(checked);
     m_detailsView->setVisible(checked);
+    // The closed box is a line to click on, without the frame that has nothing in it.
+    const int line = qMax(fontMetrics().height(), style()->pixelMetric(QStyle::PM_IndicatorHeight));
+    m_detailsBox->setMaximumHeight(checked ? QWIDGETSIZE_MAX : line);
     m_detailsBox->layout()->activate();
     layout()->activate();
     if (isVisible()) {

@@ -131,6 +131,8 @@ void ItemDetailsDialog::setup()
     m_notesView->setObjectName(QStringLiteral("notes"));
     m_notesView->setReadOnly(true);
     m_notesView->setTabChangesFocus(true);
+    m_notesView->setMinimumSize(70 * fontMetrics().averageCharWidth(),
+                                10 * fontMetrics().lineSpacing());
     m_notesView->setDocument(m_notes);
 
     auto *buttonBox = new QDialogButtonBox(QDialogButtonBox::Ok, Qt::Horizontal);
@@ -183,6 +185,9 @@ void ItemDetailsDialog::retranslateUi()
     if (m_moreLabel) {
         m_moreLabel->setText(tr("and %n more", nullptr, files.size() - maximumContentRows));
     }
+    m_contentsArea->setMinimumHeight(qMin(m_contentsArea->maximumHeight(),
+                                          m_contentsArea->widget()->layout()->sizeHint().height()
+                                              + 2 * m_contentsArea->frameWidth()));
     m_contentsArea->setVisible(!files.isEmpty());
 
     m_notes->setNotes(m_descriptor->contentNotes(QString()));

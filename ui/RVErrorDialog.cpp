@@ -18,6 +18,8 @@ constexpr int maximumWaiting = 20;
 RVErrorDialog::RVErrorDialog(QWidget *parent)
     : QErrorMessage(parent)
 {
+    // Room for a sentence with a long place in it.
+    resize(60 * fontMetrics().averageCharWidth(), 12 * fontMetrics().lineSpacing());
 }
 
 RVErrorDialog::~RVErrorDialog() = default;

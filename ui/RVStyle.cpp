@@ -28,7 +28,8 @@ constexpr IconRow iconTable[] = {
      ":/images/stock/apply.svg"},
     {RVStyle::Cancel, "Cancel", "stock_cancel.svg", "dialog-cancel", QStyle::SP_DialogCancelButton,
      ":/images/stock/cancel.svg"},
-    {RVStyle::Close, "Close", "stock_close.svg", "window-close", QStyle::SP_DialogCloseButton,
+    // Not the style's dialog button: it is black on whatever is behind it.
+    {RVStyle::Close, "Close", "stock_close.svg", "window-close", QStyle::SP_TitleBarCloseButton,
      ":/images/stock/close.svg"},
     {RVStyle::Info, "Info", ":/images/info.svg", "dialog-information",
      QStyle::SP_MessageBoxInformation, ":/images/info.svg"},
