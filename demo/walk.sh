@@ -16,13 +16,15 @@ demo=$(cd -- "$(dirname -- "$(readlink -f -- "$0")")" && pwd -P)
 world=$build/demo/walk
 "$demo/build-world.sh" "$world"
 
-# Nothing of the person who runs this: no settings, no theme, no language.
+# Nothing of the person who runs this: no settings, no session, no theme, no language.
 home=$world/home
 rm -rf -- "$home"
 mkdir -- "$home"
 mkdir -m 0700 -- "$home/run"
 export HOME=$home XDG_CONFIG_HOME=$home/.config XDG_CACHE_HOME=$home/.cache XDG_RUNTIME_DIR=$home/run
-export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb
+export LC_ALL=C.UTF-8 DBUS_SESSION_BUS_ADDRESS=disabled:
+# Widgets need no GL, whose drivers are slow to load and leak.
+export QT_QPA_PLATFORM=xcb QT_XCB_GL_INTEGRATION=none
 unset WAYLAND_DISPLAY QT_QPA_PLATFORMTHEME QT_STYLE_OVERRIDE QT_SCALE_FACTOR LANGUAGE
 
 pids=()
