@@ -126,8 +126,9 @@ bool XarToc::parse(const QByteArray &table)
     struct Member {
         int depth;
         int pathLength;
+        int names;
     };
-    QVector<Member> open{{0, 0}}; // outermost first, below the archive itself
+    QVector<Member> open{{0, 0, 0}}; // outermost first, below the archive itself
     int depth = 0;
     while (!reader.atEnd()) {
         switch (reader.readNext()) {
@@ -142,10 +143,11 @@ bool XarToc::parse(const QByteArray &table)
                 --depth;
             } else if (reader.name() == QLatin1String("file")) {
                 ++m_memberCount;
-                open.append({depth, open.constLast().pathLength + 1});
+                open.append({depth, open.constLast().pathLength + 1, 0});
             } else if (reader.name() == QLatin1String("name")
                        && depth == open.constLast().depth + 1) {
                 open.last().pathLength += reader.readElementText().size();
+                ++open.last().names;
                 --depth;
                 if (open.constLast().pathLength > maxPath) {
                     return false;
@@ -154,8 +156,8 @@ bool XarToc::parse(const QByteArray &table)
             break;
         case QXmlStreamReader::EndElement:
             --depth;
-            if (reader.name() == QLatin1String("file")) {
-                open.removeLast();
+            if (reader.name() == QLatin1String("file") && open.takeLast().names != 1) {
+                return false;
             }
             break;
         default:

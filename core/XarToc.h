@@ -21,7 +21,7 @@ public:
     static constexpr int maxPath = 4096;
 
     /// False when `source`, which is open and random-access, does not start with an archive header
-    /// and an intact table.
+    /// and an intact table, or when a member has no name or two.
     bool read(QIODevice *source);
 
     /// The texts of the subdocuments, as they are stored.

@@ -207,6 +207,10 @@ void TestXarToc::refuses_data()
     XarWriter root;
     root.root = "rax";
     QTest::newRow("another root") << root.archive();
+    QTest::newRow("member without a name") << withTable("<file></file>");
+    QTest::newRow("member with two names")
+        << withTable("<file><name>a</name><name>b</name></file>");
+    QTest::newRow("inner member without a name") << withTable("<file><file/><name>a</name></file>");
     QTest::newRow("elements in a name") << withTable("<file><name>a<b/></name></file>");
     QTest::newRow("path longer than any")
         << withTable("<file><name>" + QByteArray(4096, 'n') + "</name></file>");
