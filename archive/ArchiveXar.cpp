@@ -2,7 +2,273 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "archive/ArchiveXar.h"
 
+#include "core/LocalCopy.h"
+#include "core/RVLogger.h"
+#include "core/XarToc.h"
+
+#include <QDir>
 #include <QFileInfo>
+#include <QStorageInfo>
+
+#include <algorithm>
+#include <archive.h>
+#include <archive_entry.h>
+#include <clocale>
+#include <limits>
+#include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+
+constexpr int maxMembers = 20000;
+// Left over for the rest of the system, which shares the disk.
+constexpr qint64 spareBytes = 64 * 1024 * 1024;
+constexpr std::size_t blockSize = 64 * 1024;
+
+using Reader = std::unique_ptr<archive, decltype(&archive_read_free)>;
+using Writer = std::unique_ptr<archive, decltype(&archive_write_free)>;
+
+/// The archive library converts names from the archive's UTF-8 to the thread's locale and refuses
+/// those that do not fit in. For as long as this lives, all do, and names arrive as the bytes they
+/// are.
+class Utf8Locale
+{
+public:
+    Utf8Locale()
+        : m_locale(::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr))
+        , m_before(m_locale ? ::uselocale(m_locale) : nullptr)
+    {
+    }
+    ~Utf8Locale()
+    {
+        if (m_locale) {
+            ::uselocale(m_before);
+            ::freelocale(m_locale);
+        }
+    }
+
+private:
+    Q_DISABLE_COPY_MOVE(Utf8Locale)
+
+    const locale_t m_locale;
+    const locale_t m_before;
+};
+
+Reader openArchive(QFile *file)
+{
+    Reader reader(archive_read_new(), &archive_read_free);
+    ::lseek(file->handle(), 0, SEEK_SET);
+    if (archive_read_support_format_xar(reader.get()) != ARCHIVE_OK
+        || archive_read_open_fd(reader.get(), file->handle(), blockSize) != ARCHIVE_OK) {
+        reader.reset();
+    }
+    return reader;
+}
+
+Writer makeWriter()
+{
+    Writer writer(archive_write_disk_new(), &archive_write_free);
+    archive_write_disk_set_options(
+        writer.get(),
+        ARCHIVE_EXTRACT_PERM | ARCHIVE_EXTRACT_TIME | ARCHIVE_EXTRACT_SECURE_NODOTDOT
+            | ARCHIVE_EXTRACT_SECURE_NOABSOLUTEPATHS | ARCHIVE_EXTRACT_SECURE_SYMLINKS);
+    return writer;
+}
+
+/// Goes on to the next member; false after the last one, or when the archive cannot be read on.
+bool readNext(archive *reader, archive_entry **entry, int *result)
+{
+    *result = archive_read_next_header(reader, entry);
+    return *result != ARCHIVE_EOF && *result != ARCHIVE_FATAL;
+}
+
+/// A path that names something below the current directory, and one thing only.
+bool isPlainPath(const QByteArray &path)
+{
+    const QByteArrayList components = path.split('/');
+    return std::none_of(components.begin(), components.end(), [](const QByteArray &component) {
+        return component.isEmpty() || component == "." || component == "..";
+    });
+}
+
+enum class Kind {
+    Nothing,
+    Directory,
+    Other,
+};
+
+Kind kindOf(const QByteArray &path)
+{
+    struct stat status = {};
+    if (::lstat(path.constData(), &status) != 0) {
+        return Kind::Nothing;
+    }
+    return S_ISDIR(status.st_mode) ? Kind::Directory : Kind::Other;
+}
+
+/// The directories on the way to `path`, outermost first.
+QByteArrayList parents(const QByteArray &path)
+{
+    QByteArrayList result;
+    for (int end = path.indexOf('/'); end > 0; end = path.indexOf('/', end + 1)) {
+        result.append(path.left(end));
+    }
+    return result;
+}
+
+/// Whether no link or file is in the way to `path`.
+bool isReachable(const QByteArray &path)
+{
+    const QByteArrayList way = parents(path);
+    return std::none_of(way.begin(), way.end(), [](const QByteArray &parent) {
+        return kindOf(parent) == Kind::Other;
+    });
+}
+
+/// Unpacks members into the current directory and remembers what that added to it.
+class Unpacking
+{
+public:
+    Unpacking()
+        : m_writer(makeWriter())
+    {
+    }
+
+    /// False when the member is refused or damaged; the next one can follow all the same.
+    bool unpack(archive *reader, archive_entry *entry);
+    /// False when something could not be completed.
+    bool finish() { return archive_write_close(m_writer.get()) == ARCHIVE_OK; }
+    /// Removes what was added; before finish(), which may close directories to their owner.
+    void undo();
+
+private:
+    Q_DISABLE_COPY_MOVE(Unpacking)
+
+    void remember(const QByteArray &path, bool isDirectory);
+    bool copyContents(archive *reader, archive_entry *entry);
+
+    Writer m_writer;
+    QByteArrayList m_added;
+};
+
+bool Unpacking::unpack(archive *reader, archive_entry *entry)
+{
+    const QByteArray path(archive_entry_pathname(entry));
+    const char *original = archive_entry_hardlink(entry);
+    const auto type = archive_entry_filetype(entry);
+    const bool isKnownType = type == AE_IFREG || type == AE_IFDIR || type == AE_IFLNK || original;
+    if (!isKnownType || !isPlainPath(path) || !isReachable(path)
+        || (original && (!isPlainPath(original) || !isReachable(original)))) {
+        return false;
+    }
+    archive_entry_set_perm(entry, archive_entry_perm(entry) & 01777U);
+    remember(path, type == AE_IFDIR);
+    return archive_write_header(m_writer.get(), entry) == ARCHIVE_OK
+        && (original || type != AE_IFREG || copyContents(reader, entry))
+        && archive_write_finish_entry(m_writer.get()) == ARCHIVE_OK;
+}
+
+bool Unpacking::copyContents(archive *reader, archive_entry *entry)
+{
+    const void *block = nullptr;
+    std::size_t length = 0;
+    la_int64_t offset = 0;
+    int result = ARCHIVE_OK;
+    while ((result = archive_read_data_block(reader, &block, &length, &offset)) == ARCHIVE_OK) {
+        // More than was announced is more than there may be room for.
+        if (offset + static_cast<la_int64_t>(length) > archive_entry_size(entry)
+            || archive_write_data_block(m_writer.get(), block, length, offset) != ARCHIVE_OK) {
+            return false;
+        }
+    }
+    return result == ARCHIVE_EOF;
+}
+
+void Unpacking::remember(const QByteArray &path, bool isDirectory)
+{
+    // With the directories that are made on the way; a file that a member replaces goes with it.
+    for (const QByteArray &parent : parents(path)) {
+        if (kindOf(parent) == Kind::Nothing) {
+            m_added.append(parent);
+        }
+    }
+    if (!isDirectory || kindOf(path) != Kind::Directory) {
+        m_added.append(path);
+    }
+}
+
+void Unpacking::undo()
+{
+    // What came last goes first, so that everything is again as it was when the path was added.
+    for (auto path = m_added.crbegin(); path != m_added.crend(); ++path) {
+        if (isReachable(*path) && ::unlink(path->constData()) != 0) {
+            ::rmdir(path->constData());
+        }
+    }
+}
+
+/// The sizes of all members, as announced; -1 when an announcement cannot be true.
+qint64 announcedSize(QFile *file)
+{
+    const Reader reader = openArchive(file);
+    archive_entry *entry = nullptr;
+    int result = ARCHIVE_OK;
+    qint64 total = 0;
+    while (reader && readNext(reader.get(), &entry, &result)) {
+        const qint64 size = archive_entry_size(entry);
+        if (size < 0 || size > std::numeric_limits<qint64>::max() - total) {
+            return -1;
+        }
+        total += size;
+    }
+    return total;
+}
+
+bool isWithinBounds(QFile *file)
+{
+    XarToc table;
+    if (!table.read(file)) {
+        return false;
+    }
+    if (table.memberCount() > maxMembers) {
+        RVLogger().log(3, "The xar archive holds %d members, more than %d", table.memberCount(),
+                       maxMembers);
+        return false;
+    }
+    const qint64 size = announcedSize(file);
+    const qint64 available = QStorageInfo(QDir::currentPath()).bytesAvailable();
+    if (size < 0 || size > available - spareBytes) {
+        RVLogger().log(3, "The xar archive needs %lld bytes, of %lld that are free",
+                       static_cast<long long>(size), static_cast<long long>(available));
+        return false;
+    }
+    return true;
+}
+
+bool unpackAll(QFile *file)
+{
+    const Reader reader = openArchive(file);
+    if (!reader) {
+        return false;
+    }
+    Unpacking unpacking;
+    archive_entry *entry = nullptr;
+    bool isWhole = true;
+    int result = ARCHIVE_OK;
+    while (readNext(reader.get(), &entry, &result)) {
+        isWhole = result == ARCHIVE_OK && unpacking.unpack(reader.get(), entry) && isWhole;
+    }
+    isWhole = isWhole && result == ARCHIVE_EOF;
+    if (isWhole && unpacking.finish()) {
+        return true;
+    }
+    unpacking.undo();
+    return false;
+}
+
+} // namespace
 
 ArchiveXar::ArchiveXar(const QUrl &url, QObject *parent, const RVPaths &paths)
     : ArchiveBaseClass(url, parent)
@@ -17,13 +283,29 @@ ArchiveXar::~ArchiveXar() = default;
 
 bool ArchiveXar::extract(QIODevice *source) const
 {
-    return source->open(QIODevice::ReadOnly);
+    const Utf8Locale locale;
+    LocalCopy archive;
+    return archive.take(source) && archive.file()->size() > 0 && isWithinBounds(archive.file())
+        && unpackAll(archive.file());
 }
 
 void ArchiveXar::install(QProcess *proc)
 {
     Q_EMIT installStarted();
-    proc->start(m_paths.xarInstaller, QStringList());
+    // The first one as the directory lists it; a service pack has one directory at its top.
+    QDir current(QDir::currentPath());
+    current.setSorting(QDir::Unsorted);
+    QString directory;
+    for (const QFileInfo &entry : current.entryInfoList()) {
+        if (entry.fileName() != QLatin1String(".") && entry.fileName() != QLatin1String("..")
+            && entry.isDir() && !entry.isSymLink()) {
+            directory = entry.fileName();
+            break;
+        }
+    }
+    RVLogger().log(5, "Installing xar archive %s",
+                   qUtf8Printable(m_url.toString(QUrl::RemovePassword)));
+    proc->start(m_paths.xarInstaller, {QStringLiteral("--extrdir=") + directory});
 }
 
 void ArchiveXar::setProxy(const QString &host, int port)
