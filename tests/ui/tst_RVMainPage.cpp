@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "core/RVLogger.h"
 #include "repository/RVRepository.h"
+#include "tests/support/DpkgRoot.h"
 #include "tests/support/LogFile.h"
 #include "tests/support/WarningGuard.h"
 #include "tests/ui/UpdateWorld.h"
@@ -174,6 +175,8 @@ private Q_SLOTS:
     void tellsWhereRepositoriesAre();
     void changesLanguage();
     void readsTheSystemBeforeTheTables();
+    void installsWithTheRealDpkg_data();
+    void installsWithTheRealDpkg();
     void addsItsPagesToTheHost();
     void translatesTheTitlePage();
     void closesTheLog();
@@ -911,6 +914,62 @@ void TestRVMainPage::readsTheSystemBeforeTheTables()
         QCOMPARE(installed(frame), QStringLiteral("2.0"));
         QCOMPARE(table(frame)->item(0, SelectionTable::ChoiceColumn)->checkState(), Qt::Unchecked);
     }
+}
+
+void TestRVMainPage::installsWithTheRealDpkg_data()
+{
+    QTest::addColumn<QByteArray>("fields");
+    QTest::addColumn<QString>("installed");
+    QTest::addColumn<int>("state");
+    QTest::addColumn<QString>("logged");
+    QTest::newRow("a newer package")
+        << QByteArray() << QStringLiteral("2.0") << static_cast<int>(Qt::Unchecked) << QString();
+    QTest::newRow("one that conflicts")
+        << QByteArray("Conflicts: keeper\n") << QStringLiteral("1.0")
+        << static_cast<int>(Qt::Checked) << QStringLiteral("tool conflicts with keeper");
+}
+
+void TestRVMainPage::installsWithTheRealDpkg()
+{
+    QFETCH(QByteArray, fields);
+    QFETCH(QString, installed);
+    QFETCH(QString, logged);
+    const DpkgRoot root;
+    QVERIFY(root.isValid());
+    for (const char *name : {"tool", "keeper"}) {
+        QCOMPARE(root.preinstall({QLatin1String(name), QStringLiteral("1.0")}), QString());
+    }
+    define({local(QStringLiteral("Packages"))});
+    m_world->add(QStringLiteral("tool"), QStringLiteral("tool"), QStringLiteral("2.0"));
+    const QString archive = m_world->repository() + QStringLiteral("/tool.deb");
+    QVERIFY(QFile::remove(archive));
+    QCOMPARE(DpkgRoot::build({QStringLiteral("tool"), QStringLiteral("2.0"), fields}, archive),
+             QString());
+    RVPaths paths = root.paths();
+    paths.definitionDir = m_paths.definitionDir;
+    paths.imageId = m_paths.imageId;
+    paths.rootLog = paths.userLog = m_log->path();
+    const RVMainPage page(nullptr, nullptr, Qt::WindowFlags(), paths);
+    const RVControlFrame *frame = frames(page).first();
+    QTRY_COMPARE(table(frame)->rowCount(), 1);
+    const auto text = [frame] {
+        return table(frame)->item(0, SelectionTable::InstalledColumn)->text();
+    };
+    const auto state = [frame] {
+        return static_cast<int>(table(frame)->item(0, SelectionTable::ChoiceColumn)->checkState());
+    };
+    QCOMPARE(text(), QStringLiteral("1.0"));
+    QCOMPARE(state(), static_cast<int>(Qt::Checked));
+
+    QSignalSpy modified(&page, &WizardPage::modified);
+    table(frame)->install();
+    QTRY_COMPARE_WITH_TIMEOUT(modified.size(), 1, 30000);
+    QCOMPARE(root.installedVersion(QStringLiteral("tool")), installed);
+    QTEST(text(), "installed");
+    QTEST(state(), "state");
+    const QStringList log = m_log->lines();
+    QVERIFY2(log.join(QLatin1Char('\n')).contains(logged), qPrintable(log.join(QLatin1Char('\n'))));
+    QCOMPARE(log.contains(QStringLiteral("Failed installation details:")), !logged.isEmpty());
 }
 
 void TestRVMainPage::addsItsPagesToTheHost()

@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QAuthenticator>
+#include <QBuffer>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QHeaderView>
@@ -1186,9 +1187,17 @@ void TestSelectionTable::isQuickWithManyRows()
 {
     QList<RVData> entries;
     for (int i = 0; i < 2000; ++i) {
-        entries.append(m_world->entry(
-            QString::number(i), QStringLiteral("package-%1").arg(i), QStringLiteral("1.%1").arg(i),
-            QStringLiteral("A title that is long enough to be broken, number %1").arg(i)));
+        const RVData entry(QUrl(QStringLiteral("file:///%1.deb").arg(i)),
+                           QUrl(QStringLiteral("file:///%1.xml").arg(i)));
+        QBuffer descriptor;
+        descriptor.setData(
+            QStringLiteral("<update_data><name>package-%1</name><title>A title that is "
+                           "long enough to be broken, number %1</title>"
+                           "<version>1.%1</version></update_data>")
+                .arg(i)
+                .toUtf8());
+        entry.descriptor()->read(&descriptor);
+        entries.append(entry);
     }
     QElapsedTimer timer;
     timer.start();
