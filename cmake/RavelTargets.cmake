@@ -56,7 +56,8 @@ function(ravel_add_test name)
   cmake_parse_arguments(ARG "ENGINE;HOST" "TIMEOUT" "SOURCES;LINK;LABELS;LOCK;ENVIRONMENT" ${ARGN})
   cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
   set(home ${CMAKE_CURRENT_BINARY_DIR}/home_${name})
-  file(MAKE_DIRECTORY ${home})
+  # Qt closes the runtime directory to others, so it cannot be the home itself.
+  file(MAKE_DIRECTORY ${home}/run)
   file(CHMOD ${home} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
   add_executable(tst_${name} tst_${name}.cpp ${ARG_SOURCES})
   set_target_properties(tst_${name} PROPERTIES AUTOMOC ON CXX_EXTENSIONS OFF)
@@ -72,5 +73,5 @@ function(ravel_add_test name)
   add_test(NAME ${folder}.${name} COMMAND tst_${name})
   set_tests_properties(${folder}.${name} PROPERTIES
     LABELS "${ARG_LABELS}" RESOURCE_LOCK "${ARG_LOCK}" TIMEOUT "${ARG_TIMEOUT}"
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/.config;XDG_RUNTIME_DIR=${home};TMPDIR=${home};http_proxy=;https_proxy=;ftp_proxy=;HTTP_PROXY=;HTTPS_PROXY=;no_proxy=;${ARG_ENVIRONMENT}")
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/.config;XDG_RUNTIME_DIR=${home}/run;TMPDIR=${home};http_proxy=;https_proxy=;ftp_proxy=;HTTP_PROXY=;HTTPS_PROXY=;no_proxy=;${ARG_ENVIRONMENT}")
 endfunction()
