@@ -133,6 +133,7 @@ private Q_SLOTS:
     void cancelDropsWhatWaits();
     void cancelAfterTheEnd();
     void cancelFromAnErrorHandler();
+    void cancelWhenALaterEntryFailsAtOnce();
     void onlyOneEnd_data();
     void onlyOneEnd();
     void replyDeletedByAnotherObject();
@@ -780,7 +781,30 @@ void TestRVDescFetch::cancelFromAnErrorHandler()
     QVERIFY(m_log->contains(QStringLiteral("DESCRIPTOR FETCH CANCEL, KILLING 1 FETCHES")));
     letEverythingArrive();
     QCOMPARE(spies.finished.count(), 1);
-    QVERIFY(m_server->requests().size() <= 1);
+    QVERIFY(fetch.children().isEmpty());
+}
+
+void TestRVDescFetch::cancelWhenALaterEntryFailsAtOnce()
+{
+    m_server->hold();
+    QList<RVData> entries = remoteEntries(RVLimits::transfersInFlight);
+    entries.append(entry(QUrl(QStringLiteral("file:///nonexistent/a.xml"))));
+    entries.append(localEntries(1));
+    RVDescFetch fetch(entries, {}, {});
+    const Spies spies(fetch);
+    const auto once = std::make_shared<QMetaObject::Connection>();
+    *once = connect(&fetch, &RVDescFetch::networkError, &fetch, [&fetch, once] {
+        disconnect(*once);
+        fetch.cancel();
+    });
+    fetch.fetchAll();
+    QTRY_COMPARE_WITH_TIMEOUT(m_server->waiting(), RVLimits::transfersInFlight, patience);
+    m_server->release();
+    QTRY_COMPARE_WITH_TIMEOUT(spies.finished.count(), 1, patience);
+    letEverythingArrive();
+    QCOMPARE(spies.finished.count(), 1);
+    QVERIFY(fetch.children().isEmpty());
+    QCOMPARE(versionOf(entries.last()), QString());
 }
 
 void TestRVDescFetch::onlyOneEnd_data()
