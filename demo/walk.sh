@@ -39,22 +39,28 @@ stop()
 }
 trap stop EXIT
 
+# await FILE WHAT LOG: until FILE is there with something in it
+await()
+{
+  local i
+  for ((i = 0; i < 300; ++i)); do
+    [ ! -s "$1" ] || return 0
+    sleep 0.1
+  done
+  echo "walk: no $2" >&2
+  cat "$3" >&2
+  return 1
+}
+
 Xvfb -displayfd 3 -screen 0 1280x1000x24 -nolisten tcp 3>"$home/display" 2>"$home/xvfb.log" &
 pids=("$!")
-for ((i = 0; i < 100; ++i)); do
-  [ ! -s "$home/display" ] || break
-  sleep 0.1
-done
-if [ ! -s "$home/display" ]; then
-  echo "walk: no virtual display" >&2
-  cat "$home/xvfb.log" >&2
-  exit 1
-fi
+await "$home/display" 'virtual display' "$home/xvfb.log"
 DISPLAY=:$(cat "$home/display")
 export DISPLAY
-# A window manager gives dialogs their frames and the focus.
-openbox --sm-disable >"$home/openbox.log" 2>&1 &
+# A window manager gives dialogs their frames and the focus, but not to windows that were there first.
+openbox --sm-disable --startup "cp '$home/display' '$home/managed'" >"$home/openbox.log" 2>&1 &
 pids=("$!" "${pids[@]}")
+await "$home/managed" 'window manager' "$home/openbox.log"
 
 rm -rf -- "$build/screenshots"
 mkdir -- "$build/screenshots"
