@@ -149,6 +149,9 @@ void RVMainPage::retranslateUi()
         const RVRepDesc &definition = *m_definitions[static_cast<std::size_t>(i)];
         m_frames.at(i)->setHeading(definition.title.value({}), definition.description.value({}));
     }
+    if (m_currentIndex >= 0) {
+        setAccordionItemHelp(m_items.at(m_currentIndex));
+    }
     Q_EMIT retranslateDone();
 }
 
@@ -185,6 +188,7 @@ void RVMainPage::setAccordionItemHelp(AccordionItem *item)
 {
     const int index = m_items.indexOf(item);
     if (index >= 0) {
+        m_currentIndex = index;
         Q_EMIT helpChanged(m_definitions[static_cast<std::size_t>(index)]->description.value({}));
     }
 }

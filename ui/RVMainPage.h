@@ -99,6 +99,8 @@ private:
     QList<AccordionItem *> m_items;
     RVDefinitions::List m_definitions;
     RVErrorDialog *m_errorDialog = nullptr;
+    /// The section whose help is shown; -1 before one was opened.
+    int m_currentIndex = -1;
     /// By lower-case URL scheme.
     QMap<QString, QString> m_proxyHosts;
     QMap<QString, int> m_proxyPorts;

@@ -448,6 +448,9 @@ void Walk::switchLanguage()
                          QStringLiteral("Datei"));
         },
         QStringLiteral("German texts"));
+    const auto *help = m_window->findChild<QTextEdit *>(QStringLiteral("helpPane"));
+    require(help->toPlainText().startsWith(QLatin1String("Pakete aktualisieren")),
+            QStringLiteral("the help pane does not follow the language"));
     screenshot(QStringLiteral("german"));
     chooseLanguage(QStringLiteral("en"));
     waitFor(

@@ -855,6 +855,9 @@ void TestRVMainPage::tellsTheHelpOfTheOpenSection()
     QCOMPARE(help.first().first().toString(), QStringLiteral("About Two"));
     page->setAccordionItemHelp(nullptr);
     QCOMPARE(help.size(), 1);
+    page->retranslateUi();
+    QCOMPARE(help.size(), 2);
+    QCOMPARE(help.last().first().toString(), QStringLiteral("About Two"));
 }
 
 void TestRVMainPage::tellsWhereRepositoriesAre()
