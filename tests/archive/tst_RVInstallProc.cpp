@@ -13,7 +13,9 @@
 #include <QFile>
 #include <QHash>
 #include <QPointer>
-#include <QSignalSpy>
+#include <QSslCertificate>
+#include <QSslKey>
+#include <QSslSocket>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
@@ -155,6 +157,61 @@ private:
     QTcpServer m_server;
 };
 
+/// Gives a package over TLS, with a certificate that nobody has signed.
+class TlsServer : public QTcpServer
+{
+    Q_OBJECT
+
+public:
+    /// Keeps the key and the certificate in `directory`.
+    explicit TlsServer(const QString &directory)
+    {
+        const QString key = directory + QStringLiteral("/key.pem");
+        const QString certificate = directory + QStringLiteral("/certificate.pem");
+        QProcess openssl;
+        openssl.start(QStringLiteral("openssl"),
+                      {QStringLiteral("req"), QStringLiteral("-x509"), QStringLiteral("-newkey"),
+                       QStringLiteral("ec"), QStringLiteral("-pkeyopt"),
+                       QStringLiteral("ec_paramgen_curve:prime256v1"), QStringLiteral("-nodes"),
+                       QStringLiteral("-subj"), QStringLiteral("/CN=127.0.0.1"),
+                       QStringLiteral("-keyout"), key, QStringLiteral("-out"), certificate});
+        openssl.waitForFinished(limitMs);
+        QFile keyFile(key);
+        if (keyFile.open(QIODevice::ReadOnly)) {
+            m_key = QSslKey(&keyFile, QSsl::Ec);
+        }
+        m_certificate = QSslCertificate::fromPath(certificate).value(0);
+        listen(QHostAddress::LocalHost);
+    }
+
+    QUrl url() const
+    {
+        return QUrl(QStringLiteral("https://127.0.0.1:%1/a.deb").arg(serverPort()));
+    }
+
+protected:
+    void incomingConnection(qintptr handle) override
+    {
+        auto *socket = new QSslSocket(this);
+        socket->setSocketDescriptor(handle);
+        socket->setPrivateKey(m_key);
+        socket->setLocalCertificate(m_certificate);
+        connect(socket, &QTcpSocket::readyRead, socket, [socket] {
+            if (socket->readAll().endsWith("\r\n\r\n")) {
+                socket->write("HTTP/1.1 200 OK\r\nContent-Length: 7\r\nConnection: close\r\n\r\n"
+                              "package");
+                socket->disconnectFromHost();
+            }
+        });
+        connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+        socket->startServerEncryption();
+    }
+
+private:
+    QSslKey m_key;
+    QSslCertificate m_certificate;
+};
+
 /// Everything that a procedure reports, in order, as short texts.
 class Report : public QObject
 {
@@ -286,6 +343,7 @@ private Q_SLOTS:
     void cancels_data();
     void cancels();
     void cancelDropsWhatIsStillArriving();
+    void cancelDropsWhatHasArrived();
     void cancelLeavesTheInstallerRunning();
     void cancelTwiceReportsOnce();
     void cancelAfterTheEnd();
@@ -305,6 +363,8 @@ private Q_SLOTS:
     void credentials_data();
     void credentials();
     void passesQuestionsOut();
+    void asksAboutCertificates_data();
+    void asksAboutCertificates();
     void directoryOfItsOwn();
     void twoProceduresAtOnce();
     void failsWithoutTemporaryDirectory();
@@ -424,11 +484,13 @@ void tst_RVInstallProc::installsAsOrdinaryUser()
         != 0) {
         QSKIP("the build folder is closed to other users");
     }
-    QCOMPARE(::chown(QFile::encodeName(m_dir->path()).constData(), 65534, 65534), 0);
+    // The way to this run's own directory may be closed to that user.
+    const QTemporaryDir home(QStringLiteral("/tmp/ravel-XXXXXX"));
+    QCOMPARE(::chown(QFile::encodeName(home.path()).constData(), 65534, 65534), 0);
     QProcess child;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char *name : {"TMPDIR", "HOME"}) {
-        environment.insert(QLatin1String(name), m_dir->path());
+        environment.insert(QLatin1String(name), home.path());
     }
     child.setProcessEnvironment(environment);
     child.setWorkingDirectory(QStringLiteral("/"));
@@ -827,6 +889,22 @@ void tst_RVInstallProc::cancelDropsWhatIsStillArriving()
     QVERIFY(!m_log->raw().contains("Copying"));
 }
 
+void tst_RVInstallProc::cancelDropsWhatHasArrived()
+{
+    // A local file is there at once; only the news of it is still on its way.
+    const QString file = m_dir->filePath(QStringLiteral("a.deb"));
+    QVERIFY(write(file, "package"));
+    RVInstallProc procedure({entry(QUrl::fromLocalFile(file), {})}, QString(), QString());
+    Report report(&procedure);
+    procedure.start();
+    const QDir temporary = QDir::current();
+    procedure.cancel();
+    QTRY_VERIFY(procedure.findChildren<QNetworkAccessManager *>().isEmpty());
+    QCOMPARE(report.finals(), 1);
+    QVERIFY(temporary.isEmpty());
+    QVERIFY(!m_log->raw().contains("Copying"));
+}
+
 void tst_RVInstallProc::cancelLeavesTheInstallerRunning()
 {
     Server server;
@@ -1190,6 +1268,38 @@ void tst_RVInstallProc::passesQuestionsOut()
     run(&other, &otherReport);
     QCOMPARE(asking.port(), server.port());
     QVERIFY(server.requests.last().contains("Proxy-Authorization: Basic dTpw"));
+}
+
+void tst_RVInstallProc::asksAboutCertificates_data()
+{
+    QTest::addColumn<bool>("accepted");
+
+    QTest::newRow("accepted") << true;
+    QTest::newRow("rejected") << false;
+}
+
+void tst_RVInstallProc::asksAboutCertificates()
+{
+    QFETCH(bool, accepted);
+
+    const TlsServer server(m_dir->path());
+    const RVPaths paths = installer("/bin/cat ./*.deb");
+    RVInstallProc procedure({entry(server.url(), paths)}, QString(), QString(), nullptr, paths);
+    Report report(&procedure);
+    int asked = 0;
+    connect(&procedure, &RVInstallProc::sslErrors, this,
+            [&](QNetworkReply *reply, const QList<QSslError> &errors) {
+                ++asked;
+                QCOMPARE(reply->url(), server.url());
+                QVERIFY(!errors.isEmpty());
+                if (accepted) {
+                    reply->ignoreSslErrors();
+                }
+            });
+    run(&procedure, &report);
+    QCOMPARE(asked, 1);
+    QCOMPARE(report.events.contains(QStringLiteral("networkError 6")), !accepted);
+    QCOMPARE(procedure.readAllStandardOutput(), accepted ? QByteArray("package") : QByteArray());
 }
 
 void tst_RVInstallProc::directoryOfItsOwn()
