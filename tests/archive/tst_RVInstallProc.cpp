@@ -955,6 +955,10 @@ void tst_RVInstallProc::cancelAfterTheEnd()
     run(&procedure, &report);
     procedure.cancel();
     QCOMPARE(report.finals(), 1);
+    // It can be used again.
+    report.events.clear();
+    run(&procedure, &report);
+    QCOMPARE(report.events.last(), QStringLiteral("finished 0 normal"));
 }
 
 void tst_RVInstallProc::startsAgainAfterCancel()
