@@ -37,7 +37,7 @@ public:
         return m_nextDigit > m_pos && m_nextDigit < m_text.size();
     }
 
-    QStringRef takeFront() { return m_text.midRef(m_pos++, 1); }
+    QChar takeFront() { return m_text.at(m_pos++); }
 
     /// Takes the leading digits; a run that does not fit counts as 0.
     int takeNumber()
@@ -109,8 +109,9 @@ int VersionString::versionCompare(const QString &a, const QString &b, Qt::CaseSe
             if (right.startsWithDigit()) {
                 return -1;
             }
-            const QStringRef front = left.takeFront();
-            result = sign(front.compare(right.takeFront(), cs), 0);
+            const QChar ours = left.takeFront();
+            const QChar theirs = right.takeFront();
+            result = ours == theirs ? 0 : sign(QString(ours).compare(QString(theirs), cs), 0);
         }
         if (result != 0) {
             return result;

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "core/VersionString.h"
 
-#include <QElapsedTimer>
 #include <QRandomGenerator>
 #include <QRegExp>
 #include <QTest>
+
+#include <ctime>
 
 namespace
 {
@@ -280,11 +281,11 @@ void tst_VersionString::hostileLength()
 {
     QFETCH(QString, left);
     QFETCH(QString, right);
-    QElapsedTimer timer;
-    timer.start();
+    const std::clock_t start = std::clock();
     VersionString(left).compare(VersionString(right), Qt::CaseSensitive);
     VersionString(right).compare(VersionString(left), Qt::CaseInsensitive);
-    QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+    const double seconds = double(std::clock() - start) / CLOCKS_PER_SEC;
+    QVERIFY2(seconds < 3, qPrintable(QString::number(seconds)));
 }
 
 void tst_VersionString::keepsTheText()
