@@ -139,13 +139,13 @@ bool usePackageDatabase(const QString &status)
 } // namespace
 
 struct OSInfo::PackageCache {
-    explicit PackageCache(DynamicMMap *cacheMap)
-        : map(cacheMap)
-        , cache(cacheMap)
+    explicit PackageCache(std::unique_ptr<MMap> cacheMap)
+        : map(std::move(cacheMap))
+        , cache(map.get())
     {
     }
 
-    std::unique_ptr<DynamicMMap> map;
+    std::unique_ptr<MMap> map;
     pkgCache cache;
 };
 
@@ -261,12 +261,13 @@ void OSInfo::readPackageCache()
     // Only what is installed is asked for: the cache of the package sources would take a hundred
     // times as long and answer the same.
     OpProgress silentProgress;
-    DynamicMMap *map = nullptr;
-    if (!pkgCacheGenerator::MakeOnlyStatusCache(&silentProgress, &map) || !map) {
-        delete map;
+    DynamicMMap *made = nullptr;
+    const bool good = pkgCacheGenerator::MakeOnlyStatusCache(&silentProgress, &made);
+    std::unique_ptr<MMap> map(made);
+    if (!good || !map) {
         return;
     }
-    m_packages = std::make_unique<PackageCache>(map);
+    m_packages = std::make_unique<PackageCache>(std::move(map));
     if (guard.hasFailed()) {
         m_packages.reset();
     }

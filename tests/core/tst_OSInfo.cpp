@@ -311,7 +311,7 @@ void tst_OSInfo::unreadableServicePackFile()
 void tst_OSInfo::manyServicePacks()
 {
     QByteArray contents;
-    for (int i = 0; contents.size() < 1000 * 1000; ++i) {
+    for (int i = 0; contents.size() < 300 * 1000; ++i) {
         contents += QByteArray::number(i) + '\n';
     }
     m_root->addServicePackFile(QStringLiteral("list"), contents);
@@ -499,7 +499,7 @@ void tst_OSInfo::slowTool()
     timer.start();
     const OSInfo info(nullptr, m_root->paths());
     QCOMPARE(info.thinClient(), QStringLiteral("T430"));
-    QVERIFY2(timer.elapsed() >= 950 && timer.elapsed() < 4000,
+    QVERIFY2(timer.elapsed() >= 950 && timer.elapsed() < 15000,
              qPrintable(QString::number(timer.elapsed())));
 }
 
@@ -510,7 +510,7 @@ void tst_OSInfo::toolThatClosesItsOutput()
     timer.start();
     const OSInfo info(nullptr, m_root->paths());
     QCOMPARE(info.thinClient(), QStringLiteral("T430"));
-    QVERIFY(timer.elapsed() < 4000);
+    QVERIFY(timer.elapsed() < 15000);
 }
 
 void tst_OSInfo::endlessTool()
@@ -521,7 +521,7 @@ void tst_OSInfo::endlessTool()
     const OSInfo info(nullptr, m_root->paths());
     QVERIFY(info.thinClient().startsWith(QLatin1String("T430\nT430\n")));
     QVERIFY(info.thinClient().size() <= 64 * 1024);
-    QVERIFY(timer.elapsed() < 4000);
+    QVERIFY(timer.elapsed() < 15000);
 }
 
 void tst_OSInfo::toolLeavesNoZombie()
