@@ -4,10 +4,11 @@
 #include "core/RVPattern.h"
 #include "tests/support/LogFile.h"
 
-#include <QElapsedTimer>
 #include <QRandomGenerator>
 #include <QRegExp>
 #include <QTest>
+
+#include <ctime>
 
 namespace
 {
@@ -20,6 +21,12 @@ QString operator"" _s(const char *text, size_t size)
 QString nested(int depth, const QString &inner)
 {
     return QStringLiteral("(").repeated(depth) + inner + QStringLiteral(")").repeated(depth);
+}
+
+/// Processor time: a busy machine does not count.
+double secondsUsed()
+{
+    return double(std::clock()) / CLOCKS_PER_SEC;
 }
 
 QString refusal(const QString &shown)
@@ -298,10 +305,9 @@ void tst_RVPattern::refusedAtOnce()
 {
     QFETCH(QString, pattern);
     const LogFile log;
-    QElapsedTimer timer;
-    timer.start();
+    const double start = secondsUsed();
     QVERIFY(!RVPattern::exactMatch(pattern, QString(64, QLatin1Char('a'))));
-    QVERIFY2(timer.elapsed() < 200, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(secondsUsed() - start < 0.2);
     QCOMPARE(log.lines().size(), 1);
 }
 
@@ -339,10 +345,9 @@ void tst_RVPattern::cheapWhenAccepted()
 {
     QFETCH(QString, pattern);
     const LogFile log;
-    QElapsedTimer timer;
-    timer.start();
+    const double start = secondsUsed();
     RVPattern::exactMatch(pattern, QString(64, QLatin1Char('a')));
-    QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(secondsUsed() - start < 2);
     QCOMPARE(log.raw(), QByteArray());
 }
 
@@ -353,18 +358,16 @@ void tst_RVPattern::anyAcceptedPatternIsCheapAndTheEngines()
     const QString longText(64, QLatin1Char('a'));
     int accepted = 0;
     int matched = 0;
-    QElapsedTimer all;
-    all.start();
+    const double begin = secondsUsed();
     for (int i = 0; i < 3000; ++i) {
         const QString pattern = maker.make(i % 4);
         if (!RVPattern::isBounded(pattern)) {
             continue;
         }
         ++accepted;
-        QElapsedTimer timer;
-        timer.start();
+        const double start = secondsUsed();
         RVPattern::exactMatch(pattern, longText);
-        QVERIFY2(timer.elapsed() < 3000, qPrintable(pattern));
+        QVERIFY2(secondsUsed() - start < 2, qPrintable(pattern));
         const QRegExp engine(pattern);
         for (int j = 0; j < 5; ++j) {
             const QString text = maker.text();
@@ -376,7 +379,7 @@ void tst_RVPattern::anyAcceptedPatternIsCheapAndTheEngines()
     }
     QVERIFY(accepted > 1000);
     QVERIFY(matched > 100);
-    QVERIFY2(all.elapsed() < 60000, qPrintable(QString::number(all.elapsed())));
+    QVERIFY(secondsUsed() - begin < 60);
 }
 
 void tst_RVPattern::logLine_data()
@@ -392,8 +395,8 @@ void tst_RVPattern::logLine_data()
     QTest::newRow("control characters") << "a{1001}\n\r\t\x1b[2J\x7f"_s
                                         << "a{1001}????[2J?"_s;
     QTest::newRow("NUL") << "a{1001}"_s + QChar(0) + QLatin1Char('b') << "a{1001}?b"_s;
-    QTest::newRow("direction override") << "a{1001}\u202eb"_s
-                                        << "a{1001}?b"_s;
+    QTest::newRow("direction override")
+        << "a{1001}"_s + QChar(0x202e) + QLatin1Char('b') << "a{1001}?b"_s;
     QTest::newRow("letters of any language") << "a{1001}\u00e9\u4e2d"_s
                                              << "a{1001}\u00e9\u4e2d"_s;
     QTest::newRow("per cent signs") << "a{1001}%s%n"_s

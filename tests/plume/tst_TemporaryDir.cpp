@@ -5,7 +5,6 @@
 #include <plume/TemporaryDir.h>
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -282,7 +281,7 @@ void tst_TemporaryDir::removesDeepTrees()
         const TemporaryDir dir;
         path = dir.path();
         QVERIFY(dir.cdTo());
-        QVERIFY(makeChain(5000));
+        QVERIFY(makeChain(1000));
         QVERIFY(QDir::setCurrent(m_start));
     }
     QVERIFY(!QFileInfo::exists(path));
@@ -297,7 +296,7 @@ void tst_TemporaryDir::removesDeepTreesWithFewDescriptors()
         const TemporaryDir dir;
         path = dir.path();
         QVERIFY(dir.cdTo());
-        QVERIFY(makeChain(200));
+        QVERIFY(makeChain(100));
         QVERIFY(QDir::setCurrent(m_start));
         const int next = ::dup(0);
         ::close(next);
@@ -311,17 +310,14 @@ void tst_TemporaryDir::removesDeepTreesWithFewDescriptors()
 void tst_TemporaryDir::removesWideTrees()
 {
     QString path;
-    QElapsedTimer timer;
     {
         const TemporaryDir dir;
         path = dir.path();
-        for (int i = 0; i < 3000; ++i) {
-            QVERIFY(QDir(path).mkpath(QStringLiteral("%1/a/b").arg(i % 300) + QString::number(i)));
+        for (int i = 0; i < 500; ++i) {
+            QVERIFY(QDir(path).mkpath(QStringLiteral("%1/a/b").arg(i % 100) + QString::number(i)));
         }
-        timer.start();
     }
     QVERIFY(!QFileInfo::exists(path));
-    QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void tst_TemporaryDir::removesNamesThatItUsesItself()
