@@ -58,7 +58,10 @@ function(ravel_add_test name)
   set(home ${CMAKE_CURRENT_BINARY_DIR}/home_${name})
   # Qt closes the runtime directory to others, so it cannot be the home itself.
   file(MAKE_DIRECTORY ${home}/run)
-  file(CHMOD ${home} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+  file(CHMOD ${home}/run PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+  # Open to all: tests run parts of themselves as an ordinary user below it.
+  file(CHMOD ${home} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE
+    GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
   add_executable(tst_${name} tst_${name}.cpp ${ARG_SOURCES})
   set_target_properties(tst_${name} PROPERTIES AUTOMOC ON CXX_EXTENSIONS OFF)
   target_include_directories(tst_${name} PRIVATE ${PROJECT_SOURCE_DIR})
