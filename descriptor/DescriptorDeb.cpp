@@ -99,21 +99,35 @@ bool isTarSound(const QByteArray &tar)
 /// Unpacks one control archive with the decoder that the library will use, up to the bound.
 bool isControlSound(const QByteArray &packed, const QString &suffix)
 {
+    static const QStringList packings{
+        QString(),
+        QStringLiteral(".gz"),
+        QStringLiteral(".xz"),
+        QStringLiteral(".zst"),
+        QStringLiteral(".bz2"),
+        QStringLiteral(".lzma"),
+    };
     QTemporaryFile file(QDir::tempPath() + QLatin1String("/XXXXXX") + suffix);
-    if (!file.open() || file.write(packed) != packed.size() || !file.flush()) {
+    if (!packings.contains(suffix) || !file.open() || file.write(packed) != packed.size()
+        || !file.flush()) {
         return false;
     }
     FileFd reader;
     if (!reader.Open(file.fileName().toStdString(), FileFd::ReadOnly, FileFd::Extension)) {
         return false;
     }
-    QByteArray tar(maxControlBytes + 1, Qt::Uninitialized);
+    QByteArray tar;
+    QByteArray piece(64 * 1024, Qt::Uninitialized);
     unsigned long long length = 0;
-    if (!reader.Read(tar.data(), static_cast<unsigned long long>(tar.size()), &length)
-        || length > maxControlBytes) {
+    do {
+        if (!reader.Read(piece.data(), static_cast<unsigned long long>(piece.size()), &length)) {
+            return false;
+        }
+        tar.append(piece.constData(), static_cast<int>(length));
+    } while (length > 0 && tar.size() <= maxControlBytes);
+    if (length > 0) {
         return false;
     }
-    tar.truncate(static_cast<int>(length));
     return isTarSound(tar);
 }
 

@@ -552,6 +552,7 @@ void TestDescriptorDeb::failsWithLog_data()
     QTest::newRow("empty control archive") << tar(QByteArray());
     QTest::newRow("control file without a field") << tar(tarEntry("control", "no colon") + tarEnd);
     QTest::newRow("unknown packing") << debFile("control.tar.rar", control + tarEnd);
+    QTest::newRow("path instead of a packing") << debFile("control.tar/../x", control + tarEnd);
     QTest::newRow("packing that its name does not say")
         << debFile("control.tar.xz", control + tarEnd);
     QTest::newRow("cut in a member header") << sample().left(100);
