@@ -24,8 +24,8 @@ namespace
 
 constexpr int maxMembers = 20000;
 // Left over for the rest of the system, which shares the disk.
-constexpr qint64 spareBytes = 64 * 1024 * 1024;
-constexpr std::size_t blockSize = 64 * 1024;
+constexpr qint64 spareBytes = 64LL * 1024 * 1024;
+constexpr std::size_t blockSize = 65536;
 
 using Reader = std::unique_ptr<archive, decltype(&archive_read_free)>;
 using Writer = std::unique_ptr<archive, decltype(&archive_write_free)>;
