@@ -262,3 +262,17 @@ QString DataXML::getLangAttr(const QDomNode &node) const
     const QString language = node.toElement().attribute(QStringLiteral("xml:lang"));
     return language.isEmpty() ? QStringLiteral("en") : language;
 }
+
+QString DataXML::plainText(const QString &content)
+{
+    QString text = content;
+    text.remove(QLatin1String("<![CDATA["));
+    text.remove(QLatin1String("]]>"));
+    text.replace(QLatin1String("&lt;"), QLatin1String("<"));
+    text.replace(QLatin1String("&gt;"), QLatin1String(">"));
+    text.replace(QLatin1String("&quot;"), QLatin1String("\""));
+    text.replace(QLatin1String("&apos;"), QLatin1String("'"));
+    // Last, or "&amp;lt;" would be taken apart twice.
+    text.replace(QLatin1String("&amp;"), QLatin1String("&"));
+    return text;
+}

@@ -41,6 +41,9 @@ public:
     bool elementsToQint64(const QDomElement &elem, const QString &tag, qint64 *out) const;
     /// t…, y… and 1 are true; f…, n… and 0 false; anything else sets false and returns false.
     bool elementsToBool(const QDomElement &elem, const QString &tag, bool *out) const;
+    /// A content as a reader is to see it: the helpers above leave references as they stand in the
+    /// document, "&amp;" for "&".
+    static QString plainText(const QString &content);
     /// The node's "xml:lang", or "en".
     QString getLangAttr(const QDomNode &node) const;
 };

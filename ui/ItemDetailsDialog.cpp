@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "ui/ItemDetailsDialog.h"
 
+#include "descriptor/DataXML.h"
 #include "descriptor/DescriptorGeneric.h"
 #include "ui/NotesDocument.h"
 #include "ui/RVStyle.h"
@@ -71,20 +72,6 @@ ItemDetailsDialog::ItemDetailsDialog(const QSharedPointer<const DescriptorGeneri
 }
 
 ItemDetailsDialog::~ItemDetailsDialog() = default;
-
-QString ItemDetailsDialog::plainText(const QString &descriptorText)
-{
-    QString text = descriptorText;
-    text.remove(QLatin1String("<![CDATA["));
-    text.remove(QLatin1String("]]>"));
-    text.replace(QLatin1String("&lt;"), QLatin1String("<"));
-    text.replace(QLatin1String("&gt;"), QLatin1String(">"));
-    text.replace(QLatin1String("&quot;"), QLatin1String("\""));
-    text.replace(QLatin1String("&apos;"), QLatin1String("'"));
-    // Last, or "&amp;lt;" would be taken apart twice.
-    text.replace(QLatin1String("&amp;"), QLatin1String("&"));
-    return text;
-}
 
 void ItemDetailsDialog::setup()
 {
@@ -169,7 +156,7 @@ void ItemDetailsDialog::changeEvent(QEvent *event)
 
 void ItemDetailsDialog::retranslateUi()
 {
-    setWindowTitle(shortened(plainText(m_descriptor->name(QString())), maximumUnbroken));
+    setWindowTitle(shortened(DataXML::plainText(m_descriptor->name(QString())), maximumUnbroken));
     m_informationLabel->setText(information());
     m_contentsArea->setAccessibleName(tr("Contents"));
     m_notesView->setAccessibleName(tr("Notes"));
@@ -179,7 +166,7 @@ void ItemDetailsDialog::retranslateUi()
         const QStringList parts = files.value(i).split(QLatin1Char(' '));
         for (int column = 0; column < 2; ++column) {
             m_contentLabels.at(2 * i + column)
-                ->setText(shortened(plainText(parts.value(column)), maximumUnbroken));
+                ->setText(shortened(DataXML::plainText(parts.value(column)), maximumUnbroken));
         }
     }
     if (m_moreLabel) {
@@ -205,11 +192,11 @@ QString ItemDetailsDialog::information() const
 
     const QString title = m_descriptor->title(QString());
     if (!title.isEmpty()) {
-        addLine(tr("Title:  <b>%1</b>"), plainText(title));
+        addLine(tr("Title:  <b>%1</b>"), DataXML::plainText(title));
     }
     const VersionString version = m_descriptor->version();
     if (!version.isEmpty()) {
-        addLine(tr("Version:  <b>%1</b>"), plainText(version.toString()));
+        addLine(tr("Version:  <b>%1</b>"), DataXML::plainText(version.toString()));
     }
     const QUrl &url = m_descriptor->url();
     if (!url.isEmpty()) {
@@ -218,7 +205,7 @@ QString ItemDetailsDialog::information() const
     const QStringList releases = m_descriptor->baseReleases();
     if (!releases.isEmpty()) {
         addLine(tr("For Releases:  <b>%1</b>"),
-                plainText(releases.join(tr(", ", "list join character"))));
+                DataXML::plainText(releases.join(tr(", ", "list join character"))));
     }
     if (m_descriptor->size() >= 0) {
         addLine(tr("Update Size:  <b>%1</b>"), sizeStr(m_descriptor->size()));

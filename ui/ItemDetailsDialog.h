@@ -32,9 +32,6 @@ public:
     void retranslateUi();
     /// A byte count in KiB, MiB or GiB.
     QString sizeStr(qint64 bytes) const;
-    /// What a reader of the descriptor is to see of one of its texts: XML descriptors keep the
-    /// texts as they stand in the document, with "&amp;" for "&".
-    static QString plainText(const QString &descriptorText);
 
     /// OK, closing and Escape all end here.
     void done(int result) override;

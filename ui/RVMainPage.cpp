@@ -4,6 +4,7 @@
 
 #include "core/OSInfo.h"
 #include "core/RVLogger.h"
+#include "descriptor/DataXML.h"
 #include "network/XNetworkError.h"
 #include "repository/RVRepDesc.h"
 #include "repository/RVRepository.h"
@@ -147,7 +148,8 @@ void RVMainPage::retranslateUi()
 {
     for (int i = 0; i < m_frames.size(); ++i) {
         const RVRepDesc &definition = *m_definitions[static_cast<std::size_t>(i)];
-        m_frames.at(i)->setHeading(definition.title.value({}), definition.description.value({}));
+        m_frames.at(i)->setHeading(DataXML::plainText(definition.title.value({})),
+                                   definition.description.value({}));
     }
     if (m_currentIndex >= 0) {
         setAccordionItemHelp(m_items.at(m_currentIndex));
@@ -336,7 +338,7 @@ void RVMainPage::makeSections(const RVPaths &paths)
         auto *frame = new RVControlFrame(
             repository, m_osInfo,
             definition.picksOne() ? SelectionTable::RadioButtons : SelectionTable::CheckBoxes,
-            definition.title.value({}), definition.description.value({}),
+            DataXML::plainText(definition.title.value({})), definition.description.value({}),
             style.StdIcon(definition.icon), definition.filterSps, nullptr, paths);
         auto *item = new AccordionItem(frame);
         // The accordion opens the first item that is not hidden.

@@ -5,6 +5,7 @@
 #include "archive/RVInstallProc.h"
 #include "core/OSInfoBaseClass.h"
 #include "core/RVLogger.h"
+#include "descriptor/DataXML.h"
 #include "ui/BusyDialog.h"
 #include "ui/ItemDetailsDialog.h"
 #include "ui/RVChoiceItem.h"
@@ -375,8 +376,8 @@ void SelectionTable::retranslateUi()
         if (!descriptor) {
             continue;
         }
-        const QString name = shown(descriptor->name({}));
-        const QString title = shown(descriptor->title({}));
+        const QString name = shown(DataXML::plainText(descriptor->name({})));
+        const QString title = shown(DataXML::plainText(descriptor->title({})));
         item(row, ChoiceColumn)->setData(Qt::AccessibleTextRole, name);
         QTableWidgetItem *update = item(row, UpdateColumn);
         update->setText(
@@ -463,7 +464,7 @@ void SelectionTable::fillRow(int row, const OSInfoBaseClass *osInfo)
     if (state.current == VersionKnown) {
         setVersion(item(row, InstalledColumn), installed);
     }
-    setVersion(item(row, OfferedColumn), offered.toString());
+    setVersion(item(row, OfferedColumn), DataXML::plainText(offered.toString()));
 }
 
 void SelectionTable::toggle(int row)

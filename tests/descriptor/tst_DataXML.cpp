@@ -62,6 +62,8 @@ private Q_SLOTS:
     void localeString();
     void language_data();
     void language();
+    void plainText_data();
+    void plainText();
     void integer_data();
     void integer();
     void truth_data();
@@ -270,6 +272,27 @@ void TestDataXML::language()
     const DataXML xml = parsed(element);
     QCOMPARE(xml.getLangAttr(xml.documentElement().firstChild()), expected);
     QCOMPARE(xml.getLangAttr(QDomNode()), QStringLiteral("en"));
+}
+
+void TestDataXML::plainText_data()
+{
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("plain") << QStringLiteral("1.0-2") << QStringLiteral("1.0-2");
+    QTest::newRow("references") << QStringLiteral("a &lt;b&gt; &amp; &quot;c&quot; &apos;d&apos;")
+                                << QStringLiteral("a <b> & \"c\" 'd'");
+    QTest::newRow("quoted twice") << QStringLiteral("&amp;lt;") << QStringLiteral("&lt;");
+    QTest::newRow("character data")
+        << QStringLiteral("<![CDATA[A & <B>]]>") << QStringLiteral("A & <B>");
+}
+
+void TestDataXML::plainText()
+{
+    QFETCH(QString, content);
+    QFETCH(QString, expected);
+
+    QCOMPARE(DataXML::plainText(content), expected);
 }
 
 void TestDataXML::integer_data()

@@ -139,6 +139,7 @@ private Q_SLOTS:
     void cleanup();
 
     void answersTheHost();
+    void headingsShowWhatTheirTitlesMean();
     void setsTheLogUp();
     void throws_data();
     void throws();
@@ -284,6 +285,15 @@ void TestRVMainPage::define(const QString &file, const QList<Definition> &defini
     }
     xml += QStringLiteral("</repository_list>");
     write(QStringLiteral("etc/cvtc-ravel/repositories/") + file, xml.toUtf8());
+}
+
+void TestRVMainPage::headingsShowWhatTheirTitlesMean()
+{
+    define({local(QStringLiteral("Tools &amp; more"))});
+    const auto page = this->page();
+    QCOMPARE(frames(*page).first()->title(), QStringLiteral("Tools & more"));
+    page->retranslateUi();
+    QCOMPARE(frames(*page).first()->title(), QStringLiteral("Tools & more"));
 }
 
 void TestRVMainPage::answersTheHost()

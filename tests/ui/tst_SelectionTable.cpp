@@ -491,8 +491,10 @@ void TestSelectionTable::speaksWithoutMarkup()
                  m_world->entry(QStringLiteral("b"), QStringLiteral("other"), QStringLiteral("1"))},
                 Table::CheckBoxes, m_system.get());
     QVERIFY(!table.accessibleName().isEmpty());
-    QCOMPARE(spoken(table, 0, Table::ChoiceColumn), QStringLiteral("tool &amp; co, selected"));
-    QCOMPARE(spoken(table, 0, Table::UpdateColumn), QStringLiteral("tool &amp; co"));
+    QCOMPARE(spoken(table, 0, Table::ChoiceColumn), QStringLiteral("tool & co, selected"));
+    QCOMPARE(spoken(table, 0, Table::UpdateColumn), QStringLiteral("tool & co"));
+    QCOMPARE(text(table, 0, Table::UpdateColumn),
+             QStringLiteral("<b>tool &amp; co</b><br />A title"));
     QCOMPARE(table.item(0, Table::UpdateColumn)->data(Qt::AccessibleDescriptionRole).toString(),
              QStringLiteral("A title"));
     QCOMPARE(spoken(table, 0, Table::InstalledColumn), QStringLiteral("none"));
