@@ -601,6 +601,11 @@ void TestDescriptorDeb::failsWithLog_data()
         "control.tar.gz",
         packed(QStringLiteral("gzip"), bombHead)
             + packed(QStringLiteral("gzip"), megabyte).repeated(1024));
+    QTest::newRow("gzip bomb in front of the control file")
+        << debFile("control.tar.gz",
+                   packed(QStringLiteral("gzip"), tarEntry("./md5sums", {}, "10000000000"))
+                       + packed(QStringLiteral("gzip"), megabyte).repeated(1024)
+                       + packed(QStringLiteral("gzip"), control + tarEnd));
     QTest::newRow("xz bomb") << debFile(
         "control.tar.xz", packed(QStringLiteral("xz"), bombHead + megabyte.repeated(64)));
     QTest::newRow("zstd bomb") << debFile(
