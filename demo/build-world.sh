@@ -5,9 +5,9 @@
 # build-world.sh DIR: makes the little world that `ravel-host --root DIR/root` runs on, afresh.
 #
 #   DIR/root/   a thin client: its image, service packs, package database, definition files, tools
-#   DIR/repos/  three local repositories: images, service packs, packages
+#   DIR/repos/  four local repositories: images, service packs, packages, applications
 #
-# Needs dpkg, dpkg-deb and bsdtar; works for root and for ordinary users and touches nothing else.
+# Needs dpkg, dpkg-deb, bsdtar and python3; works for root and for ordinary users and touches nothing else.
 # shellcheck disable=SC1112  # the French texts have their apostrophes
 set -euo pipefail
 umask 022
@@ -19,6 +19,7 @@ if [ $# -ne 1 ] || [ -z "$1" ]; then
 fi
 mkdir -p -- "$1"
 world=$(cd -- "$1" && pwd -P)
+demo=$(cd -- "$(dirname -- "$(readlink -f -- "$0")")" && pwd -P)
 root=$world/root
 repos=$world/repos
 marker=$world/.ravel-world
@@ -38,7 +39,7 @@ trap 'rm -rf -- "$work"' EXIT
 
 ### Packages ####################################################################################
 
-declare -A title_en title_de title_fr notes_en notes_de notes_fr
+declare -A title_en title_de title_fr notes_en notes_de notes_fr extended
 
 title_en[tc-audio]='Sound for local and remote sessions'
 title_de[tc-audio]='Ton für lokale und entfernte Sitzungen'
@@ -91,11 +92,20 @@ title_en[tc-viewer]='Document viewer'
 title_de[tc-viewer]='Dokumentbetrachter'
 title_fr[tc-viewer]='Visionneuse de documents'
 
-# make_package NAME VERSION KIB DIRECTORY: a real package with a payload of KIB kibibytes. The payload
-# is stored, so that sizes are what they seem.
+# These describe themselves, in one language.
+title_en[tc-calculator]='Desk calculator'
+extended[tc-calculator]=' Prints its paper roll to the default printer.
+ .
+ The keypad works with and without Num Lock.'
+title_en[tc-clock]='Clock for several places'
+extended[tc-clock]=' Shows the time at every branch office.'
+title_en[tc-emulator]='Emulator for old applications'
+
+# make_package NAME VERSION KIB DIRECTORY [ARCHITECTURE [COMPRESSION]]: a real package with a payload
+# of KIB kibibytes. It is stored unless said otherwise, so that sizes are what they seem.
 make_package()
 {
-  local name=$1 version=$2 kib=$3 tree=$work/tree
+  local name=$1 version=$2 kib=$3 architecture=${5:-all} tree=$work/tree
   rm -rf "$tree"
   mkdir -p "$tree/DEBIAN" "$tree/usr/lib/$name" "$tree/usr/share/doc/$name"
   head -c $((kib * 1024)) /dev/zero > "$tree/usr/lib/$name/payload"
@@ -103,14 +113,17 @@ make_package()
   cat > "$tree/DEBIAN/control" <<CONTROL
 Package: $name
 Version: $version
-Architecture: all
+Architecture: $architecture
 Maintainer: Corvane <packages@corvane.example>
 Installed-Size: $kib
 Section: misc
 Priority: optional
 Description: ${title_en[$name]}
 CONTROL
-  dpkg-deb --root-owner-group -Znone --build "$tree" "$4/${name}_${version}_all.deb" >/dev/null
+  [ -z "${extended[$name]:-}" ] || printf '%s\n' "${extended[$name]}" >> "$tree/DEBIAN/control"
+  # As everywhere, the file's name has the version without its epoch.
+  dpkg-deb --root-owner-group "-Z${6:-none}" --build "$tree" \
+    "$4/${name}_${version#*:}_$architecture.deb" >/dev/null
 }
 
 # texts TAG ENGLISH GERMAN FRENCH; nothing when there is no text
@@ -159,7 +172,7 @@ offer_package()
   } > "$repos/packages/${name}_${version}_all.xml"
 }
 
-mkdir -p "$repos"/{images,service-packs,packages}
+mkdir -p "$repos"/{images,service-packs,packages,applications}
 # Offered and newer than what is installed, or not installed at all.
 offer_package tc-audio    1.0-1  640 '6\.1.*' 'armel' 'TC-420 TC-440'
 offer_package tc-browser  4.3-1 2900 '6\.1.*' 'armel' 'TC-420 TC-440'
@@ -176,45 +189,92 @@ offer_package tc-viewer   2.0-1  200 '6\.1.*' 'armel' ''
 # An archive without a descriptor is not offered.
 make_package tc-viewer 2.2-1 200 "$repos/packages"
 
+### Applications ################################################################################
+
+# Packages that are their own descriptors, compressed as the distribution's are.
+make_package tc-calculator 2.1-1 90 "$repos/applications" all xz
+make_package tc-clock 1:1.0-2 40 "$repos/applications" all zstd
+make_package tc-emulator 0.9-1 60 "$repos/applications" i386 gzip
+
 ### Service packs ###############################################################################
 
-# offer_service_pack NAME VERSION BASE_RELEASE CONTENTS...
-offer_service_pack()
+# make_service_pack NAME CONTENTS...: what the archive of a service pack holds, below $work/pack.
+make_service_pack()
 {
-  local name=$1 version=$2 release=$3 tree=$work/pack archive=$repos/service-packs/$1.xar unpacked
-  shift 3
+  local name=$1 tree=$work/pack
+  shift
   rm -rf "$tree"
   mkdir -p "$tree/$name/usr/share/service-packs"
   printf '%s\n' "$@" > "$tree/$name/usr/share/service-packs/$name"
   head -c 200000 /dev/zero > "$tree/$name/usr/share/service-packs/$name.data"
-  bsdtar --format=xar -cf "$archive" -C "$tree" "$name"
-  unpacked=$(du -sb "$tree/$name" | cut -f1)
+}
+
+# describe_service_pack NAME VERSION BASE_RELEASE CONTENTS...: without sizes.
+describe_service_pack()
+{
+  local name=$1 version=$2 release=$3
+  shift 3
+  elements name "$name"
+  texts title "Service pack $version for release $release" \
+    "Service Pack $version für Ausgabe $release" \
+    "Service pack $version pour la version $release"
+  texts notes '<p>All corrections since the release, in one step.</p>' \
+    '<p>Alle Korrekturen seit der Ausgabe, in einem Schritt.</p>' \
+    '<p>Toutes les corrections depuis la version, en une étape.</p>'
+  elements version "$version"
+  elements base_releases "${release//./\\.}"
+  elements package "$@"
+  elements architecture armel
+  elements thin_client all
+}
+
+# offer_service_pack NAME VERSION BASE_RELEASE CONTENTS...: archive and descriptor.
+offer_service_pack()
+{
+  local name=$1 archive=$repos/service-packs/$1.xar unpacked
+  make_service_pack "$name" "${@:4}"
+  bsdtar --format=xar -cf "$archive" -C "$work/pack" "$name"
+  unpacked=$(du -sb "$work/pack/$name" | cut -f1)
   {
     echo '<?xml version="1.0" encoding="UTF-8"?>'
     echo '<update_data>'
-    elements name "$name"
-    texts title "Service pack $version for release $release" \
-      "Service Pack $version für Ausgabe $release" \
-      "Service pack $version pour la version $release"
-    texts notes '<p>All corrections since the release, in one step.</p>' \
-      '<p>Alle Korrekturen seit der Ausgabe, in einem Schritt.</p>' \
-      '<p>Toutes les corrections depuis la version, en une étape.</p>'
-    elements version "$version"
-    elements base_releases "${release//./\\.}"
-    elements package "$@"
+    describe_service_pack "$@"
     elements size "$(stat -c %s "$archive")"
     elements unpacked_size "$unpacked"
     elements installed_size "$unpacked"
-    elements architecture armel
-    elements thin_client all
     echo '</update_data>'
   } > "$repos/service-packs/$name.xml"
+}
+
+# offer_self_describing_pack NAME VERSION BASE_RELEASE CONTENTS...: an archive that is its own
+# descriptor.
+offer_self_describing_pack()
+{
+  local name=$1 unpacked
+  make_service_pack "$name" "${@:4}"
+  unpacked=$(du -sb "$work/pack/$name" | cut -f1)
+  {
+    echo '<sp-attrs>'
+    elements unpacked_size "$unpacked"
+    elements installed_size "$unpacked"
+    echo '</sp-attrs>'
+  } > "$work/sp-attrs.xml"
+  {
+    echo '<?xml version="1.0" encoding="UTF-8"?>'
+    echo '<service-pack-description>'
+    describe_service_pack "$@"
+    echo '</service-pack-description>'
+  } > "$work/description.xml"
+  "$demo/make-xar.py" "$repos/service-packs/$name.sp.xar" "$work/pack/$name" \
+    "$work/sp-attrs.xml" "$work/description.xml"
 }
 
 offer_service_pack SP-6.1.2-1 1 6.1.2 'tc-session 3.0-1' 'tc-display 1.2-1'
 offer_service_pack SP-6.1.2-2 2 6.1.2 'tc-browser 4.2-1' 'tc-printing 1.6-2' 'tc-session 3.0-2'
 offer_service_pack SP-6.1.2-3 3 6.1.2 'tc-browser 4.3-1' 'tc-terminal 2.1-1'
 offer_service_pack SP-6.0.9-7 7 6.0.9 'tc-session 2.9-4'
+offer_self_describing_pack SP-6.1.2-4 4 6.1.2 'tc-terminal 2.1-1' 'tc-browser 4.3-1' 'tc-audio 1.0-1'
+offer_self_describing_pack SP-7.0.0-1 1 7.0.0 'tc-session 3.1-1'
 
 ### Images ######################################################################################
 
@@ -283,6 +343,7 @@ installed=$work/installed
 mkdir "$installed"
 make_package tc-audio    0.9-1  600 "$installed"
 make_package tc-browser  4.2-1 2700 "$installed"
+make_package tc-calculator 2.0-1 90 "$installed"
 make_package tc-display  1.2-1  280 "$installed"
 make_package tc-printing 1.6-2  520 "$installed"
 make_package tc-session  3.0-1  290 "$installed"
@@ -304,9 +365,11 @@ url()
   echo "file://$encoded"
 }
 
-# define FILE KEY SELECTOR ICON DIRECTORY ARCHIVES FILTER_SPS, the texts on standard input
+# define FILE KEY SELECTOR ICON DIRECTORY FILTER_SPS FILTER..., the texts on standard input. A filter
+# is a pattern for archives and one for descriptors; an archive that describes itself has no other.
 define()
 {
+  local archives descriptors
   {
     echo '<?xml version="1.0" encoding="UTF-8"?>'
     echo '<repository_list>'
@@ -316,11 +379,13 @@ define()
     elements default_uri "$(url "$repos/$5")"
     elements selector_type "$3"
     elements icon "$4"
-    elements filter_sps "$7"
-    echo '  <filter_pattern>'
-    elements archive_pattern "$6"
-    elements descriptor_pattern '\.xml$'
-    echo '  </filter_pattern>'
+    elements filter_sps "$6"
+    while read -r archives descriptors; do
+      echo '  <filter_pattern>'
+      elements archive_pattern "$archives"
+      [ -z "$descriptors" ] || elements descriptor_pattern "$descriptors"
+      echo '  </filter_pattern>'
+    done < <(printf '%s\n' "${@:7}")
     echo '</repository>'
     echo '</repository_list>'
   } > "$root/etc/cvtc-ravel/repositories/$1"
@@ -333,7 +398,7 @@ define()
     'Ein Abbild ersetzt die gesamte Software des Geräts. Das neueste steht oben.' \
     'Une image remplace tout le logiciel de l’appareil. La plus récente est en tête.'
   texts uri_description 'Image location' 'Ort der Abbilder' 'Emplacement des images'
-} | define 10-images.xml image_uri PickOne ImageRepository images '\.dd\.gz$' no
+} | define 10-images.xml image_uri PickOne ImageRepository images no '\.dd\.gz$ \.xml$'
 {
   texts title 'Service packs' 'Service Packs' 'Service packs'
   texts description \
@@ -341,7 +406,8 @@ define()
     'Ein Service Pack bündelt die Korrekturen einer Ausgabe. Installierte sind nicht aufgeführt.' \
     'Un service pack réunit les corrections d’une version. Ceux qui sont installés ne figurent pas.'
   texts uri_description 'Service pack location' 'Ort der Service Packs' 'Emplacement des service packs'
-} | define 20-service-packs.xml sp_uri PickAny SPRepository service-packs '\.xar$' yes
+} | define 20-service-packs.xml sp_uri PickAny SPRepository service-packs yes \
+  '\.xar$ \.xml$' '\.sp\.xar$'
 {
   texts title 'Packages' 'Pakete' 'Paquets'
   texts description \
@@ -349,6 +415,14 @@ define()
     'Pakete aktualisieren einzelne Programme. Neuere als die installierten sind bereits ausgewählt.' \
     'Les paquets mettent à jour un seul programme. Les plus récents sont déjà choisis.'
   texts uri_description 'Package location' 'Ort der Pakete' 'Emplacement des paquets'
-} | define 30-packages.xml package_uri PickAny PackageRepository packages '\.deb$' no
+} | define 30-packages.xml package_uri PickAny PackageRepository packages no '\.deb$ \.xml$'
+{
+  texts title 'Applications' 'Anwendungen' 'Applications'
+  texts description \
+    'Applications are plain Debian packages, which describe themselves.' \
+    'Anwendungen sind einfache Debian-Pakete, die sich selbst beschreiben.' \
+    'Les applications sont de simples paquets Debian, qui se décrivent eux-mêmes.'
+  texts uri_description 'Application location' 'Ort der Anwendungen' 'Emplacement des applications'
+} | define 40-applications.xml application_uri PickAny PackageRepository applications no '\.deb$'
 
 echo "Demo world: $world"

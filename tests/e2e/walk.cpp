@@ -132,10 +132,16 @@ private:
     void readDetails();
     void switchLanguage();
     void install();
-    void finishInstallation();
+    void finishPackages();
     void checkDatabase();
     void checkInstalledTable();
     void checkServicePacks();
+    void installServicePack();
+    void finishServicePack();
+    void checkServicePackRoot();
+    void checkApplications();
+    void installApplications();
+    void checkInstalledApplications();
     void checkImages();
     void checkLog();
     void closeWindow();
@@ -146,6 +152,10 @@ private:
     QTableWidget *table() const;
     QStringList rows() const;
     void clickCell(int row, int column);
+    void startInstallation();
+    void finishInstallation(const QStringList &lines, const QString &name);
+    QByteArray contents(const QString &path) const;
+    QStringList installedPackages() const;
     void chooseLanguage(const QString &code);
     void screenshot(const QString &name);
 
@@ -177,7 +187,7 @@ bool Walk::run()
         step("the keyboard goes from page to page", [this] {
             changePages();
         });
-        step("three sections are there", [this] {
+        step("four sections are there", [this] {
             checkSections();
         });
         step("the packages are refreshed", [this] {
@@ -196,7 +206,7 @@ bool Walk::run()
             install();
         });
         step("the installation ends and shows dpkg's output", [this] {
-            finishInstallation();
+            finishPackages();
         });
         step("the package database has the offered versions", [this] {
             checkDatabase();
@@ -206,6 +216,24 @@ bool Walk::run()
         });
         step("the service packs leave out the installed one", [this] {
             checkServicePacks();
+        });
+        step("a service pack that describes itself is installed", [this] {
+            installServicePack();
+        });
+        step("the installation ends and shows xarinstall's output", [this] {
+            finishServicePack();
+        });
+        step("its files are there, and it is no longer offered", [this] {
+            checkServicePackRoot();
+        });
+        step("packages that describe themselves are offered", [this] {
+            checkApplications();
+        });
+        step("dpkg installs them", [this] {
+            installApplications();
+        });
+        step("the table and the database have their versions", [this] {
+            checkInstalledApplications();
         });
         step("one of the images can be chosen", [this] {
             checkImages();
@@ -308,6 +336,7 @@ void Walk::clickCell(int row, int column)
 {
     QTableWidget *shown = table();
     require(shown && shown->item(row, column), QStringLiteral("no such cell"));
+    shown->scrollToItem(shown->item(row, column));
     QTest::mouseClick(shown->viewport(), Qt::LeftButton, {},
                       shown->visualItemRect(shown->item(row, column)).center());
 }
@@ -353,7 +382,7 @@ void Walk::checkSections()
     }
     requireEqual(titles,
                  {QStringLiteral("Software images"), QStringLiteral("Service packs"),
-                  QStringLiteral("Packages")});
+                  QStringLiteral("Packages"), QStringLiteral("Applications")});
 }
 
 void Walk::refreshPackages()
@@ -466,6 +495,12 @@ void Walk::install()
 {
     const auto *mark = m_window->findChild<QWidget *>(QStringLiteral("modifiedMark"));
     require(!mark->isVisible(), QStringLiteral("the system counts as modified too early"));
+    startInstallation();
+    screenshot(QStringLiteral("progress"));
+}
+
+void Walk::startInstallation()
+{
     QAbstractButton *start = button(m_section, QStringLiteral("Install"));
     start->setFocus();
     QTest::keyClick(m_window->focusWidget(), Qt::Key_Space);
@@ -475,10 +510,19 @@ void Walk::install()
         },
         QStringLiteral("progress dialog"));
     require(dialog("BusyDialog")->isModal(), QStringLiteral("the dialog is not modal"));
-    screenshot(QStringLiteral("progress"));
 }
 
-void Walk::finishInstallation()
+void Walk::finishPackages()
+{
+    finishInstallation({QStringLiteral("Setting up tc-audio (1.0-1)"),
+                        QStringLiteral("Setting up tc-browser (4.3-1)"),
+                        QStringLiteral("Setting up tc-network (1.1-1)"),
+                        QStringLiteral("Setting up tc-terminal (2.1-1)")},
+                       QStringLiteral("installed"));
+}
+
+/// Waits for the installer and closes the dialog; `lines` are in what it said.
+void Walk::finishInstallation(const QStringList &lines, const QString &name)
 {
     QPointer<QDialog> busy = dialog("BusyDialog");
     require(busy, QStringLiteral("the dialog has gone"));
@@ -498,14 +542,12 @@ void Walk::finishInstallation()
             return output->isVisible();
         },
         QStringLiteral("output"));
-    for (const char *line : {"Setting up tc-audio (1.0-1)", "Setting up tc-browser (4.3-1)",
-                             "Setting up tc-network (1.1-1)", "Setting up tc-terminal (2.1-1)"}) {
-        require(
-            output->toPlainText().contains(QLatin1String(line)),
-            QStringLiteral("no \"%1\" in \"%2\"").arg(QLatin1String(line), output->toPlainText()));
+    for (const QString &line : lines) {
+        require(output->toPlainText().contains(line),
+                QStringLiteral("no \"%1\" in \"%2\"").arg(line, output->toPlainText()));
     }
     require(!output->toPlainText().contains(QLatin1String("warning")), output->toPlainText());
-    screenshot(QStringLiteral("installed"));
+    screenshot(name);
     click(button(busy, QStringLiteral("Close")));
     waitFor(
         [&busy] {
@@ -514,7 +556,7 @@ void Walk::finishInstallation()
         QStringLiteral("end of the dialog"));
 }
 
-void Walk::checkDatabase()
+QStringList Walk::installedPackages() const
 {
     QProcess query;
     query.start(QStringLiteral("dpkg-query"),
@@ -523,10 +565,16 @@ void Walk::checkDatabase()
                  QStringLiteral("${Package} ${Version} ${db:Status-Status}\\n")});
     require(query.waitForFinished(stepTimeout) && query.exitCode() == 0,
             QStringLiteral("dpkg-query failed"));
+    return QString::fromUtf8(query.readAllStandardOutput())
+        .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+void Walk::checkDatabase()
+{
     requireEqual(
-        QString::fromUtf8(query.readAllStandardOutput())
-            .split(QLatin1Char('\n'), Qt::SkipEmptyParts),
+        installedPackages(),
         {QStringLiteral("tc-audio 1.0-1 installed"), QStringLiteral("tc-browser 4.3-1 installed"),
+         QStringLiteral("tc-calculator 2.0-1 installed"),
          QStringLiteral("tc-display 1.2-1 installed"), QStringLiteral("tc-network 1.1-1 installed"),
          QStringLiteral("tc-printing 1.6-2 installed"),
          QStringLiteral("tc-session 3.0-1 installed"),
@@ -549,8 +597,69 @@ void Walk::checkServicePacks()
 {
     openSection(QStringLiteral("Service packs"));
     requireEqual(rows(),
-                 {QStringLiteral("x SP-6.1.2-2 none 2"), QStringLiteral("x SP-6.1.2-3 none 3")});
+                 {QStringLiteral("x SP-6.1.2-2 none 2"), QStringLiteral("x SP-6.1.2-3 none 3"),
+                  QStringLiteral("x SP-6.1.2-4 none 4")});
     screenshot(QStringLiteral("service-packs"));
+}
+
+void Walk::installServicePack()
+{
+    click(button(m_section, QStringLiteral("None")));
+    clickCell(2, 0);
+    requireEqual(rows(),
+                 {QStringLiteral("- SP-6.1.2-2 none 2"), QStringLiteral("- SP-6.1.2-3 none 3"),
+                  QStringLiteral("x SP-6.1.2-4 none 4")});
+    startInstallation();
+}
+
+void Walk::finishServicePack()
+{
+    finishInstallation({QStringLiteral("Installing service pack SP-6.1.2-4")},
+                       QStringLiteral("service-pack-installed"));
+}
+
+void Walk::checkServicePackRoot()
+{
+    require(contents(QStringLiteral("/usr/share/service-packs/SP-6.1.2-4"))
+                == "tc-terminal 2.1-1\ntc-browser 4.3-1\ntc-audio 1.0-1\n",
+            QStringLiteral("the service pack holds something else"));
+    require(contents(QStringLiteral("/usr/share/service-packs/SP-6.1.2-4.data"))
+                == QByteArray(200000, '\0'),
+            QStringLiteral("the service pack's data are damaged"));
+    require(contents(QStringLiteral("/etc/service-packs/installed")) == "SP-6.1.2-4\n",
+            QStringLiteral("the service pack is not recorded"));
+    requireEqual(rows(),
+                 {QStringLiteral("- SP-6.1.2-2 none 2"), QStringLiteral("- SP-6.1.2-3 none 3")});
+    screenshot(QStringLiteral("service-packs-after"));
+}
+
+void Walk::checkApplications()
+{
+    openSection(QStringLiteral("Applications"));
+    requireEqual(
+        rows(),
+        {QStringLiteral("x tc-calculator 2.0-1 2.1-1"), QStringLiteral("x tc-clock none 1:1.0-2")});
+    screenshot(QStringLiteral("applications"));
+}
+
+void Walk::installApplications()
+{
+    startInstallation();
+    finishInstallation({QStringLiteral("Setting up tc-calculator (2.1-1)"),
+                        QStringLiteral("Setting up tc-clock (1:1.0-2)")},
+                       QStringLiteral("applications-installed"));
+}
+
+void Walk::checkInstalledApplications()
+{
+    requireEqual(rows(),
+                 {QStringLiteral("- tc-calculator 2.1-1 2.1-1"),
+                  QStringLiteral("- tc-clock 1:1.0-2 1:1.0-2")});
+    const QStringList packages = installedPackages();
+    for (const QString &package : {QStringLiteral("tc-calculator 2.1-1 installed"),
+                                   QStringLiteral("tc-clock 1:1.0-2 installed")}) {
+        require(packages.contains(package), QStringLiteral("no \"%1\"").arg(package));
+    }
 }
 
 void Walk::checkImages()
@@ -572,31 +681,38 @@ void Walk::checkImages()
     screenshot(QStringLiteral("images"));
 }
 
+QByteArray Walk::contents(const QString &path) const
+{
+    QFile file(m_root + path);
+    require(file.open(QIODevice::ReadOnly), QStringLiteral("no %1").arg(file.fileName()));
+    return file.readAll();
+}
+
 void Walk::checkLog()
 {
-    const auto contents = [this](const char *path) {
-        QFile file(m_root + QLatin1String(path));
-        require(file.open(QIODevice::ReadOnly), QStringLiteral("no %1").arg(file.fileName()));
-        return QString::fromUtf8(file.readAll());
-    };
-    const QString log = contents(getuid() == 0 ? "/var/log/Ravel.log" : "/tmp/Ravel.log");
+    const QString log = QString::fromUtf8(contents(
+        getuid() == 0 ? QStringLiteral("/var/log/Ravel.log") : QStringLiteral("/tmp/Ravel.log")));
     int from = 0;
     for (const char *line :
          {": Base OS: 6.1.2\n", ": Service Pack List:\n", ":     -> SP-6.1.2-1\n",
           ": Setting up repository('Image location')\n",
           ": Setting up repository('Service pack location')\n",
-          ": Setting up repository('Package location')\n", "/repos/packages'), Err=0\n",
+          ": Setting up repository('Package location')\n",
+          ": Setting up repository('Application location')\n", "/repos/packages'), Err=0\n",
           ": Copying .deb file tc-audio_1.0-1_all.deb to local storage\n",
-          ":   Starting installation.\n", ": INSTALL FINISHED\n"}) {
+          ":   Starting installation.\n", ": INSTALL FINISHED\n", ":   Starting installation.\n",
+          "/repos/service-packs/SP-6.1.2-4.sp.xar\n", ": INSTALL FINISHED\n",
+          ":     -> SP-6.1.2-4\n", ": Copying .deb file tc-clock_1.0-2_all.deb to local storage\n",
+          ": INSTALL FINISHED\n"}) {
         const int at = log.indexOf(QLatin1String(line), from);
         require(
             at >= 0,
             QStringLiteral("\"%1\" is missing or too early").arg(QLatin1String(line).trimmed()));
         from = at;
     }
-    require(
-        contents("/var/log/dpkg.log").contains(QLatin1String("upgrade tc-browser:all 4.2-1 4.3-1")),
-        QStringLiteral("dpkg's own log went elsewhere"));
+    require(contents(QStringLiteral("/var/log/dpkg.log"))
+                .contains("upgrade tc-browser:all 4.2-1 4.3-1"),
+            QStringLiteral("dpkg's own log went elsewhere"));
 }
 
 void Walk::closeWindow()
