@@ -73,10 +73,6 @@ bool ArchiveGeneric::extract(QIODevice *source) const
     const bool complete = !reply || reply->error() == QNetworkReply::NoError;
 
     const bool extracted = m_backend && complete && m_backend->extract(source);
-    if (m_backend && !extracted) {
-        RVLogger().log(3, "Could not extract archive %s",
-                       qUtf8Printable(m_url.toString(QUrl::RemovePassword)));
-    }
     Q_EMIT extractFinished();
     return extracted;
 }

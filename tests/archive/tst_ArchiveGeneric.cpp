@@ -233,9 +233,6 @@ void tst_ArchiveGeneric::keepsPasswordOutOfTheLog()
     WarningGuard guard;
     guard.allow(QStringLiteral("Found no backend"));
     const ArchiveGeneric unknown{QUrl(QStringLiteral("ftp://user:secret@h/update.zip"))};
-    const ArchiveGeneric package{QUrl(QStringLiteral("ftp://user:secret@h/update.deb"))};
-    QBuffer empty;
-    QVERIFY(!package.extract(&empty));
     QVERIFY(m_log->contains(QStringLiteral("  ftp://user@h/update.zip")));
     QVERIFY(!m_log->raw().contains("secret"));
     QVERIFY(!guard.messages().first().contains(QLatin1String("secret")));
@@ -275,7 +272,9 @@ void tst_ArchiveGeneric::extractsAndSignalsOnce()
     QBuffer nothing;
     QVERIFY(!archive.extract(&nothing));
     QCOMPARE(extracted.count(), 2);
-    QVERIFY(m_log->contains(QStringLiteral("Could not extract archive http://h/update.deb")));
+    // The result alone tells of a failure.
+    const QString copying = QStringLiteral("Copying .deb file update.deb to local storage");
+    QCOMPARE(m_log->lines(), (QStringList{copying, copying}));
 }
 
 void tst_ArchiveGeneric::extractsReply()
