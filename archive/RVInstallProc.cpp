@@ -39,7 +39,12 @@ QList<RVData> withArchiveOnce(const QList<RVData> &entries)
 /// The sum of two byte counts from a server, which may announce any number.
 qint64 boundedSum(qint64 a, qint64 b)
 {
-    return a + qMin(b, std::numeric_limits<qint64>::max() - a);
+    using Limits = std::numeric_limits<qint64>;
+    qint64 sum = 0;
+    if (__builtin_add_overflow(a, b, &sum)) {
+        return b > 0 ? Limits::max() : Limits::min();
+    }
+    return sum;
 }
 
 bool isFtp(const QUrl &url)
@@ -118,8 +123,9 @@ void RVInstallProc::start()
     m_replies.fill(nullptr, m_entries.size());
     m_received.fill(0, m_entries.size());
     for (const RVData &entry : m_entries) {
-        const qint64 size = entry.descriptor() ? entry.descriptor()->size() : 0;
-        m_expectedTotal = boundedSum(m_expectedTotal, qMax<qint64>(size, 0));
+        // As it stands: a size that is not announced is -1.
+        const qint64 size = entry.descriptor() ? entry.descriptor()->size() : -1;
+        m_expectedTotal = boundedSum(m_expectedTotal, size);
     }
     startDownloads();
 }

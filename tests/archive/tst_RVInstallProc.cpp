@@ -294,11 +294,11 @@ QByteArray content(const QString &file)
     return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray("unreadable");
 }
 
-/// An entry whose descriptor announces `size` (none for a negative one).
+/// An entry whose descriptor announces `size` (nothing for -1).
 RVData entry(const QUrl &archive, const RVPaths &paths, qint64 size = -1)
 {
     RVData data(archive, QUrl(QStringLiteral("http://127.0.0.1/update.xml")), nullptr, paths);
-    if (size >= 0) {
+    if (size != -1) {
         QBuffer source;
         source.setData("<update_data><size>" + QByteArray::number(size) + "</size></update_data>");
         data.descriptor()->read(&source);
@@ -1012,8 +1012,12 @@ void tst_RVInstallProc::measuresProgress_data()
     QTest::newRow("announced too large") << QList<qint64>{5000} << qint64(5000);
     QTest::newRow("not announced") << QList<qint64>{-1} << qint64(0);
     QTest::newRow("announced as nothing") << QList<qint64>{0} << qint64(0);
-    QTest::newRow("one of two announced") << QList<qint64>{-1, 3000} << qint64(3000);
+    // An unknown size is -1, and is added like any other.
+    QTest::newRow("one of two announced") << QList<qint64>{-1, 3000} << qint64(2999);
+    QTest::newRow("announced below zero") << QList<qint64>{-500, 3000} << qint64(2500);
+    QTest::newRow("sum below zero") << QList<qint64>{-500, 400} << qint64(0);
     QTest::newRow("sum beyond all numbers") << QList<qint64>{largest, largest} << largest;
+    QTest::newRow("sum below all numbers") << QList<qint64>{-largest, -largest} << qint64(0);
 }
 
 void tst_RVInstallProc::measuresProgress()
