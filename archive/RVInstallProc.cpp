@@ -4,6 +4,7 @@
 
 #include "core/RVLimits.h"
 #include "core/RVLogger.h"
+#include "core/SpecialFile.h"
 #include "descriptor/DescriptorGeneric.h"
 
 #include <plume/TemporaryDir.h>
@@ -195,6 +196,10 @@ void RVInstallProc::startDownload(int index)
     if (isFtp(url) && !m_user.isEmpty() && !m_password.isEmpty()) {
         url.setUserName(m_user);
         url.setPassword(m_password);
+    }
+    if (isSpecialFile(url)) {
+        // Opening it would block the event loop; opening it as a directory fails at once.
+        url.setPath(url.path() + QLatin1Char('/'));
     }
     QNetworkRequest request(url);
     request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);

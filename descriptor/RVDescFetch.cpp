@@ -3,11 +3,11 @@
 #include "descriptor/RVDescFetch.h"
 
 #include "core/RVLogger.h"
+#include "core/SpecialFile.h"
 #include "descriptor/DescriptorXML.h"
 #include "descriptor/XmlCheck.h"
 
 #include <QAuthenticator>
-#include <QFileInfo>
 #include <QNetworkAccessManager>
 
 #include <algorithm>
@@ -19,13 +19,6 @@ namespace
 QByteArray forLog(const QUrl &url)
 {
     return url.toString(QUrl::RemovePassword).toUtf8();
-}
-
-// Opening a pipe or a device would block the event loop.
-bool isSpecialFile(const QUrl &url)
-{
-    const QFileInfo file(url.toLocalFile());
-    return url.isLocalFile() && file.exists() && !file.isFile() && !file.isDir();
 }
 
 QNetworkRequest requestFor(const QUrl &url)

@@ -337,6 +337,7 @@ private Q_SLOTS:
     void failedDownloadDoesNotStopTheBatch();
     void immediateFailures();
     void allFailImmediately();
+    void specialFilesAreNotOpened();
     void neverFollowsARedirect();
     void keepsTransfersWithinTheLimit();
     void waitingDownloadsAfterFailures();
@@ -747,6 +748,31 @@ void tst_RVInstallProc::allFailImmediately()
     procedure.cancel();
     QCOMPARE(report.events, QStringList({failure, failure, QStringLiteral("finished 1 crash")}));
     QVERIFY(m_log->contains(QStringLiteral("INSTALL FETCH CANCEL, KILLING 0 FETCHES")));
+}
+
+void tst_RVInstallProc::specialFilesAreNotOpened()
+{
+    const QString pipe = m_dir->filePath(QStringLiteral("pipe.deb"));
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    // A listing leaves pipes out, but not what leads to one.
+    const QString link = m_dir->filePath(QStringLiteral("link.deb"));
+    QVERIFY(QFile::link(pipe, link));
+    const QString device = m_dir->filePath(QStringLiteral("device.deb"));
+    QVERIFY(QFile::link(QStringLiteral("/dev/zero"), device));
+    const QString good = m_dir->filePath(QStringLiteral("good.deb"));
+    QVERIFY(write(good, "package"));
+    const RVPaths paths = installer("/bin/ls");
+    QList<RVData> batch;
+    for (const QString &file : {pipe, link, device, good}) {
+        batch.append(entry(QUrl::fromLocalFile(file), paths));
+    }
+    RVInstallProc procedure(batch, QString(), QString(), nullptr, paths);
+    Report report(&procedure);
+    procedure.start();
+    QCOMPARE(report.events.filter(QStringLiteral("networkError 20")).size(), 3);
+    QVERIFY(report.waitForEnd());
+    QCOMPARE(report.events.size(), 6);
+    QCOMPARE(procedure.readAllStandardOutput(), QByteArray("RVinstall.sh\ngood.deb\n"));
 }
 
 void tst_RVInstallProc::neverFollowsARedirect()
