@@ -26,7 +26,8 @@ class XNetworkReply;
 /// One update repository at run time: where it is, what it lists, and its current entries.
 /// refresh() ends with refreshDone(): twice when the location lists no entry, after networkError()
 /// when the listing could not start, and not at all, networkError() being the last signal, when the
-/// listing failed later or no descriptor could be asked for.
+/// listing failed later or no descriptor could be asked for. In slots of its own signals use
+/// deleteLater().
 class RVRepository : public QObject
 {
     Q_OBJECT
