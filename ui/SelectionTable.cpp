@@ -366,6 +366,9 @@ void SelectionTable::retranslateUi()
             "Short column header --Version currently installed on the system"),
          tr("Update\nVersion",
             "Short column header -- the version available from the repository")});
+    horizontalHeaderItem(ChoiceColumn)
+        ->setData(Qt::AccessibleTextRole,
+                  tr("Selection", "accessible text of the column of check boxes"));
     const QString unknown = tr("unknown", "small word for 'cannot determine version installed'");
     const QString none = tr("none", "small word for 'not currently installed'");
     // Slanted Chinese characters are hard to read.

@@ -3,6 +3,7 @@
 #include "core/RVLogger.h"
 #include "tests/support/LogFile.h"
 #include "tests/support/WarningGuard.h"
+#include "tests/ui/Spoken.h"
 #include "ui/BusyDialog.h"
 
 #include <QCoreApplication>
@@ -434,6 +435,17 @@ private Q_SLOTS:
         QVERIFY(!parts.box->isChecked());
         QVERIFY(!parts.view->isVisible());
         QCOMPARE(dialog.height(), closedHeight);
+    }
+
+    void speaks()
+    {
+        BusyDialog dialog;
+        dialog.show();
+        dialog.showDetails();
+        QCOMPARE(unspoken(dialog), QString());
+        LogFile log;
+        dialog.processError(QProcess::Crashed);
+        QCOMPARE(unspoken(dialog), QString());
     }
 
     void detailsByKeyboard()

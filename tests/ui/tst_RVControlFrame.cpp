@@ -4,6 +4,7 @@
 #include "repository/RVRepository.h"
 #include "tests/support/LogFile.h"
 #include "tests/support/WarningGuard.h"
+#include "tests/ui/Spoken.h"
 #include "tests/ui/UpdateWorld.h"
 #include "ui/BusyDialog.h"
 #include "ui/ItemDetailsDialog.h"
@@ -101,6 +102,7 @@ private Q_SLOTS:
     void movesFocusWithThePages();
     void leavesForeignFocusAlone();
     void isLabelled();
+    void speaksOnEveryPage();
     void changesLanguage();
     void listsManyDescriptors();
     void survivesItsRepositorysEnd();
@@ -872,6 +874,25 @@ void TestRVControlFrame::isLabelled()
     QCOMPARE(label(*frame, QStringLiteral("User Name: "))->buddy(), edits.at(0));
     QCOMPARE(label(*frame, QStringLiteral("Password: "))->buddy(), edits.at(1));
     QVERIFY(!frame->findChild<QProgressBar *>()->accessibleName().isEmpty());
+}
+
+void TestRVControlFrame::speaksOnEveryPage()
+{
+    m_world->add(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"));
+    for (const auto type : {SelectionTable::CheckBoxes, SelectionTable::RadioButtons}) {
+        const auto frame = this->frame(type);
+        frame->show();
+        retrieve(frame.get());
+        QCOMPARE(unspoken(*frame), QString());
+        frame->enterErrorState();
+        QCOMPARE(unspoken(*frame), QString());
+        QAuthenticator auth;
+        frame->enterAuthenticationState(nullptr, &auth);
+        QCOMPARE(unspoken(*frame), QString());
+        frame->enterRetrievalState();
+        QCOMPARE(unspoken(*frame), QString());
+        frame->cancelRetrieval();
+    }
 }
 
 void TestRVControlFrame::changesLanguage()
