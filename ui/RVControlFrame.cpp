@@ -65,7 +65,8 @@ RVControlFrame::RVControlFrame(RVRepository *repository, const OSInfoBaseClass *
     m_pages->setCurrentIndex(SelectionPage);
     m_pages->addWidget(makeErrorPage(style));
     connectRepository();
-    replaceTable({});
+    connectTableSignals();
+    showEntries();
     retranslateUi();
 }
 
@@ -179,6 +180,10 @@ void RVControlFrame::retranslateUi()
 void RVControlFrame::incInstallFinished()
 {
     Q_EMIT installFinished();
+    // Where the user goes on when the progress dialog is closed.
+    if (hasFocusInside()) {
+        focusPage();
+    }
 }
 
 void RVControlFrame::cancelFromRetrieval()
@@ -222,6 +227,8 @@ QWidget *RVControlFrame::makeSelectionPage(const RVStyle &style)
     auto *page = new QWidget;
     m_selectionLayout = new QVBoxLayout(page);
     m_selectionLayout->setContentsMargins(0, 0, 0, 0);
+    m_table = makeTable({});
+    m_selectionLayout->addWidget(m_table, 1);
     m_noUpdates = richLabel();
     m_noUpdates->setAlignment(Qt::AlignCenter);
     m_selectionLayout->addWidget(m_noUpdates, 1);
@@ -361,16 +368,33 @@ void RVControlFrame::retireTable(SelectionTable *table)
     connect(table, &SelectionTable::sslErrors, this, &RVControlFrame::relaySslErrors);
 }
 
+SelectionTable *RVControlFrame::makeTable(const QList<RVData> &entries)
+{
+    auto *table = new SelectionTable(entries, m_type, m_osInfo, this, m_paths);
+    table->setAuthenticationCredentials(m_repository->user(), m_repository->password());
+    table->setProxy(m_repository->proxyHost(), m_repository->proxyPort());
+    return table;
+}
+
 void RVControlFrame::replaceTable(const QList<RVData> &entries)
 {
     SelectionTable *old = m_table;
-    const bool focused = old != nullptr && old->hasFocus();
-    m_table = new SelectionTable(entries, m_type, m_osInfo, this, m_paths);
-    m_table->setAuthenticationCredentials(m_repository->user(), m_repository->password());
-    m_table->setProxy(m_repository->proxyHost(), m_repository->proxyPort());
+    // Also while a dialog is in front, which gives the focus back when it closes.
+    const bool focused = window()->focusWidget() == old;
+    m_table = makeTable(entries);
     m_selectionLayout->insertWidget(0, m_table, 1);
-    setTabOrder(m_table, m_installButton);
-    const bool any = !entries.isEmpty();
+    setTabOrder(old, m_table);
+    showEntries();
+    if (focused) {
+        focusPage();
+    }
+    retireTable(old);
+    connectTableSignals();
+}
+
+void RVControlFrame::showEntries()
+{
+    const bool any = m_table->rowCount() > 0;
     m_noUpdates->setVisible(m_retrieved && !any);
     m_table->setVisible(any || !m_retrieved);
     for (QPushButton *button : {m_installButton, m_detailsButton, m_allButton, m_noneButton}) {
@@ -378,13 +402,6 @@ void RVControlFrame::replaceTable(const QList<RVData> &entries)
     }
     m_allButton->setVisible(m_type != SelectionTable::RadioButtons);
     m_noneButton->setVisible(m_type != SelectionTable::RadioButtons);
-    if (focused) {
-        focusPage();
-    }
-    if (old) {
-        retireTable(old);
-    }
-    connectTableSignals();
 }
 
 QList<RVData> RVControlFrame::offered() const

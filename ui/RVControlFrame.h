@@ -100,7 +100,9 @@ private:
     void connectRepository();
     void connectTableSignals();
     void retireTable(SelectionTable *table);
+    SelectionTable *makeTable(const QList<RVData> &entries);
     void replaceTable(const QList<RVData> &entries);
+    void showEntries();
     QList<RVData> offered() const;
     void showPage(Page page);
     bool hasFocusInside() const;

@@ -222,6 +222,8 @@ void SelectionTable::showDetails()
     }
     // On the window: the table may be replaced while the user still reads.
     auto *dialog = new ItemDetailsDialog(m_entries.at(row).descriptor(), window());
+    // Where the user goes on when the dialog is closed.
+    setFocus();
     dialog->show();
 }
 

@@ -101,6 +101,8 @@ private Q_SLOTS:
     void resetsItsTable();
     void movesFocusWithThePages();
     void leavesForeignFocusAlone();
+    void focusesTheTableAfterItsDialogs();
+    void walksFromControlToControl();
     void isLabelled();
     void speaksOnEveryPage();
     void changesLanguage();
@@ -863,6 +865,68 @@ void TestRVControlFrame::leavesForeignFocusAlone()
     QAuthenticator auth;
     frame->enterAuthenticationState(nullptr, &auth);
     QCOMPARE(window.focusWidget(), elsewhere);
+    layout->removeWidget(frame.get());
+    frame->setParent(nullptr);
+}
+
+void TestRVControlFrame::focusesTheTableAfterItsDialogs()
+{
+    m_world->add(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"));
+    const auto frame = this->frame();
+    frame->show();
+    QVERIFY(QTest::qWaitForWindowActive(frame.get()));
+    retrieve(frame.get());
+    button(*frame, "&Details")->setFocus();
+    button(*frame, "&Details")->click();
+    auto *details = qobject_cast<QDialog *>(topLevels("ItemDetailsDialog").value(0));
+    QVERIFY(details);
+    QVERIFY(QTest::qWaitForWindowActive(details));
+    // The reader need not be done when the table is replaced.
+    frame->refreshTableData();
+    details->accept();
+    frame->activateWindow();
+    QTRY_VERIFY(table(*frame)->hasFocus());
+
+    button(*frame, "&Install")->setFocus();
+    QSignalSpy finished(frame.get(), &Frame::installFinished);
+    connect(frame.get(), &Frame::installFinished, frame.get(),
+            QOverload<>::of(&Frame::refreshTableData));
+    button(*frame, "&Install")->click();
+    auto *busy = qobject_cast<QDialog *>(topLevels("BusyDialog").value(0));
+    QVERIFY(busy);
+    QVERIFY(QTest::qWaitForWindowActive(busy));
+    QTRY_COMPARE(finished.size(), 1);
+    busy->close();
+    frame->activateWindow();
+    QTRY_VERIFY(table(*frame)->hasFocus());
+}
+
+void TestRVControlFrame::walksFromControlToControl()
+{
+    m_world->add(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"));
+    QWidget window;
+    auto *layout = new QVBoxLayout(&window);
+    auto *before = new QLineEdit;
+    auto *after = new QLineEdit;
+    const auto frame = this->frame();
+    layout->addWidget(before);
+    layout->addWidget(frame.get());
+    layout->addWidget(after);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    retrieve(frame.get());
+    retrieve(frame.get());
+    before->setFocus();
+    QStringList order;
+    for (int i = 0; i < 7; ++i) {
+        QTest::keyClick(&window, Qt::Key_Tab);
+        const auto *button = qobject_cast<QPushButton *>(window.focusWidget());
+        order.append(button ? button->text()
+                            : QLatin1String(window.focusWidget()->metaObject()->className()));
+    }
+    QCOMPARE(order.join(QLatin1Char(' ')),
+             QStringLiteral("SelectionTable &Install &Details &Refresh &All &None QLineEdit"));
+    QCOMPARE(window.focusWidget(), after);
     layout->removeWidget(frame.get());
     frame->setParent(nullptr);
 }
