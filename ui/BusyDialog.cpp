@@ -3,17 +3,16 @@
 #include "ui/BusyDialog.h"
 
 #include "core/RVLogger.h"
+#include "ui/RVDetailsBox.h"
 #include "ui/RVStyle.h"
 
 #include <QDialogButtonBox>
 #include <QEvent>
 #include <QFontDatabase>
-#include <QGroupBox>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QStyle>
 #include <QTextBlock>
 #include <QTextCodec>
 #include <QTextCursor>
@@ -105,9 +104,8 @@ void BusyDialog::setup(const QString &labelText, const QString &cancelText, int 
     connect(closeButton(), &QPushButton::clicked, this, &BusyDialog::hide);
     connect(closeButton(), &QPushButton::clicked, this, &BusyDialog::deleteLater);
 
-    m_detailsBox = new QGroupBox;
+    m_detailsBox = new RVDetailsBox;
     m_detailsBox->setObjectName(QStringLiteral("detailsBox"));
-    m_detailsBox->setCheckable(true);
     connect(m_detailsBox, &QGroupBox::clicked, this, &BusyDialog::setDetailsChecked);
 
     m_document = new QTextDocument(this);
@@ -295,9 +293,6 @@ void BusyDialog::setDetailsChecked(bool checked)
 {
     m_detailsBox->setChecked(checked);
     m_detailsView->setVisible(checked);
-    // The closed box is a line to click on, without the frame that has nothing in it.
-    const int line = qMax(fontMetrics().height(), style()->pixelMetric(QStyle::PM_IndicatorHeight));
-    m_detailsBox->setMaximumHeight(checked ? QWIDGETSIZE_MAX : line);
     m_detailsBox->layout()->activate();
     layout()->activate();
     if (isVisible()) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "ui/CertDialog.h"
 
+#include "ui/RVDetailsBox.h"
 #include "ui/RVStyle.h"
 
 #include <QCoreApplication>
@@ -9,10 +10,8 @@
 #include <QDateTime>
 #include <QDialogButtonBox>
 #include <QEvent>
-#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyle>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextEdit>
@@ -135,9 +134,8 @@ CertDialog::CertDialog(const QUrl &url, const QList<QSslError> &errors, QWidget 
                                                  widestUrl * fontMetrics().averageCharWidth()));
     m_urlLabel->setAccessibleDescription(urlText);
 
-    m_detailsBox = new QGroupBox;
+    m_detailsBox = new RVDetailsBox;
     m_detailsBox->setObjectName(QStringLiteral("detailsBox"));
-    m_detailsBox->setCheckable(true);
     connect(m_detailsBox, &QGroupBox::toggled, this, &CertDialog::setDetailsChecked);
     m_detailsView = new QTextEdit;
     m_detailsView->setObjectName(QStringLiteral("detailsView"));
@@ -182,9 +180,6 @@ void CertDialog::setDetailsChecked(bool checked)
 {
     m_detailsBox->setChecked(checked);
     m_detailsView->setVisible(checked);
-    // The closed box is a line to click on, without the frame that has nothing in it.
-    const int line = qMax(fontMetrics().height(), style()->pixelMetric(QStyle::PM_IndicatorHeight));
-    m_detailsBox->setMaximumHeight(checked ? QWIDGETSIZE_MAX : line);
     m_detailsBox->layout()->activate();
     layout()->activate();
     if (isVisible()) {
