@@ -144,6 +144,7 @@ private Q_SLOTS:
     void handlesUrl();
     void copiesUnderItsName_data();
     void copiesUnderItsName();
+    void logsTheCopyAsProgress();
     void copiesTwoPackages();
     void copiesBytes_data();
     void copiesBytes();
@@ -262,6 +263,15 @@ void tst_ArchiveDeb::copiesUnderItsName()
     QCOMPARE(content(QLatin1String("./") + name), QByteArray("package"));
     QCOMPARE(m_log->lines(),
              QStringList(QStringLiteral("Copying .deb file %1 to local storage").arg(name)));
+}
+
+void tst_ArchiveDeb::logsTheCopyAsProgress()
+{
+    const int level =
+        m_log->levelOf(QStringLiteral("Copying .deb file pkg.deb to local storage"), [] {
+            QVERIFY(extractBytes(package("http://h/pkg.deb"), "package"));
+        });
+    QCOMPARE(level, 5);
 }
 
 void tst_ArchiveDeb::copiesTwoPackages()

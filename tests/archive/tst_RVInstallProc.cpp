@@ -331,6 +331,7 @@ private Q_SLOTS:
     void startsNothingForAnEmptyBatch();
     void singleEntryWithoutCredentials();
     void reportsInOrder();
+    void logsProgress();
     void installerThatCannotStart();
     void failsWithoutInstaller();
     void failedDownloadDoesNotStopTheBatch_data();
@@ -646,6 +647,24 @@ void tst_RVInstallProc::reportsInOrder()
     QCOMPARE(m_log->lines().last(), QStringLiteral("  Starting installation."));
     // No manager, with its thread and its descriptors, outlives its download.
     QTRY_VERIFY(procedure.findChildren<QNetworkAccessManager *>().isEmpty());
+}
+
+void tst_RVInstallProc::logsProgress()
+{
+    const QString file = m_dir->filePath(QStringLiteral("a.deb"));
+    QVERIFY(write(file, "package"));
+    const RVPaths paths = installer("exit 0");
+    const auto installAndCancel = [&] {
+        RVInstallProc procedure({entry(QUrl::fromLocalFile(file), paths)}, QString(), QString(),
+                                nullptr, paths);
+        Report report(&procedure);
+        run(&procedure, &report);
+        procedure.cancel();
+    };
+    for (const char *line :
+         {"  Starting installation.", "INSTALL FETCH CANCEL, KILLING 0 FETCHES"}) {
+        QCOMPARE(m_log->levelOf(QLatin1String(line), installAndCancel), 5);
+    }
 }
 
 void tst_RVInstallProc::installerThatCannotStart()

@@ -31,6 +31,7 @@ class TestDescriptorGeneric : public QObject
 private Q_SLOTS:
     void choosesBackend_data();
     void choosesBackend();
+    void logsAWarningWithoutBackend();
     void withoutBackend();
     void forwards();
     void signalsOncePerRead_data();
@@ -76,6 +77,15 @@ void TestDescriptorGeneric::choosesBackend()
         : QStringList{QStringLiteral("Found no backend for archive descriptor:"),
                       QStringLiteral("  ") + url};
     QCOMPARE(log.lines(), expected);
+}
+
+void TestDescriptorGeneric::logsAWarningWithoutBackend()
+{
+    LogFile log;
+    const int level = log.levelOf(QStringLiteral("Found no backend for archive descriptor:"), [] {
+        const DescriptorGeneric descriptor(QUrl(QStringLiteral("http://h/a.txt")));
+    });
+    QCOMPARE(level, 4);
 }
 
 void TestDescriptorGeneric::withoutBackend()

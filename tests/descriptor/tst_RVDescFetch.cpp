@@ -140,6 +140,7 @@ private Q_SLOTS:
     void deletedInFlight();
     void deletedByAnErrorHandler();
     void manyEntriesThatFailAtOnce();
+    void logsByWeight();
 
 private:
     QUrl writeFile(const QString &name, const QByteArray &contents) const;
@@ -921,6 +922,26 @@ void TestRVDescFetch::manyEntriesThatFailAtOnce()
     fetch.fetchAll();
     QTRY_COMPARE_WITH_TIMEOUT(spies.finished.count(), 1, patience);
     QCOMPARE(spies.codes.size(), 5000);
+}
+
+void TestRVDescFetch::logsByWeight()
+{
+    m_guard->allow(QStringLiteral("^Null descriptor"));
+    const QUrl missing = m_server->url(QStringLiteral("/missing.xml"));
+    QList<RVData> entries = {entry(missing), entry(QUrl(QStringLiteral("http://h/lost.xml")))};
+    entries.last().clearDescriptor();
+    const auto fetchAndCancel = [&] {
+        RVDescFetch fetch(entries, {}, {});
+        fetch.fetchAll();
+        QTRY_VERIFY_WITH_TIMEOUT(!fetch.isActive(), patience);
+        fetch.cancel();
+    };
+    const auto levelOf = [&](const QString &line) {
+        return m_log->levelOf(line, fetchAndCancel);
+    };
+    QCOMPARE(levelOf(QStringLiteral("Null descriptor in RVDescFetch for 'http://h/lost.xml'")), 3);
+    QCOMPARE(levelOf(QStringLiteral("Descriptor fetch error 203 from ") + missing.toString()), 4);
+    QCOMPARE(levelOf(QStringLiteral("DESCRIPTOR FETCH CANCEL, KILLING 0 FETCHES")), 5);
 }
 
 QTEST_GUILESS_MAIN(TestRVDescFetch)

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void localFailureIsDelivered();
     void schemeWithoutBackendFails_data();
     void schemeWithoutBackendFails();
+    void schemeWithoutBackendIsAnError();
     void capitalsNeverReachTheBackendChoice();
     void replyOutlivesTheManager();
     void laterFinalSignalIsPassedOn();
@@ -130,6 +131,17 @@ void tst_XNetworkAccessManager::schemeWithoutBackendFails()
     QCOMPARE(static_cast<int>(reply->operation()), 1000);
     QVERIFY(reply->entries.isEmpty());
     QCOMPARE(log.count(QStringLiteral("PROTOCOL DOES NOT SUPPORT DIRECTORY ACCESS")), 1);
+}
+
+void tst_XNetworkAccessManager::schemeWithoutBackendIsAnError()
+{
+    LogFile log;
+    XNetworkAccessManager manager;
+    const int level =
+        log.levelOf(QStringLiteral("PROTOCOL DOES NOT SUPPORT DIRECTORY ACCESS"), [&manager] {
+            delete manager.getDirectory(NetworkDirRequest{QUrl(QStringLiteral("gopher://host/x"))});
+        });
+    QCOMPARE(level, 3);
 }
 
 void tst_XNetworkAccessManager::capitalsNeverReachTheBackendChoice()

@@ -59,6 +59,8 @@ private Q_SLOTS:
     void readsDirectChildrenOnly();
     void logsEachFile();
     void logsWhereTheXmlIsBad();
+    void logsByWeight_data();
+    void logsByWeight();
     void fileThatIsMissingContributesNothing();
     void keepsNamespacePrefixes();
     void appendsToTheList();
@@ -273,6 +275,46 @@ void tst_RVDefinitions::logsWhereTheXmlIsBad()
     QVERIFY2(
         QRegularExpression(QStringLiteral("^  .+, line 3, col \\d+$")).match(lines[2]).hasMatch(),
         qUtf8Printable(lines[2]));
+}
+
+void tst_RVDefinitions::logsByWeight_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<int>("level");
+    const QByteArray cut = "<repository_list>";
+    QTest::newRow("no directory") << QByteArray()
+                                  << QStringLiteral(
+                                         "Abort: Cannot find repository definition directory")
+                                  << 0;
+    QTest::newRow("nothing defined")
+        << QByteArray("<repository_list/>") << QStringLiteral("NO REPOSITORIES DEFINED!") << 2;
+    QTest::newRow("bad XML") << cut << QStringLiteral("BAD XML CONTENT!") << 3;
+    QTest::newRow("where it is bad")
+        << cut << QStringLiteral("  unexpected end of file, line 1, col 18") << 3;
+    QTest::newRow("other root") << QByteArray("<list/>")
+                                << QStringLiteral("TOP ELEMENT NOT repository_list!") << 3;
+    QTest::newRow("each file") << QByteArray("<repository_list/>")
+                               << QStringLiteral("  XML using '%1'") << 5;
+}
+
+void tst_RVDefinitions::logsByWeight()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, line);
+    QFETCH(int, level);
+    m_guard->allow(QString());
+    if (content.isEmpty()) {
+        QVERIFY(QDir().rmdir(m_paths.definitionDir));
+    } else {
+        write(QStringLiteral("a.xml"), content);
+    }
+    line.replace(QLatin1String("%1"), path(QStringLiteral("a.xml")));
+    QCOMPARE(m_log->levelOf(line,
+                            [this] {
+                                RVDefinitions::readDirectory(m_paths, &m_list);
+                            }),
+             level);
 }
 
 void tst_RVDefinitions::fileThatIsMissingContributesNothing()

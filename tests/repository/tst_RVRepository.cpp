@@ -127,6 +127,7 @@ private Q_SLOTS:
     void listsReadsAndSorts_data();
     void listsReadsAndSorts();
     void logsTheRefresh();
+    void logsProgress();
     void emptyResultReportsTwice_data();
     void emptyResultReportsTwice();
     void filtersAreConcatenated();
@@ -376,6 +377,24 @@ void tst_RVRepository::logsTheRefresh()
                           QStringLiteral("Finished directory fetch('%1'), Err=0").arg(url),
                           QStringLiteral("Beginning descriptor fetch for '%1'").arg(url),
                           QStringLiteral("Descriptor fetch finished for '%1'").arg(url)}));
+}
+
+void tst_RVRepository::logsProgress()
+{
+    addUpdate(QStringLiteral("a"), "a", "1");
+    const auto refresh = [this] {
+        Watched watched(location());
+        watched.repository.setProxy(QStringLiteral("proxy"), 3128);
+        watched.repository.refresh();
+        QTRY_COMPARE(watched.count("refreshDone"), 1);
+    };
+    refresh();
+    const QStringList lines = m_log->lines();
+    QCOMPARE(lines.size(), 6);
+    QCOMPARE(lines[2], QStringLiteral("  Using proxy proxy:3128"));
+    for (const QString &line : lines) {
+        QCOMPARE(m_log->levelOf(line, refresh), 5);
+    }
 }
 
 void tst_RVRepository::emptyResultReportsTwice_data()

@@ -55,3 +55,17 @@ void LogFile::clear()
     RVLogger::close();
     QFile::remove(path());
 }
+
+int LogFile::levelOf(const QString &line, const std::function<void()> &action)
+{
+    const int before = RVLogger::m_level;
+    int found = -1;
+    for (int level = 0; level <= 7 && found < 0; ++level) {
+        RVLogger::m_level = level;
+        clear();
+        action();
+        found = contains(line) ? level : -1;
+    }
+    RVLogger::m_level = before;
+    return found;
+}

@@ -7,6 +7,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <functional>
+
 /// Sends the process's log to a private place for as long as it lives, and reads it back.
 class LogFile
 {
@@ -23,6 +25,9 @@ public:
     bool contains(const QString &line) const { return lines().contains(line); }
     int count(const QString &line) const { return static_cast<int>(lines().count(line)); }
     void clear();
+    /// The level of the entry that `action` writes `line` with, or -1. Runs `action` for each level
+    /// up to that one, on an empty log.
+    int levelOf(const QString &line, const std::function<void()> &action);
 
 private:
     Q_DISABLE_COPY_MOVE(LogFile)
