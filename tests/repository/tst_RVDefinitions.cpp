@@ -150,6 +150,16 @@ void tst_RVDefinitions::missingDirectory()
              (QStringList{QStringLiteral("Abort: Cannot find repository definition directory"),
                           m_paths.definitionDir}));
     QVERIFY(m_list.empty());
+
+    // Not a warning.
+    m_guard.reset();
+    for (const QString &message :
+         {rule, QStringLiteral("CRITICAL:  CANNOT FIND REPOSITORY DEFINITION DIRECTORY"),
+          QStringLiteral("  ") + m_paths.definitionDir, rule}) {
+        QTest::ignoreMessage(QtCriticalMsg, qUtf8Printable(message));
+    }
+    RVDefinitions::readDirectory(m_paths, &m_list);
+    m_guard = std::make_unique<WarningGuard>();
 }
 
 void tst_RVDefinitions::noRepositories_data()
