@@ -16,7 +16,7 @@ private Q_SLOTS:
         QTest::newRow("409 conflict") << 206 << 299;
         QTest::newRow("410 gone") << 207 << 299;
         QTest::newRow("500 internal error") << 401 << 299;
-        QTest::newRow("501 not implemented") << 402 << 301;
+        QTest::newRow("501 unknown method") << 402 << 301;
         QTest::newRow("503 unavailable") << 403 << 301;
         QTest::newRow("any other server error") << 499 << 301;
         for (const int code :
