@@ -2,12 +2,17 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "repository/RVEligibility.h"
 
+#include "core/RVLogger.h"
 #include "core/RVPattern.h"
 
 #include <algorithm>
 
 namespace
 {
+
+/// Characters of all patterns that are tried for one entry. One pattern takes up to a millisecond
+/// or so, and a descriptor has room for 40,000 of them.
+constexpr int maxPatternText = 16 * 1024;
 
 const QString &all()
 {
@@ -16,12 +21,25 @@ const QString &all()
 }
 
 // Only this list may be empty and hold patterns; the two exact ones below say "all" for any system.
-bool fitsBaseRelease(const QStringList &releases, const QString &installed)
+bool fitsBaseRelease(const QStringList &releases, const QString &installed, const QUrl &url)
 {
-    return releases.isEmpty() || releases.contains(all())
-        || std::any_of(releases.begin(), releases.end(), [&](const QString &release) {
-               return RVPattern::exactMatch(release, installed);
-           });
+    if (releases.isEmpty() || releases.contains(all())) {
+        return true;
+    }
+    int length = 0;
+    for (const QString &release : releases) {
+        // Beyond its own bound a pattern is not even looked at.
+        length += 1 + qMin(release.size(), RVPattern::maxLength);
+        if (length > maxPatternText) {
+            RVLogger().log(4, "Too many base releases: %s",
+                           qUtf8Printable(url.toString(QUrl::RemovePassword)));
+            return false;
+        }
+        if (RVPattern::exactMatch(release, installed)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool holds(const QStringList &list, const QString &installed)
@@ -44,7 +62,8 @@ RVEligibility eligibility(const RVData &entry, const OSInfoBaseClass &system, bo
     if (!descriptor) {
         return RVEligibility::NoDescriptor;
     }
-    if (!fitsBaseRelease(descriptor->baseReleases(), system.baseOSName().toString())) {
+    if (!fitsBaseRelease(descriptor->baseReleases(), system.baseOSName().toString(),
+                         entry.descriptorUrl())) {
         return RVEligibility::OtherBaseRelease;
     }
     if (!holds(descriptor->architectureList(), system.architecture())) {

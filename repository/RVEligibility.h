@@ -17,7 +17,8 @@ enum class RVEligibility {
     ServicePackInstalled,
 };
 
-/// The tests in their order; `filterSps` adds the last one.
+/// The tests in their order; `filterSps` adds the last one. Of a hostile number of base releases
+/// only the first are tried, and one level-4 log line says so.
 RVEligibility eligibility(const RVData &entry, const OSInfoBaseClass &system, bool filterSps);
 /// The entries that fit, in their order.
 QList<RVData> offeredEntries(const QList<RVData> &entries, const OSInfoBaseClass &system,

@@ -6,6 +6,8 @@
 #include <QBuffer>
 #include <QtTest>
 
+#include <ctime>
+
 Q_DECLARE_METATYPE(RVEligibility)
 
 namespace
@@ -76,6 +78,9 @@ private Q_SLOTS:
     void baseReleases_data();
     void baseReleases();
     void patternBeyondTheBoundsIsLoggedOnce();
+    void manyBaseReleases_data();
+    void manyBaseReleases();
+    void patternsOfOneEntryAreCheap();
     void architectures_data();
     void architectures();
     void thinClients_data();
@@ -134,6 +139,54 @@ void tst_RVEligibility::patternBeyondTheBoundsIsLoggedOnce()
                          TestSystem(), false),
              RVEligibility::OtherBaseRelease);
     QCOMPARE(log.lines().size(), 1);
+}
+
+void tst_RVEligibility::manyBaseReleases_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QString>("last");
+    QTest::addColumn<bool>("fits");
+    const QString match = QStringLiteral("6\\.1.*");
+    QTest::newRow("a thousand, and the last fits") << 1000 << match << true;
+    QTest::newRow("a thousand, and none fits") << 1000 << QStringLiteral("7") << false;
+    QTest::newRow("the one that fits comes too late") << 10000 << match << false;
+    QTest::newRow("all counts anywhere") << 10000 << QStringLiteral("all") << true;
+}
+
+void tst_RVEligibility::manyBaseReleases()
+{
+    QFETCH(int, count);
+    QFETCH(QString, last);
+    QFETCH(bool, fits);
+    QStringList bases;
+    for (int i = 0; i < count; ++i) {
+        bases.append(QStringLiteral("5.%1").arg(i));
+    }
+    bases.append(last);
+    const RVData entry = entryOf(bases, anything, anything);
+    LogFile log;
+    RVEligibility result = RVEligibility::NoDescriptor;
+    const int level = log.levelOf(QStringLiteral("Too many base releases: http://h/a.xml"), [&] {
+        result = eligibility(entry, TestSystem(), false);
+    });
+    QCOMPARE(result, fits ? RVEligibility::Offered : RVEligibility::OtherBaseRelease);
+    QCOMPARE(level, count > 1000 && !fits ? 4 : -1);
+}
+
+void tst_RVEligibility::patternsOfOneEntryAreCheap()
+{
+    // As costly as a pattern within the bounds can be, and no two alike.
+    const QString costly = QStringLiteral("(6|.)*").repeated(60);
+    QStringList bases;
+    for (int i = 0; i < 20000; ++i) {
+        bases.append(costly + QString::number(i));
+    }
+    const RVData entry = entryOf(bases, anything, anything);
+    const LogFile log;
+    const std::clock_t start = std::clock();
+    QCOMPARE(eligibility(entry, TestSystem(), false), RVEligibility::OtherBaseRelease);
+    const double seconds = double(std::clock() - start) / CLOCKS_PER_SEC;
+    QVERIFY2(seconds < 2, qPrintable(QString::number(seconds)));
 }
 
 void tst_RVEligibility::architectures_data()
