@@ -79,6 +79,15 @@ QStringList catalogueLanguages()
     return codes;
 }
 
+// Property of a page: the help that it told last.
+constexpr char pageHelp[] = "hostPageHelp";
+
+QString helpOf(const WizardPage *page)
+{
+    const QVariant told = page->property(pageHelp);
+    return told.isValid() ? told.toString() : page->helpText();
+}
+
 QString sentence(RVMainPage::ExceptionType type, const RVPaths &paths)
 {
     switch (type) {
@@ -367,7 +376,7 @@ void HostWindow::showPage(int index)
     m_header->setVisible(!isTitlePage);
     m_help->setVisible(!isTitlePage && m_showHelpAction->isChecked());
     m_showHelpAction->setEnabled(!isTitlePage);
-    m_help->setHtml(page->helpText());
+    m_help->setHtml(helpOf(page));
     updatePageTexts();
 }
 
@@ -375,16 +384,19 @@ void HostWindow::updatePageTexts()
 {
     for (int i = 0; i < pages().size(); ++i) {
         m_pageList->item(i)->setText(pages().at(i)->title());
+        // The scroll area round the page, which takes the keyboard's focus.
+        m_stack->widget(i)->setAccessibleName(pages().at(i)->title());
     }
     if (const WizardPage *page = currentPage()) {
         m_title->setText(page->title());
         m_description->setText(page->description());
-        page->parentWidget()->setAccessibleName(page->title());
     }
 }
 
 void HostWindow::showHelp(const QString &helpText)
 {
+    // Also for the time when the user comes back to the page.
+    sender()->setProperty(pageHelp, helpText);
     if (sender() == currentPage()) {
         m_help->setHtml(helpText);
     }
@@ -481,7 +493,11 @@ void HostWindow::retranslateUi()
     m_modifiedText->setText(tr("System modified"));
     m_modifiedMark->setToolTip(tr("Updates were installed since this window was opened."));
     m_modifiedText->setAccessibleDescription(m_modifiedMark->toolTip());
+    // A page that has told another help than its own tells it anew.
+    for (WizardPage *page : pages()) {
+        page->setProperty(pageHelp, QVariant());
+    }
     if (const WizardPage *page = currentPage()) {
-        m_help->setHtml(page->helpText());
+        m_help->setHtml(helpOf(page));
     }
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/HostWindow.h"
 #include "tests/support/WarningGuard.h"
+#include "tests/ui/Spoken.h"
 
 #include <plume/TitlePage.h>
 
@@ -33,6 +34,14 @@ public:
     QString title() const override { return tr("&File"); }
     QString description() const override { return QStringLiteral("<i>no markup</i>"); }
     QString helpText() const override { return QStringLiteral("<p>Plain <b>help</b></p>"); }
+};
+
+class DescribedPage : public PlainPage
+{
+    Q_OBJECT
+
+public:
+    QString description() const override { return QStringLiteral("What it is for"); }
 };
 
 class HelpfulPage : public PlainPage
@@ -187,8 +196,28 @@ private Q_SLOTS:
         QCOMPARE(help->toPlainText(), QStringLiteral("one"));
         Q_EMIT second->helpChanged(QStringLiteral("two"));
         QCOMPARE(help->toPlainText(), QStringLiteral("one"));
-        child<QListWidget>(window, "pageList")->setCurrentRow(1);
+        auto *list = child<QListWidget>(window, "pageList");
+        list->setCurrentRow(1);
+        QCOMPARE(help->toPlainText(), QStringLiteral("two"));
+        list->setCurrentRow(2);
         QCOMPARE(help->toPlainText(), QStringLiteral("Plain help"));
+        // What the page has open still is.
+        list->setCurrentRow(0);
+        QCOMPARE(help->toPlainText(), QStringLiteral("one"));
+    }
+
+    void speaks()
+    {
+        HostWindow window;
+        window.addTitlePage(
+            new TitlePage(QStringLiteral("Welcome"), QStringLiteral("d"), QStringLiteral("h")));
+        auto *page = new DescribedPage;
+        window.addNormalPage(page);
+        window.show();
+        QCOMPARE(unspoken(window), QString());
+        child<QListWidget>(window, "pageList")->setCurrentRow(1);
+        Q_EMIT page->modified();
+        QCOMPARE(unspoken(window), QString());
     }
 
     // An image that never ends, such as a FIFO, would stop the window for good.

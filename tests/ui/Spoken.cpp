@@ -45,11 +45,11 @@ QString unspoken(const QWidget &root)
     QStringList result;
     const QList<QWidget *> widgets = root.findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
-        const bool isControl = widget->focusPolicy() != Qt::NoFocus;
-        const bool isShown = widget->isVisibleTo(&root);
-        if (!isShown
-            || !(isControl || qobject_cast<QLabel *>(widget)
-                 || qobject_cast<QProgressBar *>(widget))) {
+        // A label without a text decorates the one beside it.
+        const auto *label = qobject_cast<QLabel *>(widget);
+        const bool speaks = widget->focusPolicy() != Qt::NoFocus
+            || (label && !label->text().isEmpty()) || qobject_cast<QProgressBar *>(widget);
+        if (!speaks || !widget->isVisibleTo(&root)) {
             continue;
         }
         check(QAccessible::queryAccessibleInterface(widget),
