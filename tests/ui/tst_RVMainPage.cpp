@@ -5,6 +5,7 @@
 #include "tests/support/DpkgRoot.h"
 #include "tests/support/LogFile.h"
 #include "tests/support/WarningGuard.h"
+#include "tests/ui/Spoken.h"
 #include "tests/ui/UpdateWorld.h"
 #include "ui/CertDialog.h"
 #include "ui/RVControlFrame.h"
@@ -1068,6 +1069,7 @@ void TestRVMainPage::looksGood()
         items(*page).at(i)->setExpanded(true);
         QTRY_COMPARE(table(frames(*page).at(i))->rowCount(), 2);
         QCoreApplication::processEvents();
+        QCOMPARE(unspoken(*page), QString());
         QVERIFY(page->grab().save(shots.filePath(
             QStringLiteral("page-%1-%2.png").arg(QLatin1String(QTest::currentDataTag())).arg(i))));
     }
