@@ -5,6 +5,7 @@
 #include "core/RVLogger.h"
 #include "network/XNetworkError.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QUrl>
 
@@ -32,7 +33,13 @@ void RVErrorDialog::showNetworkError(const QNetworkReply *reply)
         return;
     }
     RVLogger().log(3, "%s", qUtf8Printable(text));
-    m_waiting = isVisible() ? m_waiting + 1 : 0;
+    if (isVisible()) {
+        ++m_waiting;
+    } else {
+        m_waiting = 0;
+        // A modal dialog, such as an installation's, would keep it from being answered.
+        setModal(QApplication::activeModalWidget() != nullptr);
+    }
     if (m_waiting < maximumWaiting) {
         // Its view takes markup, and would run the blanks of the sentences together.
         showMessage(

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QTextEdit>
 #include <QTranslator>
+#include <QWindow>
 #include <QtTest>
 
 #include <memory>
@@ -253,6 +254,38 @@ private Q_SLOTS:
         const FailedReply reply(203, QStringLiteral("http://h/later"));
         dialog.showNetworkError(&reply);
         QVERIFY(dialog.isVisible());
+    }
+
+    // A download that fails during an installation, whose progress dialog blocks the window.
+    void answersBesideAModalDialog()
+    {
+        LogFile log;
+        QWidget window;
+        RVErrorDialog dialog(&window);
+        QDialog progress(&window);
+        progress.setWindowModality(Qt::WindowModal);
+        window.show();
+        const FailedReply reply(203, QStringLiteral("http://h/a"));
+        dialog.showNetworkError(&reply);
+        QVERIFY(!dialog.isModal());
+        const auto answer = [&dialog] {
+            QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+            auto *ok = dialog.findChild<QPushButton *>();
+            // By the window, where a modal dialog gets in the way.
+            QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, {},
+                              ok->mapTo(&dialog, ok->rect().center()));
+        };
+        answer();
+        QTRY_VERIFY(!dialog.isVisible());
+        progress.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&progress));
+        dialog.showNetworkError(&reply);
+        answer();
+        QTRY_VERIFY(!dialog.isVisible());
+        QVERIFY(progress.isVisible());
+        progress.hide();
+        dialog.showNetworkError(&reply);
+        QVERIFY(!dialog.isModal());
     }
 
     void languageChange()
