@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+//
+// Translations are found by context, source text and comment together: a change of any of the three
+// loses them in every catalogue.
+#include "descriptor/DescriptorGeneric.h"
+#include "repository/RVRepository.h"
+#include "tests/support/LogFile.h"
+#include "tests/ui/UpdateWorld.h"
+#include "ui/BusyDialog.h"
+#include "ui/CertDialog.h"
+#include "ui/ItemDetailsDialog.h"
+#include "ui/RVControlFrame.h"
+
+#include <QSet>
+#include <QTest>
+#include <QTranslator>
+
+namespace
+{
+
+QString key(const QString &context, const QString &source, const QString &comment)
+{
+    return context + QLatin1Char('|') + source + QLatin1Char('|') + comment;
+}
+
+// Translates nothing, and remembers what it was asked for.
+class Recorder : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *source, const char *comment,
+                      int) const override
+    {
+        asked.insert(
+            key(QString::fromUtf8(context), QString::fromUtf8(source), QString::fromUtf8(comment)));
+        return {};
+    }
+    bool isEmpty() const override { return false; }
+
+    mutable QSet<QString> asked;
+};
+
+} // namespace
+
+class TestSourceTexts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QCoreApplication::installTranslator(&m_recorder);
+        const LogFile log;
+        BusyDialog busy;
+        busy.progress(1, 2);
+        busy.enterInstallPhase();
+        busy.finished();
+        const CertDialog certificate(QUrl(QStringLiteral("https://h/")), {});
+        const DescriptorGeneric descriptor((QUrl()));
+        const ItemDetailsDialog details(&descriptor);
+        for (const int shift : {10, 20, 30}) {
+            details.sizeStr(1LL << shift);
+        }
+        const UpdateWorld world;
+        const FakeSystem system;
+        RVRepository repository(QStringLiteral("Corvane"), QStringLiteral("Ravel"),
+                                QStringLiteral("key"), world.url(), QString(), SortByName, nullptr,
+                                world.paths());
+        const RVControlFrame frame(&repository, &system, SelectionTable::CheckBoxes, QString(),
+                                   QString(), QIcon(), false, nullptr, world.paths());
+        QCoreApplication::removeTranslator(&m_recorder);
+    }
+
+    void areAskedFor_data()
+    {
+        QTest::addColumn<QString>("context");
+        QTest::addColumn<QString>("comment");
+        const auto row = [](const char *context, const char *source, const char *comment = "") {
+            QTest::newRow(source) << QString::fromUtf8(context) << QString::fromUtf8(comment);
+        };
+        row("BusyDialog", "In progress...");
+        row("BusyDialog", "Cancel");
+        row("BusyDialog", "Show Details");
+        row("BusyDialog", "%v of %m KiB", "e.g. 500 of 1000 KiB");
+        row("BusyDialog", "Installing updates...");
+        row("BusyDialog", "%p%:  Done", "%p is percentage done.");
+        row("CertDialog", "Certificate", "SSL authentication certificate");
+        row("CertDialog", "Certificate could not be validated:  ");
+        row("CertDialog", "Accept Certificate");
+        row("CertDialog", "Reject Certificate");
+        row("CertDialog", "Issued To");
+        row("CertDialog", "Common Name:  ", "(CN), an LDAP term.");
+        row("CertDialog", "Organization:  ", "(O), an LDAP term.");
+        row("CertDialog", "Organizational Unit:  ", "(OU), an LDAP term.");
+        row("CertDialog", "Serial Number:  ");
+        row("CertDialog", "Issued By");
+        row("CertDialog", "Dates");
+        row("CertDialog", "Issue Date:  ");
+        row("CertDialog", "Expires Date:  ");
+        row("CertDialog", "Fingerprints", "identification string for certificates");
+        row("CertDialog", "SHA1 Fingerprint:  ");
+        row("CertDialog", "MD5 Fingerprint:  ");
+        row("ItemDetailsDialog", "%1 KiB", "KiB = kibibyte:  1024 bytes");
+        row("ItemDetailsDialog", "%1 MiB", "MiB = mebibyte:  1024*1024 bytes");
+        row("ItemDetailsDialog", "%1 GiB", "GiB = gibibyte:  1024*1024*1024 bytes");
+        row("RVControlFrame", "<i>No updates of this type are available.</i>");
+        row("RVControlFrame", "&Install");
+        row("RVControlFrame", "&Details");
+        row("RVControlFrame", "&Refresh");
+        row("RVControlFrame", "&All", "as in 'Select All Choices'");
+        row("RVControlFrame", "&None", "as in 'Select No Choices'");
+        row("RVControlFrame", "Retrieving data from repository<br /> <i>%1</i>",
+            "The argument is a repository URI.");
+        row("RVControlFrame", "Authentication is required to access <br /><i>%1</i>");
+        row("RVControlFrame", "User Name: ");
+        row("RVControlFrame", "Password: ");
+        row("RVControlFrame", "Could not retrieve data from repository<br /> <i>%1</i>");
+        row("RVControlFrame", "&Retry");
+    }
+    void areAskedFor()
+    {
+        QFETCH(QString, context);
+        QFETCH(QString, comment);
+        QVERIFY(m_recorder.asked.contains(
+            key(context, QString::fromUtf8(QTest::currentDataTag()), comment)));
+    }
+
+private:
+    Recorder m_recorder;
+};
+
+QTEST_MAIN(TestSourceTexts)
+#include "tst_SourceTexts.moc"
