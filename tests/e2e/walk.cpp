@@ -443,6 +443,11 @@ void Walk::readDetails()
             return details.isNull();
         },
         QStringLiteral("end of the dialog"));
+    waitFor(
+        [this] {
+            return table() && table()->hasFocus();
+        },
+        QStringLiteral("focus in the table"));
 }
 
 void Walk::chooseLanguage(const QString &code)
@@ -554,6 +559,11 @@ void Walk::finishInstallation(const QStringList &lines, const QString &name)
             return busy.isNull();
         },
         QStringLiteral("end of the dialog"));
+    waitFor(
+        [this] {
+            return table() && table()->hasFocus();
+        },
+        QStringLiteral("focus in the table"));
 }
 
 QStringList Walk::installedPackages() const
