@@ -13,7 +13,7 @@
 namespace
 {
 
-constexpr int lines = 20000;
+constexpr int lines = 200000;
 
 void throughDialog()
 {
@@ -53,7 +53,7 @@ void throughHtml()
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
-    const double ours = bestOf(2, throughDialog);
-    const double peer = bestOf(2, throughHtml);
-    return report("20,000 lines of output", ours, "inserted as HTML", peer, 2.0) ? 0 : 1;
+    const double ours = bestOf(1, throughDialog);
+    const double peer = bestOf(1, throughHtml);
+    return report("200,000 lines of output", ours, "inserted as HTML", peer, 2.0) ? 0 : 1;
 }

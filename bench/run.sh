@@ -7,7 +7,7 @@ set -euo pipefail
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
 home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT
-export HOME=$home XDG_CONFIG_HOME=$home
+export HOME=$home XDG_CONFIG_HOME=$home XDG_RUNTIME_DIR=$home
 
 failed=0
 for program in "$1"/bench/bench_*; do
