@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
+#include <QFontInfo>
 #include <QHBoxLayout>
 #include <QImage>
 #include <QLabel>
@@ -212,7 +213,8 @@ void HostWindow::buildCentre()
     m_title->setObjectName(QStringLiteral("pageTitle"));
     m_title->setTextFormat(Qt::PlainText);
     QFont large = m_title->font();
-    large.setPointSizeF(large.pointSizeF() * 1.6);
+    // Also of a font that is set in pixels, which says -1 itself.
+    large.setPointSizeF(QFontInfo(large).pointSizeF() * 1.6);
     m_title->setFont(large);
     m_description = new QLabel;
     m_description->setObjectName(QStringLiteral("pageDescription"));

@@ -4,6 +4,7 @@
 #include <plume/ControlFrame.h>
 
 #include <QEvent>
+#include <QFontInfo>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -108,7 +109,8 @@ private:
     QFont titleFont() const
     {
         QFont result = font();
-        result.setPointSizeF(result.pointSizeF() * 1.15);
+        // Also of a font that is set in pixels, which says -1 itself.
+        result.setPointSizeF(QFontInfo(result).pointSizeF() * 1.15);
         result.setBold(isChecked());
         return result;
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include <plume/TitlePage.h>
 
+#include <QFontInfo>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -21,7 +22,8 @@ QLabel *addLabel(QVBoxLayout *layout, const QString &objectName)
 void scaleFont(QLabel *label, qreal factor)
 {
     QFont font = label->font();
-    font.setPointSizeF(font.pointSizeF() * factor);
+    // Also of a font that is set in pixels, which says -1 itself.
+    font.setPointSizeF(QFontInfo(font).pointSizeF() * factor);
     label->setFont(font);
 }
 

@@ -4,11 +4,16 @@
 #include "tests/support/WarningGuard.h"
 #include "tests/ui/Spoken.h"
 
+#include <plume/Accordion.h>
+#include <plume/AccordionItem.h>
+#include <plume/ControlFrame.h>
 #include <plume/TitlePage.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QFontInfo>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
@@ -20,6 +25,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBrowser>
+#include <QToolButton>
 
 #include <sys/stat.h>
 
@@ -42,6 +48,16 @@ class DescribedPage : public PlainPage
 
 public:
     QString description() const override { return QStringLiteral("What it is for"); }
+};
+
+class Section : public ControlFrame
+{
+    Q_OBJECT
+
+public:
+    QString title() const override { return QStringLiteral("Section"); }
+    QString helpText() const override { return {}; }
+    QIcon icon() const override { return {}; }
 };
 
 class HelpfulPage : public PlainPage
@@ -334,6 +350,31 @@ private Q_SLOTS:
         QVERIFY(!window.close());
         dialog.hide();
         QVERIFY(window.close());
+    }
+
+    void fontsInPixelsGrow()
+    {
+        const QFont usual = QApplication::font();
+        QFont font = usual;
+        font.setPixelSize(20);
+        QApplication::setFont(font);
+        WarningGuard guard;
+        guard.allow(QStringLiteral("propagateSizeHints"));
+        {
+            HostWindow window;
+            auto *title = new TitlePage(QStringLiteral("t"), QStringLiteral("d"), QString());
+            window.addTitlePage(title);
+            const auto *label = title->findChild<QLabel *>(QStringLiteral("titlePageTitle"));
+            QVERIFY(QFontInfo(label->font()).pixelSize() > 30);
+            QVERIFY(QFontInfo(child<QLabel>(window, "pageTitle")->font()).pixelSize() > 25);
+            Accordion accordion;
+            auto *item = new AccordionItem(new Section);
+            accordion.addItem(item);
+            QVERIFY(item->findChild<QToolButton *>()->sizeHint().height() > 20);
+            accordion.grab();
+        }
+        QApplication::setFont(usual);
+        QVERIFY2(guard.isClean(), guard.report());
     }
 
     void helpPaneCanBeHidden()
