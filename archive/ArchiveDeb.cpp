@@ -81,7 +81,8 @@ ArchiveDeb::~ArchiveDeb() = default;
 
 bool ArchiveDeb::extract(QIODevice *source) const
 {
-    RVLogger().log(5, "Copying .deb file %s to local storage", qUtf8Printable(m_fileName));
+    RVLogger().log(5, "Copying .deb file %s to local storage",
+                   RVLogger::oneLine(m_fileName).constData());
     // A finished download is open already, and opening it again would drop what it holds.
     if (!source->isOpen() && !source->open(QIODevice::ReadOnly)) {
         return false;

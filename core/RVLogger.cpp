@@ -132,3 +132,20 @@ void RVLogger::setPaths(const RVPaths &paths)
         logPlace() = place;
     }
 }
+
+QByteArray RVLogger::oneLine(QString text)
+{
+    for (QChar &c : text) {
+        switch (c.category()) {
+        case QChar::Other_Control:
+        case QChar::Other_Format: // reverses what follows it
+        case QChar::Separator_Line:
+        case QChar::Separator_Paragraph:
+            c = QLatin1Char('?');
+            break;
+        default:
+            break;
+        }
+    }
+    return text.toUtf8();
+}

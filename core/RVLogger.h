@@ -4,7 +4,9 @@
 
 #include "core/RVPaths.h"
 
+#include <QByteArray>
 #include <QObject>
+#include <QString>
 
 #include <cstdio>
 
@@ -34,6 +36,10 @@ public:
     static void close();
     /// Moves the log to where `paths` says, closing one that is open elsewhere.
     static void setPaths(const RVPaths &paths);
+
+    /// A name that came from outside, in UTF-8 and on one line: control characters and the like
+    /// become '?', so that it cannot write entries of its own.
+    static QByteArray oneLine(QString text);
 
     /// The open log, or null.
     static std::FILE *m_stream;

@@ -362,14 +362,10 @@ private:
     QVector<int> m_captures;
 };
 
-/// One line that shows the pattern without letting it write to a terminal.
-QString printable(const QString &pattern)
+QString shortened(const QString &pattern)
 {
-    QString text = pattern.left(loggedLength);
-    for (QChar &c : text) {
-        c = c.isPrint() ? c : QLatin1Char('?');
-    }
-    return pattern.size() > loggedLength ? text + QStringLiteral("...") : text;
+    return pattern.size() > loggedLength ? pattern.left(loggedLength) + QStringLiteral("...")
+                                         : pattern;
 }
 
 } // namespace
@@ -388,7 +384,7 @@ bool RVPattern::exactMatch(const QString &pattern, const QString &text)
             .exactMatch(text);
     case Estimate::TooComplex:
         RVLogger().log(4, "Regular expression is too complex: '%s'",
-                       qUtf8Printable(printable(pattern)));
+                       RVLogger::oneLine(shortened(pattern)).constData());
         return false;
     case Estimate::Invalid:
         return false;

@@ -144,6 +144,7 @@ private Q_SLOTS:
     void handlesUrl();
     void copiesUnderItsName_data();
     void copiesUnderItsName();
+    void logsAnyNameOnOneLine();
     void logsTheCopyAsProgress();
     void copiesTwoPackages();
     void copiesBytes_data();
@@ -263,6 +264,14 @@ void tst_ArchiveDeb::copiesUnderItsName()
     QCOMPARE(content(QLatin1String("./") + name), QByteArray("package"));
     QCOMPARE(m_log->lines(),
              QStringList(QStringLiteral("Copying .deb file %1 to local storage").arg(name)));
+}
+
+void tst_ArchiveDeb::logsAnyNameOnOneLine()
+{
+    QVERIFY(extractBytes(package("http://h/a%0A010101:000000:%20b.deb"), "package"));
+    QCOMPARE(m_log->lines(),
+             QStringList(QStringLiteral("Copying .deb file a?010101:000000: b.deb "
+                                        "to local storage")));
 }
 
 void tst_ArchiveDeb::logsTheCopyAsProgress()

@@ -48,6 +48,8 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
+    void oneLine_data();
+    void oneLine();
     void headerAtTheFirstEntry();
     void headerAfterClose();
     void constructionOpens();
@@ -95,6 +97,28 @@ void tst_RVLogger::cleanup()
 {
     RVLogger::m_level = 7;
     m_log.reset();
+}
+
+void tst_RVLogger::oneLine_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QByteArray>("expected");
+
+    QTest::newRow("plain") << QStringLiteral("tool 1.0") << QByteArray("tool 1.0");
+    QTest::newRow("beyond ASCII") << QString::fromUtf8("gr\xc3\xbcn \xf0\x9f\x98\x80")
+                                  << QByteArray("gr\xc3\xbcn \xf0\x9f\x98\x80");
+    QTest::newRow("line feed") << QStringLiteral("a\nb\r") << QByteArray("a?b?");
+    QTest::newRow("escape sequence") << QStringLiteral("\x1b[2J") << QByteArray("?[2J");
+    QTest::newRow("C1 control") << QString(QChar(0x9b)) << QByteArray("?");
+    QTest::newRow("line separator") << QString(QChar(0x2028)) << QByteArray("?");
+    QTest::newRow("NUL") << QString(QChar(0)) << QByteArray("?");
+}
+
+void tst_RVLogger::oneLine()
+{
+    QFETCH(QString, text);
+    QFETCH(QByteArray, expected);
+    QCOMPARE(RVLogger::oneLine(text), expected);
 }
 
 void tst_RVLogger::headerAtTheFirstEntry()
