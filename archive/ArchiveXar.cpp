@@ -8,7 +8,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QStorageInfo>
 
 #include <algorithm>
 #include <archive.h>
@@ -17,6 +16,7 @@
 #include <limits>
 #include <memory>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 namespace
@@ -226,6 +226,20 @@ qint64 announcedSize(QFile *file)
     return total;
 }
 
+/// Bytes free for us where the current directory is; -1 when that cannot be told. (QStorageInfo
+/// goes by the table of mounts, which in a container need not name this place.)
+qint64 freeSpace()
+{
+    struct statvfs status = {};
+    if (::statvfs(".", &status) != 0) {
+        return -1;
+    }
+    const quint64 blocks = status.f_bavail;
+    const quint64 size = status.f_frsize;
+    constexpr quint64 most = std::numeric_limits<qint64>::max();
+    return static_cast<qint64>(size != 0 && blocks > most / size ? most : blocks * size);
+}
+
 bool isWithinBounds(QFile *file)
 {
     XarToc table;
@@ -238,7 +252,7 @@ bool isWithinBounds(QFile *file)
         return false;
     }
     const qint64 size = announcedSize(file);
-    const qint64 available = QStorageInfo(QDir::currentPath()).bytesAvailable();
+    const qint64 available = freeSpace();
     if (size < 0 || size > available - spareBytes) {
         RVLogger().log(3, "The xar archive needs %lld bytes, of %lld that are free",
                        static_cast<long long>(size), static_cast<long long>(available));
