@@ -33,7 +33,8 @@ function(ravel_add_component name)
   add_library(ravel_${name} OBJECT ${ARG_SOURCES})
   add_library(Ravel::${name} ALIAS ravel_${name})
   ravel_target_defaults(ravel_${name})
-  target_include_directories(ravel_${name} PUBLIC ${PROJECT_SOURCE_DIR})
+  # The host's own framework before the bundled one, whose headers lie in the source tree.
+  target_include_directories(ravel_${name} PUBLIC ${Plume_INCLUDE_DIR} ${PROJECT_SOURCE_DIR})
   target_link_libraries(ravel_${name} PUBLIC ${ARG_LINK} PRIVATE ravel_flags ${ARG_PRIVATE_LINK})
 endfunction()
 
