@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "core/OSInfo.h"
 
+#include "core/AptErrors.h"
 #include "core/RVLogger.h"
 
 #include <QDir>
@@ -13,7 +14,6 @@
 
 #include <apt-pkg/cmndline.h>
 #include <apt-pkg/configuration.h>
-#include <apt-pkg/error.h>
 #include <apt-pkg/init.h>
 #include <apt-pkg/mmap.h>
 #include <apt-pkg/pkgcache.h>
@@ -93,27 +93,6 @@ QString runHardwareTool(const QString &path)
     return text;
 }
 
-/// The package library's error stack is one for the whole process, and whatever is left on it makes
-/// every later operation fail: each operation gets a stack of its own, which ends up in the log.
-class ErrorGuard
-{
-public:
-    ErrorGuard() { _error->PushToStack(); }
-    ~ErrorGuard()
-    {
-        while (!_error->empty(GlobalError::DEBUG)) {
-            std::string message;
-            _error->PopMessage(message);
-            RVLogger().log(4, "%s", qUtf8Printable(QString::fromStdString(message).simplified()));
-        }
-        _error->RevertToStack();
-    }
-    bool hasFailed() const { return _error->PendingError(); }
-
-private:
-    Q_DISABLE_COPY_MOVE(ErrorGuard)
-};
-
 /// Sets the package library up, and points it at `status` or, when that is empty, at its own
 /// database.
 bool usePackageDatabase(const QString &status)
@@ -178,7 +157,7 @@ QString OSInfo::versionInstalled(const QString &packageName) const
     if (!m_packages) {
         return QString();
     }
-    const ErrorGuard guard;
+    const AptErrors errors;
     pkgCache::PkgIterator package = m_packages->cache.FindPkg(packageName.toLatin1().toStdString());
     if (package.end() || package.CurrentVer().end()) {
         return QString();
@@ -254,7 +233,7 @@ void OSInfo::readServicePacks()
 void OSInfo::readPackageCache()
 {
     m_packages.reset();
-    const ErrorGuard guard;
+    const AptErrors errors;
     if (!usePackageDatabase(m_paths.packageStatus)) {
         return;
     }
@@ -268,7 +247,7 @@ void OSInfo::readPackageCache()
         return;
     }
     m_packages = std::make_unique<PackageCache>(std::move(map));
-    if (guard.hasFailed()) {
+    if (errors.any()) {
         m_packages.reset();
     }
 }

@@ -2,17 +2,16 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "descriptor/DescriptorDeb.h"
 
+#include "core/AptErrors.h"
 #include "core/LocalCopy.h"
 #include "core/RVLogger.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTemporaryFile>
 
 #include <apt-pkg/aptconfiguration.h>
 #include <apt-pkg/debfile.h>
-#include <apt-pkg/error.h>
 #include <apt-pkg/fileutl.h>
 
 #include <algorithm>
@@ -25,27 +24,6 @@ namespace
 // Of a package's control archive, packed and unpacked; the largest ones of the distribution are a
 // tenth of it.
 constexpr int maxControlBytes = 16 * 1024 * 1024;
-
-/// The package library's messages go onto one stack for the whole process, and as long as an error
-/// lies there every later operation fails. This keeps one operation's messages to itself and logs
-/// them.
-class ErrorGuard
-{
-public:
-    ErrorGuard() { _error->PushToStack(); }
-    ~ErrorGuard()
-    {
-        std::string message;
-        while (!_error->empty()) {
-            _error->PopMessage(message);
-            RVLogger().log(4, "%s", message.c_str());
-        }
-        _error->RevertToStack();
-    }
-
-private:
-    Q_DISABLE_COPY_MOVE(ErrorGuard)
-};
 
 /// Whether bytes that are packed as their suffix says come to no more than the bound.
 bool isBounded(const QByteArray &packed, const std::string &suffix)
@@ -129,10 +107,7 @@ void toBytes(const QString &kibibytes, qint64 *bytes)
 } // namespace
 
 DescriptorDeb::DescriptorDeb(const QUrl &url, QObject *parent)
-    : DescriptorBaseClass(url, parent)
-    , m_urlHandled(
-          !url.isEmpty()
-          && QFileInfo(url.path()).suffix().compare(QLatin1String("deb"), Qt::CaseInsensitive) == 0)
+    : DescriptorFields(url, QStringLiteral("deb"), parent)
 {
 }
 
@@ -150,7 +125,7 @@ bool DescriptorDeb::read(QIODevice *source)
     }
     debDebFile::MemControlExtract control("control");
     {
-        const ErrorGuard guard;
+        const AptErrors errors;
         if (!readControl(package.file(), &control)) {
             RVLogger().log(4, ".deb file control read failed, url %s",
                            qUtf8Printable(m_url.toString(QUrl::RemovePassword)));
@@ -179,9 +154,4 @@ bool DescriptorDeb::read(QIODevice *source)
     m_unpackedSize = m_size;
     m_thinClientList.append(QStringLiteral("all"));
     return true;
-}
-
-bool DescriptorDeb::read(QNetworkReply *reply)
-{
-    return read(static_cast<QIODevice *>(reply));
 }

@@ -4,12 +4,8 @@
 
 #include "descriptor/DataXML.h"
 
-#include <QFileInfo>
-
 DescriptorXML::DescriptorXML(const QUrl &url, QObject *parent)
-    : DescriptorBaseClass(url, parent)
-    , m_urlHandled(QFileInfo(url.path()).suffix().compare(QLatin1String("xml"), Qt::CaseInsensitive)
-                   == 0)
+    : DescriptorFields(url, QStringLiteral("xml"), parent)
 {
 }
 
@@ -39,11 +35,6 @@ bool DescriptorXML::read(QIODevice *source)
     return understood;
 }
 
-bool DescriptorXML::read(QNetworkReply *reply)
-{
-    return read(static_cast<QIODevice *>(reply));
-}
-
 bool DescriptorXML::readUpdateStyleXML(DataXML &doc)
 {
     const QDomElement root = doc.documentElement();
@@ -70,28 +61,8 @@ bool DescriptorXML::readXarStyleXML(DataXML &doc)
         found = true;
         for (QDomElement elem = part.firstChildElement(); !elem.isNull();
              elem = elem.nextSiblingElement()) {
-            if (elem.tagName() == QLatin1String("sp-attrs")) {
-                doc.elementsToQint64(elem, QStringLiteral("unpacked_size"), &m_unpackedSize);
-                doc.elementsToQint64(elem, QStringLiteral("installed_size"), &m_installedSize);
-            } else if (elem.tagName() == QLatin1String("service-pack-description")) {
-                doc.elementsToLocaleString(elem, QStringLiteral("name"), &m_name);
-                doc.elementsToLocaleString(elem, QStringLiteral("title"), &m_title);
-                doc.elementsToStringList(elem, QStringLiteral("base_releases"), &m_baseReleases);
-                doc.elementsToStringList(elem, QStringLiteral("package"), &m_contentFiles);
-                readVersion(doc, elem);
-                doc.elementsToLocaleString(elem, QStringLiteral("notes"), &m_notes);
-                doc.elementsToStringList(elem, QStringLiteral("architecture"), &m_architectureList);
-                doc.elementsToStringList(elem, QStringLiteral("thin_client"), &m_thinClientList);
-            }
+            readSubdocument(doc, elem);
         }
     }
     return found;
-}
-
-void DescriptorXML::readVersion(const DataXML &doc, const QDomElement &elem)
-{
-    QString version;
-    if (doc.elementsToQString(elem, QStringLiteral("version"), &version)) {
-        m_version = VersionString(version);
-    }
 }

@@ -6,8 +6,6 @@
 #include "core/XarToc.h"
 #include "descriptor/DataXML.h"
 
-#include <QFileInfo>
-
 namespace
 {
 
@@ -33,10 +31,7 @@ void restoreOrder(QDomNode &parent)
 } // namespace
 
 DescriptorXar::DescriptorXar(const QUrl &url, QObject *parent)
-    : DescriptorBaseClass(url, parent)
-    , m_urlHandled(
-          !url.isEmpty()
-          && QFileInfo(url.path()).suffix().compare(QLatin1String("xar"), Qt::CaseInsensitive) == 0)
+    : DescriptorFields(url, QStringLiteral("xar"), parent)
 {
 }
 
@@ -56,7 +51,11 @@ bool DescriptorXar::read(QIODevice *source)
     // The table's elements are in reverse, and its subdocuments are elements, too.
     const QList<QByteArray> texts = table.subdocuments();
     for (auto text = texts.crbegin(); text != texts.crend(); ++text) {
-        readSubdocument(*text);
+        DataXML document;
+        document.load(*text);
+        QDomElement root = document.documentElement();
+        restoreOrder(root);
+        readSubdocument(document, root);
     }
     if (m_architectureList.isEmpty()) {
         m_architectureList.append(QStringLiteral("all"));
@@ -66,33 +65,4 @@ bool DescriptorXar::read(QIODevice *source)
     }
     m_contentFiles.sort();
     return true;
-}
-
-bool DescriptorXar::read(QNetworkReply *reply)
-{
-    return read(static_cast<QIODevice *>(reply));
-}
-
-void DescriptorXar::readSubdocument(const QByteArray &text)
-{
-    DataXML document;
-    document.load(text);
-    QDomElement root = document.documentElement();
-    restoreOrder(root);
-    if (root.tagName() == QLatin1String("sp-attrs")) {
-        document.elementsToQint64(root, QStringLiteral("unpacked_size"), &m_unpackedSize);
-        document.elementsToQint64(root, QStringLiteral("installed_size"), &m_installedSize);
-    } else if (root.tagName() == QLatin1String("service-pack-description")) {
-        document.elementsToLocaleString(root, QStringLiteral("name"), &m_name);
-        document.elementsToLocaleString(root, QStringLiteral("title"), &m_title);
-        document.elementsToStringList(root, QStringLiteral("base_releases"), &m_baseReleases);
-        document.elementsToStringList(root, QStringLiteral("package"), &m_contentFiles);
-        QString version;
-        if (document.elementsToQString(root, QStringLiteral("version"), &version)) {
-            m_version = VersionString(version);
-        }
-        document.elementsToLocaleString(root, QStringLiteral("notes"), &m_notes);
-        document.elementsToStringList(root, QStringLiteral("architecture"), &m_architectureList);
-        document.elementsToStringList(root, QStringLiteral("thin_client"), &m_thinClientList);
-    }
 }
