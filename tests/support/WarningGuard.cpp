@@ -51,6 +51,13 @@ QStringList WarningGuard::unexpected() const
 
 void WarningGuard::handle(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
+    // Managers in two threads register the same type at once: Qt's own race, harmless.
+    if (text.startsWith(QLatin1String(
+            "Type conversion already registered from type QSharedPointer<QNetworkSession>"))) {
+        return;
+    }
+    // The threads of network managers write, too.
+    const QMutexLocker locker(&s_current->m_mutex);
     if (type == QtWarningMsg || type == QtCriticalMsg) {
         s_current->m_messages.append(text);
     } else if (s_current->m_previous) {

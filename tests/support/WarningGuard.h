@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QMutex>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -27,6 +28,7 @@ private:
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &text);
     QStringList unexpected() const;
 
+    QMutex m_mutex;
     QList<QRegularExpression> m_allowed;
     QStringList m_messages;
     QByteArray m_report;
