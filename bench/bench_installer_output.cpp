@@ -13,9 +13,7 @@
 namespace
 {
 
-constexpr int lines = 200000;
-
-void throughDialog()
+void throughDialog(int lines)
 {
     QProcess process;
     auto *dialog = new BusyDialog(QStringLiteral("…"), QString(), 0, 100);
@@ -32,7 +30,7 @@ void throughDialog()
     delete dialog;
 }
 
-void throughHtml()
+void throughHtml(int lines)
 {
     QTextEdit view;
     view.show();
@@ -53,7 +51,23 @@ void throughHtml()
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
-    const double ours = bestOf(1, throughDialog);
-    const double peer = bestOf(1, throughHtml);
-    return report("200,000 lines of output", ours, "inserted as HTML", peer, 2.0) ? 0 : 1;
+    // Short output costs the dialog more than the peer: it waits up to a batch's interval, and
+    // breaks and bounds lines. Known, and bounded here; what the way of appending is for is long
+    // output.
+    const double shortOurs = bestOf(2, [] {
+        throughDialog(20000);
+    });
+    const double shortPeer = bestOf(2, [] {
+        throughHtml(20000);
+    });
+    const bool isBounded =
+        report("20,000 lines of output", shortOurs, "inserted as HTML", shortPeer, 0.2);
+    const double ours = bestOf(1, [] {
+        throughDialog(200000);
+    });
+    const double peer = bestOf(1, [] {
+        throughHtml(200000);
+    });
+    return report("200,000 lines of output", ours, "inserted as HTML", peer, 2.0) && isBounded ? 0
+                                                                                               : 1;
 }

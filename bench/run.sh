@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 Ravel developers
 # SPDX-License-Identifier: GPL-2.0-or-later
 #
-# run.sh BUILD_DIR: every benchmark, each against its peer in the same run; fails when one is slower.
+# run.sh BUILD_DIR: every benchmark, each against its peer in the same run; fails when one
+# falls below the factor that it names; where that is under 1, ours is the slower one and says why.
 # RAVEL_BENCH_PACKAGES names a directory of .deb files; without it twenty of the distribution's are
 # downloaded, if they can be.
 set -euo pipefail
