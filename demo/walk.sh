@@ -2,9 +2,9 @@
 # SPDX-FileCopyrightText: 2026 Ravel developers
 # SPDX-License-Identifier: GPL-2.0-or-later
 #
-# walk.sh BUILD_DIR: walks through the demo world without a person: a virtual display, a window
-# manager, a fresh world, and the program of tests/e2e/walk.cpp. One line a step; the exit code is
-# that program's. Screenshots are in BUILD_DIR/screenshots afterwards.
+# walk.sh BUILD_DIR: walks through the demo world without a person: a virtual display, a fresh world,
+# and the program of tests/e2e/walk.cpp. One line a step; the exit code is that program's.
+# Screenshots are in BUILD_DIR/screenshots afterwards.
 set -euo pipefail
 
 if [ $# -ne 1 ] || [ ! -d "$1" ]; then
@@ -16,56 +16,10 @@ demo=$(cd -- "$(dirname -- "$(readlink -f -- "$0")")" && pwd -P)
 world=$build/demo/walk
 "$demo/build-world.sh" "$world"
 
-# Nothing of the person who runs this: no settings, no session, no theme, no language.
-home=$world/home
-rm -rf -- "$home"
-mkdir -- "$home"
-mkdir -m 0700 -- "$home/run"
-export HOME=$home XDG_CONFIG_HOME=$home/.config XDG_CACHE_HOME=$home/.cache XDG_RUNTIME_DIR=$home/run
-export LC_ALL=C.UTF-8 DBUS_SESSION_BUS_ADDRESS=disabled:
-# Widgets need no GL, whose drivers are slow to load and leak.
-export QT_QPA_PLATFORM=xcb QT_XCB_GL_INTEGRATION=none
-unset WAYLAND_DISPLAY QT_QPA_PLATFORMTHEME QT_STYLE_OVERRIDE QT_SCALE_FACTOR LANGUAGE
-
-pids=()
-# shellcheck disable=SC2317  # the trap calls it
-stop()
-{
-  local pid
-  for pid in "${pids[@]}"; do
-    kill "$pid" 2>/dev/null || true
-    wait "$pid" 2>/dev/null || true
-  done
-}
-trap stop EXIT
-
-# await FILE WHAT LOG: until FILE is there with something in it
-await()
-{
-  local i
-  for ((i = 0; i < 300; ++i)); do
-    [ ! -s "$1" ] || return 0
-    sleep 0.1
-  done
-  echo "walk: no $2" >&2
-  cat "$3" >&2
-  return 1
-}
-
-Xvfb -displayfd 3 -screen 0 1280x1000x24 -nolisten tcp 3>"$home/display" 2>"$home/xvfb.log" &
-pids=("$!")
-await "$home/display" 'virtual display' "$home/xvfb.log"
-DISPLAY=:$(cat "$home/display")
-export DISPLAY
-# A window manager gives dialogs their frames and the focus, but not to windows that were there first.
-openbox --sm-disable --startup "cp '$home/display' '$home/managed'" >"$home/openbox.log" 2>&1 &
-pids=("$!" "${pids[@]}")
-await "$home/managed" 'window manager' "$home/openbox.log"
-
 rm -rf -- "$build/screenshots"
 mkdir -- "$build/screenshots"
 status=0
-timeout --kill-after=5 120 \
+"$demo/on-display.sh" "$world/home" timeout --kill-after=5 120 \
   "$build/tests/e2e/ravel-walk" "$world/root" "$build/screenshots" || status=$?
 [ "$status" -ne 124 ] || echo "walk: stopped after two minutes" >&2
 exit "$status"
