@@ -41,6 +41,12 @@ ArchiveGeneric &ArchiveGeneric::operator=(const ArchiveGeneric &other)
 
 ArchiveGeneric::~ArchiveGeneric() = default;
 
+bool ArchiveGeneric::isHandled(const QUrl &url)
+{
+    return ArchiveXar(url).urlIsHandled() || ArchiveDeb(url).urlIsHandled()
+        || ArchiveDDImage(url).urlIsHandled();
+}
+
 bool ArchiveGeneric::urlIsHandled() const
 {
     return !m_backend.isNull();

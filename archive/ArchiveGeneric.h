@@ -24,6 +24,8 @@ public:
     /// Takes the backend alone; URL and proxy stay.
     ArchiveGeneric &operator=(const ArchiveGeneric &other);
     ~ArchiveGeneric() override;
+    /// Whether there is an installer for that kind of file.
+    static bool isHandled(const QUrl &url);
 
     /// True when there is a backend; ask before offering the archive for installation.
     bool urlIsHandled() const override;

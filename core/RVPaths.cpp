@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "core/RVPaths.h"
 
+#include <QSettings>
+
 RVPaths RVPaths::under(const QString &root)
 {
     RVPaths paths;
@@ -15,5 +17,17 @@ RVPaths RVPaths::under(const QString &root)
         QStringLiteral("DPKG_ROOT=") + root,
         QStringLiteral("DPKG_FORCE=not-root,script-chrootless,bad-path"),
     };
+    return paths;
+}
+
+RVPaths RVPaths::enterRoot(const QString &root)
+{
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                       root + QLatin1String("/.config"));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
+                       root + QLatin1String("/etc/xdg"));
+    RVPaths paths = under(root);
+    // dpkg's log has a fixed place outside its root, unless root's own .dpkg.cfg moves it.
+    paths.installerEnvironment.append(QLatin1String("HOME=") + root);
     return paths;
 }

@@ -37,4 +37,7 @@ struct RVPaths {
     /// and programs move, packageStatus is root's own database, and the installer's environment
     /// makes an unmodified dpkg work on that root, as an ordinary user too.
     static RVPaths under(const QString &root);
+    /// under() for a program that works on `root` alone: its settings are read and stored there
+    /// too, and the package tool finds its own configuration there.
+    static RVPaths enterRoot(const QString &root);
 };

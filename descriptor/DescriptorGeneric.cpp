@@ -16,6 +16,7 @@ DescriptorGeneric::DescriptorGeneric(const QUrl &url, QObject *parent)
 DescriptorGeneric::DescriptorGeneric(const DescriptorGeneric &other)
     : DescriptorBaseClass(other.m_url)
     , m_backend(other.m_backend)
+    , m_understood(other.m_understood)
 {
 }
 
@@ -23,6 +24,7 @@ DescriptorGeneric &DescriptorGeneric::operator=(const DescriptorGeneric &other)
 {
     m_url = other.m_url;
     m_backend = other.m_backend;
+    m_understood = other.m_understood;
     return *this;
 }
 
@@ -110,6 +112,7 @@ QStringList DescriptorGeneric::thinClientList() const
 bool DescriptorGeneric::read(QIODevice *source)
 {
     const bool understood = m_backend && m_backend->read(source);
+    m_understood = understood;
     Q_EMIT readFinished();
     return understood;
 }

@@ -21,6 +21,8 @@ public:
     ~DescriptorGeneric() override;
 
     bool urlIsHandled() const override;
+    /// True once a read() through this object has understood what it was given.
+    bool isUnderstood() const { return m_understood; }
     QString name(const QString &lang) const override;
     QString title(const QString &lang) const override;
     QString contentNotes(const QString &lang) const override;
@@ -45,4 +47,5 @@ private:
     bool matchBackend(const QUrl &url);
 
     QSharedPointer<DescriptorBaseClass> m_backend;
+    bool m_understood = false;
 };

@@ -164,14 +164,7 @@ void HostWindow::nameApplication()
 
 RVPaths HostWindow::enterRoot(const QString &root)
 {
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                       root + QLatin1String("/.config"));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
-                       root + QLatin1String("/etc/xdg"));
-    RVPaths paths = RVPaths::under(root);
-    // dpkg's log has a fixed place outside its root, unless root's own .dpkg.cfg moves it.
-    paths.installerEnvironment.append(QLatin1String("HOME=") + root);
-    return paths;
+    return RVPaths::enterRoot(root);
 }
 
 void HostWindow::buildMenus()

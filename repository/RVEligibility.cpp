@@ -54,14 +54,10 @@ bool isInstalled(const QString &name, const QList<VersionString> &servicePacks)
     });
 }
 
-} // namespace
-
-RVEligibility eligibility(const RVData &entry, const OSInfoBaseClass &system, bool filterSps)
+RVEligibility eligibilityByFields(const RVData &entry, const OSInfoBaseClass &system,
+                                  bool filterSps)
 {
     const auto &descriptor = entry.descriptor();
-    if (!descriptor) {
-        return RVEligibility::NoDescriptor;
-    }
     if (!fitsBaseRelease(descriptor->baseReleases(), system.baseOSName().toString(),
                          entry.descriptorUrl())) {
         return RVEligibility::OtherBaseRelease;
@@ -76,6 +72,21 @@ RVEligibility eligibility(const RVData &entry, const OSInfoBaseClass &system, bo
         return RVEligibility::ServicePackInstalled;
     }
     return RVEligibility::Offered;
+}
+
+} // namespace
+
+RVEligibility eligibility(const RVData &entry, const OSInfoBaseClass &system, bool filterSps)
+{
+    const auto &descriptor = entry.descriptor();
+    if (!descriptor) {
+        return RVEligibility::NoDescriptor;
+    }
+    const RVEligibility reason = eligibilityByFields(entry, system, filterSps);
+    // Fields that were never filled fail one of the tests; that is not what is wrong.
+    return reason == RVEligibility::Offered || descriptor->isUnderstood()
+        ? reason
+        : RVEligibility::UnreadableDescriptor;
 }
 
 QList<RVData> offeredEntries(const QList<RVData> &entries, const OSInfoBaseClass &system,

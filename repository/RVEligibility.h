@@ -7,10 +7,14 @@
 
 #include <QList>
 
-/// Why an entry is offered on a system, or the first reason why it is not.
+/// Why an archive is offered on a system, or the first reason why it is not.
 enum class RVEligibility {
     Offered,
+    /// Only for archives of which no entry was made.
+    NoFilter,
     NoDescriptor,
+    /// What could not be read says nothing that fits.
+    UnreadableDescriptor,
     OtherBaseRelease,
     OtherArchitecture,
     OtherThinClient,

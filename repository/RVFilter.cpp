@@ -76,6 +76,16 @@ bool RVFilter::operator==(const RVFilter &other) const
     return m_archive == other.m_archive && m_descriptor == other.m_descriptor;
 }
 
+bool RVFilter::selects(const XUrlInfo &item) const
+{
+    return m_archive.isEmpty() ? !item.isDir() : isFound(m_archive, item);
+}
+
+QUrl RVFilter::urlOf(const XUrlInfo &item)
+{
+    return urlOfName(item.name());
+}
+
 QString RVFilter::corename(const QString &name, const QRegExp &pattern) const
 {
     QString core = name.mid(name.lastIndexOf(QLatin1Char('/')) + 1);
@@ -101,7 +111,7 @@ void RVFilter::filterList(const QList<XUrlInfo> &listing, QList<RVData> &entries
 
     QStringList archives;
     for (const XUrlInfo &item : listing) {
-        if (m_archive.isEmpty() ? !item.isDir() : isFound(m_archive, item)) {
+        if (selects(item)) {
             archives.append(item.name());
         }
     }

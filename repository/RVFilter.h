@@ -27,6 +27,11 @@ public:
     bool operator==(const RVFilter &other) const;
     bool operator!=(const RVFilter &other) const { return !(*this == other); }
 
+    /// Whether a file of a listing is an archive of this filter; a descriptor is another question.
+    bool selects(const XUrlInfo &item) const;
+    /// The address that an item's name stands for.
+    static QUrl urlOf(const XUrlInfo &item);
+
     /// The part of a file name that an archive and its descriptor share.
     QString corename(const QString &name, const QRegExp &pattern) const;
     /// Replaces `entries` by what the listing holds. Linear in the size of the listing.

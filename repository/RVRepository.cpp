@@ -3,29 +3,20 @@
 #include "repository/RVRepository.h"
 
 #include "core/RVLogger.h"
+#include "core/RVSettings.h"
 #include "descriptor/RVDescFetch.h"
 #include "network/NetworkDirRequest.h"
 #include "network/XNetworkAccessManager.h"
 #include "network/XNetworkReply.h"
 #include "repository/RVFilter.h"
+#include "repository/RVRepDesc.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QSettings>
+
+#include <algorithm>
 
 namespace
 {
-
-/// A location may hold a password, so the file is its owner's alone before one goes into it.
-void makePrivate(const QString &fileName)
-{
-    QDir().mkpath(QFileInfo(fileName).path());
-    QFile file(fileName);
-    if (!file.exists() && !file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        return;
-    }
-    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-}
 
 /// For the log, which never shows a password.
 QByteArray loggable(const QUrl &url)
@@ -54,6 +45,21 @@ RVRepository::RVRepository(const QString &organisation, const QString &applicati
     }
 }
 
+RVRepository *RVRepository::fromDefinition(const RVRepDesc &definition, QObject *parent,
+                                           const RVPaths &paths)
+{
+    auto *repository = new RVRepository(
+        QLatin1String(RVSettings::organisation), QLatin1String(RVSettings::application),
+        definition.settingsKey, definition.defaultUri, definition.uriDescription.value({}),
+        definition.picksOne() ? SortByVersion : SortByName, parent, paths);
+    for (int i = 0; i < definition.archivePatterns.size(); ++i) {
+        repository->addFilter(
+            QRegExp(definition.archivePatterns.at(i), Qt::CaseSensitive, QRegExp::RegExp),
+            QRegExp(definition.descriptorPatterns.at(i), Qt::CaseSensitive, QRegExp::RegExp));
+    }
+    return repository;
+}
+
 RVRepository::~RVRepository()
 {
     const QPointer<XNetworkReply> reply = m_reply;
@@ -64,6 +70,18 @@ RVRepository::~RVRepository()
 void RVRepository::addFilter(const QRegExp &archive, const QRegExp &descriptor)
 {
     m_filters.append(new RVFilter(archive, descriptor, this));
+}
+
+bool RVRepository::selects(const XUrlInfo &item) const
+{
+    return std::any_of(m_filters.cbegin(), m_filters.cend(), [&item](const RVFilter *filter) {
+        return filter->selects(item);
+    });
+}
+
+bool RVRepository::isRefreshing() const
+{
+    return m_reply || (m_descFetch && m_descFetch->isActive());
 }
 
 void RVRepository::setProxy(const QString &host, int port)
@@ -79,7 +97,7 @@ void RVRepository::setUrl(const QUrl &url)
         return;
     }
     if (m_url != m_defaultUrl) {
-        makePrivate(m_settings->fileName());
+        RVSettings::makePrivate(m_settings->fileName());
         m_settings->setValue(m_settingsKey, m_url.toString());
     } else {
         m_settings->remove(m_settingsKey);

@@ -20,6 +20,7 @@
 class QSettings;
 class RVDescFetch;
 class RVFilter;
+class RVRepDesc;
 class XNetworkAccessManager;
 class XNetworkReply;
 
@@ -38,6 +39,9 @@ public:
     RVRepository(const QString &organisation, const QString &application,
                  const QString &settingsKey, const QUrl &defaultUrl, const QString &description,
                  SortKey sortKey, QObject *parent = nullptr, const RVPaths &paths = {});
+    /// The repository of a definition, with the definition's filters, on the program's settings.
+    static RVRepository *fromDefinition(const RVRepDesc &definition, QObject *parent = nullptr,
+                                        const RVPaths &paths = {});
     ~RVRepository() override;
 
     void addFilter(const QRegExp &archive, const QRegExp &descriptor);
@@ -47,6 +51,13 @@ public:
     const QString &settingsKey() const { return m_settingsKey; }
     const QString &description() const { return m_description; }
     const QList<RVData> &entries() const { return m_entries; }
+    /// What the last successful refresh found at the location.
+    const QList<XUrlInfo> &listing() const { return m_listing; }
+    /// Whether a filter picks this file as an archive.
+    bool selects(const XUrlInfo &item) const;
+    /// Seen from the event loop: false once a refresh has given its last signal, whichever that
+    /// was.
+    bool isRefreshing() const;
     const QString &user() const { return m_user; }
     const QString &password() const { return m_password; }
     const QString &proxyHost() const { return m_proxyHost; }

@@ -28,8 +28,6 @@ namespace
 
 constexpr int logThreshold = 6;
 constexpr int errorDialogWidth = 600;
-constexpr char organisation[] = "Corvane";
-constexpr char application[] = "Ravel";
 // Stands for an answer that holds for one reply only.
 constexpr char noFingerprint[] = "BOGUS";
 
@@ -313,15 +311,7 @@ void RVMainPage::parseRepositoryDir(const RVPaths &paths)
 void RVMainPage::makeRepositories(const RVPaths &paths)
 {
     for (const auto &definition : m_definitions) {
-        auto *repository = new RVRepository(
-            QLatin1String(organisation), QLatin1String(application), definition->settingsKey,
-            definition->defaultUri, definition->uriDescription.value({}),
-            definition->picksOne() ? SortByVersion : SortByName, this, paths);
-        for (int i = 0; i < definition->archivePatterns.size(); ++i) {
-            repository->addFilter(
-                QRegExp(definition->archivePatterns.at(i), Qt::CaseSensitive, QRegExp::RegExp),
-                QRegExp(definition->descriptorPatterns.at(i), Qt::CaseSensitive, QRegExp::RegExp));
-        }
+        RVRepository *repository = RVRepository::fromDefinition(*definition, this, paths);
         connect(repository, &RVRepository::networkError, this, &RVMainPage::networkError);
         connect(repository, &RVRepository::sslErrors, this, &RVMainPage::sslErrors);
         m_repositories.append(repository);

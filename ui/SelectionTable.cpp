@@ -129,8 +129,9 @@ SelectionTable::SelectionTable(const QList<RVData> &entries, SelectionTableType 
         setItemDelegateForColumn(ChoiceColumn,
                                  new RVChoiceItem(QStyle::PE_IndicatorCheckBox, this));
     }
+    const QVector<RVProposal> proposed = proposals(m_entries, osInfo, m_type == RadioButtons);
     for (int row = 0; row < m_entries.size(); ++row) {
-        fillRow(row, osInfo);
+        fillRow(row, proposed.at(row));
     }
     verticalHeader()->hide();
     horizontalHeader()->setSectionsClickable(false);
@@ -437,7 +438,7 @@ void SelectionTable::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void SelectionTable::fillRow(int row, const OSInfoBaseClass *osInfo)
+void SelectionTable::fillRow(int row, const RVProposal &proposal)
 {
     auto *choice = new ChoiceItem;
     choice->setFlags(Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
@@ -454,22 +455,13 @@ void SelectionTable::fillRow(int row, const OSInfoBaseClass *osInfo)
         setRowHidden(row, true);
         return;
     }
-    Row &state = m_rows[row];
-    QString installed;
-    if (osInfo) {
-        installed = osInfo->versionInstalled(descriptor->name(QStringLiteral("en")));
-        state.current = installed.isEmpty() ? NotInstalled : VersionKnown;
+    m_rows[row] = {static_cast<CurrentVersionType>(proposal.current), proposal.upToDate,
+                   proposal.preselected ? Qt::Checked : Qt::Unchecked};
+    choice->setCheckState(m_rows.at(row).proposed);
+    if (proposal.current == RVProposal::Known) {
+        setVersion(item(row, InstalledColumn), proposal.installed);
     }
-    const VersionString offered = descriptor->version();
-    state.upToDate = VersionString(installed).compare(offered, Qt::CaseSensitive) >= 0;
-    if (!state.upToDate && (m_type == CheckBoxes || row == 0)) {
-        state.proposed = Qt::Checked;
-        choice->setCheckState(Qt::Checked);
-    }
-    if (state.current == VersionKnown) {
-        setVersion(item(row, InstalledColumn), installed);
-    }
-    setVersion(item(row, OfferedColumn), DataXML::plainText(offered.toString()));
+    setVersion(item(row, OfferedColumn), DataXML::plainText(descriptor->version().toString()));
 }
 
 void SelectionTable::toggle(int row)

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/RVPaths.h"
-#include "repository/RVData.h"
+#include "repository/RVSelection.h"
 #include "ui/ImageInstallBox.h"
 
 #include <QHash>
@@ -37,9 +37,9 @@ public:
         RadioButtons = 1, ///< exactly one row
     };
     enum CurrentVersionType {
-        VersionUnknown = 0,
-        NotInstalled = 1,
-        VersionKnown = 2,
+        VersionUnknown = RVProposal::Unknown,
+        NotInstalled = RVProposal::NotInstalled,
+        VersionKnown = RVProposal::Known,
     };
     enum Column {
         ChoiceColumn,
@@ -107,7 +107,7 @@ private:
         Qt::CheckState proposed = Qt::Unchecked;
     };
 
-    void fillRow(int row, const OSInfoBaseClass *osInfo);
+    void fillRow(int row, const RVProposal &proposal);
     void toggle(int row);
     void applyFonts();
     void fitToContents();

@@ -89,7 +89,7 @@ private Q_SLOTS:
     void servicePacks();
     void firstFailureCounts();
     void entryWithoutDescriptorIsNeverOffered();
-    void unreadEntryFailsByItsEmptyArchitectures();
+    void unreadEntryIsNeverOffered();
     void descriptorWithoutBackendFitsEverywhere();
     void keepsTheOrderOfWhatFits();
 };
@@ -298,13 +298,13 @@ void tst_RVEligibility::entryWithoutDescriptorIsNeverOffered()
     QVERIFY(offeredEntries({lost}, TestSystem(), false).isEmpty());
 }
 
-void tst_RVEligibility::unreadEntryFailsByItsEmptyArchitectures()
+void tst_RVEligibility::unreadEntryIsNeverOffered()
 {
     TestSystem system;
-    QCOMPARE(eligibility(unreadEntry(), system, false), RVEligibility::OtherArchitecture);
-    // Not even where the system does not know its own.
+    QCOMPARE(eligibility(unreadEntry(), system, false), RVEligibility::UnreadableDescriptor);
+    // Not even where the system does not know its own architecture.
     system.arch.clear();
-    QCOMPARE(eligibility(unreadEntry(), system, false), RVEligibility::OtherArchitecture);
+    QCOMPARE(eligibility(unreadEntry(), system, false), RVEligibility::UnreadableDescriptor);
 }
 
 void tst_RVEligibility::descriptorWithoutBackendFitsEverywhere()

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "repository/RVExplain.h"
+
+#include "archive/ArchiveGeneric.h"
+#include "repository/RVFilter.h"
+#include "repository/RVRepository.h"
+
+#include <QHash>
+
+QList<RVVerdict> explain(const RVRepository &repository, const OSInfoBaseClass &system,
+                         bool filterSps)
+{
+    QHash<QUrl, RVVerdict> byArchive;
+    const QList<RVData> &entries = repository.entries();
+    for (int i = 0; i < entries.size(); ++i) {
+        const RVVerdict verdict{entries.at(i).archiveUrl(),
+                                eligibility(entries.at(i), system, filterSps), i};
+        const auto known = byArchive.find(verdict.archive);
+        if (known == byArchive.end()) {
+            byArchive.insert(verdict.archive, verdict);
+        } else if (known->reason != RVEligibility::Offered
+                   && verdict.reason == RVEligibility::Offered) {
+            *known = verdict;
+        }
+    }
+
+    QList<RVVerdict> verdicts;
+    for (const XUrlInfo &item : repository.listing()) {
+        const QUrl url = RVFilter::urlOf(item);
+        const auto known = byArchive.find(url);
+        if (known != byArchive.end()) {
+            verdicts.append(*known);
+            // A page may link the same file twice.
+            byArchive.erase(known);
+        } else if (repository.selects(item)) {
+            verdicts.append({url, RVEligibility::NoDescriptor, -1});
+        } else if (!item.isDir() && ArchiveGeneric::isHandled(url)) {
+            verdicts.append({url, RVEligibility::NoFilter, -1});
+        }
+    }
+    return verdicts;
+}

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "repository/RVSelection.h"
+
+namespace
+{
+
+RVProposal proposal(const DescriptorGeneric &descriptor, const OSInfoBaseClass *system,
+                    bool isEligible)
+{
+    RVProposal result;
+    if (system) {
+        result.installed = system->versionInstalled(descriptor.name(QStringLiteral("en")));
+        result.current = result.installed.isEmpty() ? RVProposal::NotInstalled : RVProposal::Known;
+    }
+    result.upToDate =
+        VersionString(result.installed).compare(descriptor.version(), Qt::CaseSensitive) >= 0;
+    result.preselected = isEligible && !result.upToDate;
+    return result;
+}
+
+} // namespace
+
+QVector<RVProposal> proposals(const QList<RVData> &offered, const OSInfoBaseClass *system,
+                              bool picksOne)
+{
+    QVector<RVProposal> result(offered.size());
+    for (int i = 0; i < offered.size(); ++i) {
+        if (const auto &descriptor = offered.at(i).descriptor()) {
+            result[i] = proposal(*descriptor, system, !picksOne || i == 0);
+        }
+    }
+    return result;
+}

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "core/OSInfoBaseClass.h"
+#include "repository/RVData.h"
+
+#include <QList>
+#include <QVector>
+
+/// What is installed of an offered update, and whether a section proposes to install it.
+struct RVProposal {
+    enum Installed {
+        Unknown = 0, ///< the system cannot be asked
+        NotInstalled = 1,
+        Known = 2,
+    };
+
+    Installed current = Unknown;
+    /// The installed version where it is known.
+    QString installed;
+    /// What is installed is as new as the offer, or newer.
+    bool upToDate = false;
+    bool preselected = false;
+};
+
+/// For the offered entries of a section, in their order. Proposed is everything that is newer than
+/// what is installed; where one entry is picked, only the first can be. `system` may be null.
+QVector<RVProposal> proposals(const QList<RVData> &offered, const OSInfoBaseClass *system,
+                              bool picksOne);
