@@ -11,6 +11,7 @@
 #include <QDialogButtonBox>
 #include <QEvent>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -106,12 +107,22 @@ QString fingerprint(const QSslCertificate &certificate, QCryptographicHash::Algo
                                 : QString::fromLatin1(certificate.digest(algorithm).toHex());
 }
 
+// The layout of Qt::TextDate, which names days and months in the system's language and not in the
+// one that the program speaks.
+QString shownDate(const QDateTime &date)
+{
+    return date.isValid()
+        ? QLocale().toString(date.toUTC(), QStringLiteral("ddd MMM d HH:mm:ss yyyy 'GMT'"))
+        : QString();
+}
+
 } // namespace
 
 CertDialog::CertDialog(const QUrl &url, const QList<QSslError> &errors, QWidget *parent,
-                       Qt::WindowFlags flags)
+                       Qt::WindowFlags flags, const QSslCertificate &certificate)
     : QDialog(parent, flags)
     , m_errors(errors)
+    , m_certificate(certificate)
 {
     for (const QSslError &error : errors) {
         if (m_certificate.isNull()) {
@@ -245,10 +256,13 @@ void CertDialog::retranslateUi()
     addDetail(unit, lastOf(m_certificate.issuerInfo(QSslCertificate::OrganizationalUnitName)));
 
     addHeading(tr("Dates"));
-    addDetail(tr("Issue Date:  "), m_certificate.effectiveDate().toString(Qt::TextDate));
-    addDetail(tr("Expires Date:  "), m_certificate.expiryDate().toString(Qt::TextDate));
+    addDetail(tr("Issue Date:  "), shownDate(m_certificate.effectiveDate()));
+    addDetail(tr("Expires Date:  "), shownDate(m_certificate.expiryDate()));
 
     addHeading(tr("Fingerprints", "identification string for certificates"));
+    // First, since it is the one that no other certificate can have.
+    addDetail(tr("SHA256 Fingerprint:  "),
+              colonSepString(fingerprint(m_certificate, QCryptographicHash::Sha256)));
     addDetail(tr("SHA1 Fingerprint:  "),
               colonSepString(fingerprint(m_certificate, QCryptographicHash::Sha1)));
     addDetail(tr("MD5 Fingerprint:  "),

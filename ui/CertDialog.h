@@ -21,8 +21,9 @@ class CertDialog : public QDialog
     Q_DISABLE_COPY_MOVE(CertDialog)
 
 public:
+    /// Without `certificate` the first one that the errors carry is shown.
     CertDialog(const QUrl &url, const QList<QSslError> &errors, QWidget *parent = nullptr,
-               Qt::WindowFlags flags = {});
+               Qt::WindowFlags flags = {}, const QSslCertificate &certificate = QSslCertificate());
     ~CertDialog() override;
 
     /// "0a1b2c" as "0a:1b:2c".
@@ -52,6 +53,6 @@ private:
     QDialogButtonBox *m_buttonBox = nullptr;
     QGroupBox *m_detailsBox = nullptr;
     QTextEdit *m_detailsView = nullptr;
-    /// The first one that the errors carry; null when none does.
+    /// Null when there is none to show.
     QSslCertificate m_certificate;
 };

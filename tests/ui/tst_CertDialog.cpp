@@ -190,11 +190,13 @@ private Q_SLOTS:
             QStringLiteral("  Expires Date:  ") + m_full.expiryDate().toString(Qt::TextDate),
             QString(),
             QStringLiteral("Fingerprints"),
+            QStringLiteral("  SHA256 Fingerprint:  ") + hex(QCryptographicHash::Sha256),
             QStringLiteral("  SHA1 Fingerprint:  ") + hex(QCryptographicHash::Sha1),
             QStringLiteral("  MD5 Fingerprint:  ") + hex(QCryptographicHash::Md5),
             QString(),
         };
         QCOMPARE(details(dialog), expected);
+        QVERIFY(hex(QCryptographicHash::Sha256).size() == 95);
         QVERIFY(hex(QCryptographicHash::Sha1).size() == 59);
         QVERIFY(hex(QCryptographicHash::Md5).size() == 47);
     }
@@ -238,6 +240,42 @@ private Q_SLOTS:
         QVERIFY(text.contains(QStringLiteral("  Issue Date:  Sat Feb 3 04:05:06 2001 GMT")));
         QVERIFY(text.contains(QStringLiteral("  Expires Date:  Mon Mar 4 05:06:07 2002 GMT")));
         QCOMPARE(text.constFirst(), QStringLiteral("The certificate has expired."));
+    }
+
+    void showsTheServersOwnCertificate()
+    {
+        // The first error is about the authority.
+        const CertDialog dialog(QUrl(place), errorsOf(m_plain), nullptr, {}, m_full);
+        const QStringList text = details(dialog);
+        QVERIFY(text.contains(QString::fromUtf8("  Common Name:  h\303\266st")));
+        QVERIFY(!text.contains(QStringLiteral("  Common Name:  plain")));
+        QVERIFY(text.contains(
+            QStringLiteral("  SHA256 Fingerprint:  ")
+            + QString::fromLatin1(m_full.digest(QCryptographicHash::Sha256).toHex(':'))));
+    }
+
+    void datesInTheProgramsLanguage_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("English") << QStringLiteral("en")
+                                 << QStringLiteral("Sat Feb 3 04:05:06 2001 GMT");
+        QTest::newRow("German") << QStringLiteral("de")
+                                << QString::fromUtf8("Sa. Feb. 3 04:05:06 2001 GMT");
+        QTest::newRow("French") << QStringLiteral("fr")
+                                << QString::fromUtf8("sam. f\303\251vr. 3 04:05:06 2001 GMT");
+    }
+    void datesInTheProgramsLanguage()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, expected);
+        const QLocale before;
+        QLocale::setDefault(QLocale(language));
+        const CertDialog dialog(QUrl(place), errorsOf(expired(), {QSslError::CertificateExpired}));
+        const QStringList text = details(dialog);
+        QLocale::setDefault(before);
+        QVERIFY2(text.contains(QStringLiteral("  Issue Date:  ") + expected),
+                 qPrintable(text.join(QLatin1Char('\n'))));
     }
 
     void noErrors_data()
