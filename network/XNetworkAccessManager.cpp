@@ -6,10 +6,15 @@
 #include "network/NetworkDirRequest.h"
 #include "network/XNetworkReply.h"
 
+#include <QAuthenticator>
+
 XNetworkAccessManager::XNetworkAccessManager(QObject *parent)
     : QNetworkAccessManager(parent)
 {
     setRedirectPolicy(QNetworkRequest::ManualRedirectPolicy);
+    // Before any other receiver, who answers from the keyring.
+    connect(this, &QNetworkAccessManager::proxyAuthenticationRequired, this,
+            &XNetworkAccessManager::forgetRefused);
 }
 
 XNetworkAccessManager::~XNetworkAccessManager()
@@ -17,6 +22,11 @@ XNetworkAccessManager::~XNetworkAccessManager()
     while (!m_requests.empty()) {
         m_requests.pop_back();
     }
+}
+
+void XNetworkAccessManager::setKeyring(const QSharedPointer<RVKeyring> &keyring)
+{
+    m_keyring = keyring;
 }
 
 XNetworkReply *XNetworkAccessManager::getDirectory(const NetworkDirRequest &request)
@@ -76,4 +86,19 @@ void XNetworkAccessManager::relaySslErrors(QNetworkReply *reply, const QList<QSs
 void XNetworkAccessManager::emitDirectoryFinished(XNetworkReply *reply)
 {
     Q_EMIT directoryFinished(reply);
+}
+
+// A manager has one transfer, which each proxy on its way asks once. For a tunnel Qt comes with a
+// blank authenticator each time, so that the second question is all that tells of a refusal.
+void XNetworkAccessManager::forgetRefused(const QNetworkProxy &proxy)
+{
+    if (!m_keyring) {
+        return;
+    }
+    const QString place = RVKeyring::placeOf(proxy);
+    const auto offered = m_offered.constFind(place);
+    if (offered != m_offered.constEnd()) {
+        m_keyring->forget(place, *offered);
+    }
+    m_offered.insert(place, m_keyring->login(place));
 }

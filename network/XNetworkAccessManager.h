@@ -2,10 +2,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "network/RVKeyring.h"
+
+#include <QHash>
 #include <QList>
 #include <QNetworkAccessManager>
 #include <QNetworkProxy>
 #include <QNetworkReply>
+#include <QSharedPointer>
 #include <QSslError>
 
 #include <memory>
@@ -24,6 +28,10 @@ class XNetworkAccessManager : public QNetworkAccessManager
 public:
     explicit XNetworkAccessManager(QObject *parent = nullptr);
     ~XNetworkAccessManager() override;
+
+    /// From whose logins for proxies the receiver of proxyAuthenticationRequired() answers. What a
+    /// proxy refuses is forgotten there before it asks for another.
+    void setKeyring(const QSharedPointer<RVKeyring> &keyring);
 
     /// Starts a listing; never null. A backend may finish inside the call, so connect to
     /// directoryFinished() before it.
@@ -45,6 +53,11 @@ private Q_SLOTS:
     void emitDirectoryFinished(XNetworkReply *reply);
 
 private:
+    void forgetRefused(const QNetworkProxy &proxy);
+
+    QSharedPointer<RVKeyring> m_keyring;
+    /// What was offered to each proxy that has asked.
+    QHash<QString, RVLogin> m_offered;
     /// Each with a backend that outlives the reply it made, so that late signals are safe.
     std::vector<std::unique_ptr<NetworkDirRequest>> m_requests;
 };

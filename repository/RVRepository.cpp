@@ -3,6 +3,7 @@
 #include "repository/RVRepository.h"
 
 #include "core/RVLogger.h"
+#include "core/RVOrigin.h"
 #include "core/RVSettings.h"
 #include "descriptor/RVDescFetch.h"
 #include "network/NetworkDirRequest.h"
@@ -38,6 +39,7 @@ RVRepository::RVRepository(const QString &organisation, const QString &applicati
     , m_description(description)
     , m_url(defaultUrl)
     , m_sortKey(sortKey)
+    , m_keyring(QSharedPointer<RVKeyring>::create())
 {
     RVLogger().log(5, "Setting up repository('%s')", qUtf8Printable(m_description));
     if (!m_settingsKey.isEmpty()) {
@@ -88,6 +90,11 @@ void RVRepository::setProxy(const QString &host, int port)
 {
     m_proxyHost = host;
     m_proxyPort = port;
+}
+
+void RVRepository::setKeyring(const QSharedPointer<RVKeyring> &keyring)
+{
+    m_keyring = keyring;
 }
 
 void RVRepository::setUrl(const QUrl &url)
@@ -158,6 +165,7 @@ void RVRepository::refresh()
     }
 
     m_manager = new XNetworkAccessManager(this);
+    m_manager->setKeyring(m_keyring);
     if (!m_proxyHost.isEmpty() && m_proxyPort > 0) {
         const bool isFtp = m_url.scheme().toLower() == QLatin1String("ftp");
         m_manager->setProxy(
@@ -295,14 +303,13 @@ void RVRepository::descFetchFinished()
 
 void RVRepository::attemptAuthentication(QNetworkReply *reply, QAuthenticator *auth)
 {
-    const bool isUnset = m_user.isEmpty() && m_password.isEmpty();
-    const bool wasRefused = auth->user() == m_user && auth->password() == m_password;
-    if (isUnset || wasRefused) {
+    // A listing may lead to any other server.
+    const RVLogin login = isSameOrigin(reply->url(), m_url)
+        ? RVLogin{m_user, m_password}
+        : m_keyring->login(originOf(reply->url()));
+    if (!answerChallenge(login, reply, auth)) {
         Q_EMIT authenticationRequired(reply, auth);
-        return;
     }
-    auth->setUser(m_user);
-    auth->setPassword(m_password);
 }
 
 void RVRepository::relayNetworkError(const QNetworkReply *reply)
@@ -318,7 +325,9 @@ void RVRepository::relayNetworkError(QNetworkReply::NetworkError /*error*/)
 void RVRepository::relayProxyAuthenticationRequired(const QNetworkProxy &proxy,
                                                     QAuthenticator *auth)
 {
-    Q_EMIT proxyAuthenticationRequired(proxy, auth);
+    if (!m_keyring->answer(proxy, auth)) {
+        Q_EMIT proxyAuthenticationRequired(proxy, auth);
+    }
 }
 
 void RVRepository::relaySslErrors(QNetworkReply *reply, const QList<QSslError> &errors)

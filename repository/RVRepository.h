@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/RVPaths.h"
+#include "network/RVKeyring.h"
 #include "network/XUrlInfo.h"
 #include "repository/RVData.h"
 #include "repository/RVSort.h"
@@ -14,6 +15,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QRegExp>
+#include <QSharedPointer>
 #include <QSslError>
 #include <QUrl>
 
@@ -64,6 +66,9 @@ public:
     int proxyPort() const { return m_proxyPort; }
     /// Used from the next refresh on; an empty host or a port of 0 or less means no proxy.
     void setProxy(const QString &host, int port);
+    /// Logins for other servers and for proxies; one of its own unless set, never null.
+    const QSharedPointer<RVKeyring> &keyring() const { return m_keyring; }
+    void setKeyring(const QSharedPointer<RVKeyring> &keyring);
 
 public Q_SLOTS:
     /// Stores a location that differs from the default, and forgets the stored one if it does not.
@@ -118,6 +123,8 @@ private:
     SortKey m_sortKey;
     QString m_proxyHost;
     int m_proxyPort = 0;
+    /// For the location's own scheme, host and port, and for nobody else.
     QString m_user;
     QString m_password;
+    QSharedPointer<RVKeyring> m_keyring;
 };

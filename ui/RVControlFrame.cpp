@@ -3,6 +3,7 @@
 #include "ui/RVControlFrame.h"
 
 #include "core/OSInfoBaseClass.h"
+#include "core/RVOrigin.h"
 #include "repository/RVEligibility.h"
 #include "repository/RVRepository.h"
 #include "ui/RVStyle.h"
@@ -29,6 +30,12 @@ QPushButton *actionButton(const QIcon &icon = {})
     button->setObjectName(QStringLiteral("RVActionButton"));
     button->setIcon(icon);
     return button;
+}
+
+QString shown(const QString &place)
+{
+    return (place.size() <= longestLocation ? place : place.left(longestLocation) + QChar(0x2026))
+        .toHtmlEscaped();
 }
 
 QLabel *richLabel()
@@ -84,8 +91,17 @@ RVControlFrame::Page RVControlFrame::currentPage() const
     return static_cast<Page>(m_pages->currentIndex());
 }
 
+bool RVControlFrame::isAskingFor(const QString &place) const
+{
+    return currentPage() == AuthenticationPage && m_asking != Asking::Repository
+        && m_askingPlace == place;
+}
+
 void RVControlFrame::setCredentials(const QString &user, const QString &password)
 {
+    m_asking = Asking::Repository;
+    m_askingPlace.clear();
+    showLocation();
     m_user->setText(user);
     m_password->setText(password);
 }
@@ -104,6 +120,7 @@ void RVControlFrame::resetTable()
 void RVControlFrame::enterRetrievalState()
 {
     m_canceled = false;
+    Q_EMIT transfersStarted();
     showPage(RetrievalPage);
     m_repository->refresh();
 }
@@ -115,12 +132,42 @@ void RVControlFrame::cancelRetrieval()
     showPage(SelectionPage);
 }
 
-void RVControlFrame::enterAuthenticationState(QNetworkReply *, QAuthenticator *auth)
+void RVControlFrame::enterAuthenticationState(QNetworkReply *reply, QAuthenticator *auth)
+{
+    if (!reply || isSameOrigin(reply->url(), m_repository->url())) {
+        ask(Asking::Repository, QString(), auth);
+    } else {
+        ask(Asking::Server, originOf(reply->url()), auth);
+    }
+}
+
+void RVControlFrame::ask(Asking who, const QString &place, QAuthenticator *auth)
 {
     // The request that asked ends here; the retry has what the user types.
     auth->setUser(QString());
     auth->setPassword(QString());
+    if (who != m_asking || place != m_askingPlace) {
+        if (currentPage() == AuthenticationPage) {
+            return; // one question at a time: the retry comes to this one
+        }
+        const RVLogin known = who == Asking::Repository
+            ? RVLogin{m_repository->user(), m_repository->password()}
+            : m_repository->keyring()->login(place);
+        setCredentials(known.user, known.password);
+        m_asking = who;
+        m_askingPlace = place;
+    }
     showPage(AuthenticationPage);
+}
+
+void RVControlFrame::answerQuestion()
+{
+    if (m_asking == Asking::Repository) {
+        emitAuthentication();
+        return;
+    }
+    m_repository->keyring()->keep(m_askingPlace, {m_user->text(), m_password->text()});
+    Q_EMIT loginKept(m_askingPlace);
 }
 
 void RVControlFrame::emitAuthentication()
@@ -197,9 +244,9 @@ void RVControlFrame::refreshFailed(const QNetworkReply *reply)
 {
     const QNetworkReply::NetworkError error =
         reply ? reply->error() : QNetworkReply::UnknownNetworkError;
-    // The refusal that follows from the empty answer must not hide the question, nor the end of a
-    // cancelled request the page that the cancelling chose.
-    if ((currentPage() == AuthenticationPage && error == QNetworkReply::AuthenticationRequiredError)
+    // What follows from the empty answer must not hide the question, nor the end of a cancelled
+    // request the page that the cancelling chose.
+    if (currentPage() == AuthenticationPage
         || (m_canceled && error == QNetworkReply::OperationCanceledError)) {
         return;
     }
@@ -214,6 +261,7 @@ void RVControlFrame::relayNetworkError(const QNetworkReply *reply)
 void RVControlFrame::relayProxyAuthenticationRequired(const QNetworkProxy &proxy,
                                                       QAuthenticator *auth)
 {
+    ask(Asking::Proxy, RVKeyring::placeOf(proxy), auth);
     Q_EMIT proxyAuthenticationRequired(proxy, auth);
 }
 
@@ -239,6 +287,8 @@ QWidget *RVControlFrame::makeSelectionPage(const RVStyle &style)
     m_allButton = actionButton(style.StdIcon(RVStyle::SelectAll));
     m_noneButton = actionButton(style.StdIcon(RVStyle::SelectNone));
     connect(m_refreshButton, &QPushButton::clicked, this, &RVControlFrame::enterRetrievalState);
+    // Before the table's own slot.
+    connect(m_installButton, &QPushButton::clicked, this, &RVControlFrame::transfersStarted);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(m_installButton);
     buttons->addWidget(m_detailsButton);
@@ -289,7 +339,7 @@ QWidget *RVControlFrame::makeAuthenticationPage(const RVStyle &style)
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     buttons->button(QDialogButtonBox::Ok)->setIcon(style.StdIcon(RVStyle::Ok));
     buttons->button(QDialogButtonBox::Cancel)->setIcon(style.StdIcon(RVStyle::Cancel));
-    connect(buttons, &QDialogButtonBox::accepted, this, &RVControlFrame::emitAuthentication);
+    connect(buttons, &QDialogButtonBox::accepted, this, &RVControlFrame::answerQuestion);
     connect(buttons, &QDialogButtonBox::accepted, this, &RVControlFrame::enterRetrievalState);
     connect(buttons, &QDialogButtonBox::rejected, this, &RVControlFrame::cancelRetrieval);
     connect(m_user, &QLineEdit::returnPressed, m_password, QOverload<>::of(&QWidget::setFocus));
@@ -327,6 +377,8 @@ void RVControlFrame::connectRepository()
             &RVRepository::setAuthenticationCredentials);
     connect(m_repository, &RVRepository::authenticationRequired, this,
             &RVControlFrame::enterAuthenticationState);
+    connect(m_repository, &RVRepository::proxyAuthenticationRequired, this,
+            &RVControlFrame::relayProxyAuthenticationRequired);
     connect(m_repository, &RVRepository::networkError, this, &RVControlFrame::refreshFailed);
 }
 
@@ -371,6 +423,7 @@ void RVControlFrame::retireTable(SelectionTable *table)
 SelectionTable *RVControlFrame::makeTable(const QList<RVData> &entries)
 {
     auto *table = new SelectionTable(entries, m_type, m_osInfo, this, m_paths);
+    table->setRepository(m_repository->url(), m_repository->keyring());
     table->setAuthenticationCredentials(m_repository->user(), m_repository->password());
     table->setProxy(m_repository->proxyHost(), m_repository->proxyPort());
     return table;
@@ -453,16 +506,15 @@ void RVControlFrame::focusPage()
 
 void RVControlFrame::showLocation()
 {
-    QString location = m_repository->url().toDisplayString();
-    if (location.size() > longestLocation) {
-        location = location.left(longestLocation) + QChar(0x2026);
-    }
-    location = location.toHtmlEscaped();
+    const QString location = shown(m_repository->url().toDisplayString());
     m_retrievalLabel->setText(
         tr("Retrieving data from repository<br /> <i>%1</i>", "The argument is a repository URI.")
             .arg(location));
+    const QString asking = m_asking == Asking::Repository ? location : shown(m_askingPlace);
     m_authenticationLabel->setText(
-        tr("Authentication is required to access <br /><i>%1</i>").arg(location));
+        m_asking == Asking::Proxy
+            ? tr("Authentication is required to use the proxy <br /><i>%1</i>").arg(asking)
+            : tr("Authentication is required to access <br /><i>%1</i>").arg(asking));
     m_errorLabel->setText(
         tr("Could not retrieve data from repository<br /> <i>%1</i>").arg(location));
 }

@@ -57,7 +57,10 @@ public:
 
     RVRepository *repository() const { return m_repository; }
     Page currentPage() const;
-    /// What the authentication page shows; emitAuthentication() applies it.
+    /// Whether the authentication page waits for a login for this place, which is not the
+    /// repository itself; see RVKeyring.
+    bool isAskingFor(const QString &place) const;
+    /// The repository's, as the authentication page shows them; emitAuthentication() applies them.
     void setCredentials(const QString &user, const QString &password);
     /// The current table's; tables made later take the repository's.
     void setProxy(const QString &host, int port);
@@ -79,12 +82,17 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void authenticationCredentials(const QString &user, const QString &password);
+    /// The user typed a login for another server or a proxy; the keyring has it.
+    void loginKept(const QString &place);
+    /// The user wants something from the network.
+    void transfersStarted();
     void installFinished();
     void networkError(const QNetworkReply *reply);
     void proxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *auth);
     void sslErrors(QNetworkReply *reply, const QList<QSslError> &errors);
 
 private Q_SLOTS:
+    void answerQuestion();
     void incInstallFinished();
     void cancelFromRetrieval();
     void refreshFailed(const QNetworkReply *reply);
@@ -108,6 +116,9 @@ private:
     bool hasFocusInside() const;
     void focusPage();
     void showLocation();
+
+    enum class Asking { Repository, Server, Proxy };
+    void ask(Asking who, const QString &place, QAuthenticator *auth);
 
     const RVPaths m_paths;
     RVRepository *m_repository;
@@ -135,6 +146,9 @@ private:
     QProgressBar *m_retrievalBar = nullptr;
     QDialogButtonBox *m_retrievalButtons = nullptr;
     QLabel *m_authenticationLabel = nullptr;
+    /// Whom the fields below are for, and its place in the keyring: none for the repository.
+    Asking m_asking = Asking::Repository;
+    QString m_askingPlace;
     QLabel *m_userLabel = nullptr;
     QLabel *m_passwordLabel = nullptr;
     QLineEdit *m_user = nullptr;

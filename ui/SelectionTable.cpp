@@ -5,6 +5,7 @@
 #include "archive/RVInstallProc.h"
 #include "core/OSInfoBaseClass.h"
 #include "core/RVLogger.h"
+#include "core/RVOrigin.h"
 #include "descriptor/DataXML.h"
 #include "ui/BusyDialog.h"
 #include "ui/ItemDetailsDialog.h"
@@ -108,6 +109,7 @@ SelectionTable::SelectionTable(const QList<RVData> &entries, SelectionTableType 
     , m_type(type)
     , m_labelItem(new TableLabelItem(true, this))
     , m_rows(entries.size())
+    , m_keyring(QSharedPointer<RVKeyring>::create())
 {
     setObjectName(QStringLiteral("RVSelectionTable"));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -166,6 +168,12 @@ void SelectionTable::setProxy(const QString &host, int port)
 {
     m_proxyHost = host;
     m_proxyPort = port;
+}
+
+void SelectionTable::setRepository(const QUrl &url, const QSharedPointer<RVKeyring> &keyring)
+{
+    m_repositoryUrl = url;
+    m_keyring = keyring;
 }
 
 QHash<QUrl, Qt::CheckState> SelectionTable::userChoices() const
@@ -339,20 +347,21 @@ void SelectionTable::relayProcessError(QProcess::ProcessError error)
 
 void SelectionTable::relayAuthenticationRequired(QNetworkReply *reply, QAuthenticator *auth)
 {
-    const bool none = m_user.isEmpty() && m_password.isEmpty();
-    // The same credentials again means that the server refused them.
-    if (none || (auth->user() == m_user && auth->password() == m_password)) {
+    // The archive may lie on any other server.
+    const RVLogin login = !reply || isSameOrigin(reply->url(), m_repositoryUrl)
+        ? RVLogin{m_user, m_password}
+        : m_keyring->login(originOf(reply->url()));
+    if (!answerChallenge(login, reply, auth)) {
         Q_EMIT authenticationRequired(reply, auth);
-        return;
     }
-    auth->setUser(m_user);
-    auth->setPassword(m_password);
 }
 
 void SelectionTable::relayProxyAuthenticationRequired(const QNetworkProxy &proxy,
                                                       QAuthenticator *auth)
 {
-    Q_EMIT proxyAuthenticationRequired(proxy, auth);
+    if (!m_keyring->answer(proxy, auth)) {
+        Q_EMIT proxyAuthenticationRequired(proxy, auth);
+    }
 }
 
 void SelectionTable::relaySslErrors(QNetworkReply *reply, const QList<QSslError> &errors)

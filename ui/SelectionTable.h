@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/RVPaths.h"
+#include "network/RVKeyring.h"
 #include "repository/RVSelection.h"
 #include "ui/ImageInstallBox.h"
 
@@ -12,8 +13,10 @@
 #include <QNetworkReply>
 #include <QPointer>
 #include <QProcess>
+#include <QSharedPointer>
 #include <QSslError>
 #include <QTableWidget>
+#include <QUrl>
 #include <QVector>
 
 class BusyDialog;
@@ -58,6 +61,9 @@ public:
     SelectionTableType tableType() const { return m_type; }
     /// An empty host or a port of 0 or less means no proxy. Used from the next installation on.
     void setProxy(const QString &host, int port);
+    /// Whose updates these are: the credentials are for that server alone, the keyring has those
+    /// for others. Before install().
+    void setRepository(const QUrl &url, const QSharedPointer<RVKeyring> &keyring);
     /// Between install() and installFinished().
     bool isInstalling() const { return m_procedure != nullptr; }
 
@@ -121,6 +127,8 @@ private:
     TableLabelItem *m_labelItem;
     QVector<Row> m_rows;
     int m_fixedWidth = 0;
+    QUrl m_repositoryUrl;
+    QSharedPointer<RVKeyring> m_keyring;
     QString m_user;
     QString m_password;
     QString m_proxyHost;

@@ -162,6 +162,9 @@ private Q_SLOTS:
     void proxy();
     void authentication_data();
     void authentication();
+    void loginsForOtherPlaces_data();
+    void loginsForOtherPlaces();
+    void answersProxies();
     void serverThatAsks_data();
     void serverThatAsks();
     void passesQuestionsOn();
@@ -888,7 +891,7 @@ void tst_RVRepository::authentication()
     QFETCH(QString, tried);
     QFETCH(bool, asked);
     QFETCH(QString, offered);
-    Watched watched(location());
+    Watched watched(QUrl(QStringLiteral("http://updates.example/")));
     watched.repository.setAuthenticationCredentials(user, password);
     QCOMPARE(watched.repository.user(), user);
     QCOMPARE(watched.repository.password(), password);
@@ -902,6 +905,7 @@ void tst_RVRepository::authentication()
     auth.setPassword(tried.section(QLatin1Char('/'), 1));
     // As a server's challenge to the listing arrives.
     const QPointer<XNetworkReply> reply = RVRepositoryTestAccess::startListing(watched.repository);
+    reply->setUrl(watched.repository.url());
     QVERIFY(QMetaObject::invokeMethod(&watched.repository, "attemptAuthentication",
                                       Q_ARG(QNetworkReply *, reply.data()),
                                       Q_ARG(QAuthenticator *, &auth)));
@@ -912,6 +916,76 @@ void tst_RVRepository::authentication()
                                       Q_ARG(QNetworkReply *, reply.data()),
                                       Q_ARG(QAuthenticator *, &auth)));
     QCOMPARE(questions, asked ? 2 : 1);
+}
+
+void tst_RVRepository::loginsForOtherPlaces_data()
+{
+    QTest::addColumn<QString>("location");
+    QTest::addColumn<QString>("asking");
+    QTest::addColumn<QString>("offered");
+    const auto row = [](const char *title, const char *location, const char *asking,
+                        const char *offered) {
+        QTest::newRow(title) << QString::fromLatin1(location) << QString::fromLatin1(asking)
+                             << QString::fromLatin1(offered);
+    };
+    row("the location", "http://h/dir/", "http://h/dir/", "me");
+    row("elsewhere on its server", "http://h/dir/", "http://h/x/a.deb", "me");
+    row("its port in words", "http://h/", "http://h:80/", "me");
+    row("in capitals", "http://h/", "HTTP://H/", "me");
+    row("an FTP location", "ftp://h/", "ftp://h:21/dir/", "me");
+    row("another server", "http://h/", "http://other/", "");
+    row("another port", "http://h/", "http://h:81/", "");
+    row("another scheme", "http://h/", "https://h/", "");
+    row("another server with a login", "http://h/", "http://known/", "you");
+    row("that one's other port", "http://h/", "http://known:81/", "");
+}
+
+void tst_RVRepository::loginsForOtherPlaces()
+{
+    QFETCH(QString, location);
+    QFETCH(QString, asking);
+    QFETCH(QString, offered);
+    Watched watched{QUrl(location)};
+    watched.repository.setAuthenticationCredentials(QStringLiteral("me"), QStringLiteral("pw"));
+    const auto keyring = QSharedPointer<RVKeyring>::create();
+    keyring->keep(QStringLiteral("http://known:80"),
+                  {QStringLiteral("you"), QStringLiteral("word")});
+    watched.repository.setKeyring(keyring);
+    int questions = 0;
+    connect(&watched.repository, &RVRepository::authenticationRequired, this, [&] {
+        ++questions;
+    });
+    const QPointer<XNetworkReply> reply = RVRepositoryTestAccess::startListing(watched.repository);
+    reply->setUrl(QUrl(asking));
+    QAuthenticator auth;
+    QVERIFY(QMetaObject::invokeMethod(&watched.repository, "attemptAuthentication",
+                                      Q_ARG(QNetworkReply *, reply.data()),
+                                      Q_ARG(QAuthenticator *, &auth)));
+    QTEST(auth.user(), "offered");
+    QCOMPARE(questions, offered.isEmpty() ? 1 : 0);
+}
+
+void tst_RVRepository::answersProxies()
+{
+    Watched watched(location());
+    const QNetworkProxy proxy(QNetworkProxy::HttpProxy, QStringLiteral("proxy"), 3128);
+    int questions = 0;
+    connect(&watched.repository, &RVRepository::proxyAuthenticationRequired, this, [&] {
+        ++questions;
+    });
+    QAuthenticator auth;
+    const auto challenge = [&] {
+        return QMetaObject::invokeMethod(&watched.repository, "relayProxyAuthenticationRequired",
+                                         Q_ARG(QNetworkProxy, proxy),
+                                         Q_ARG(QAuthenticator *, &auth));
+    };
+    QVERIFY(challenge());
+    QCOMPARE(questions, 1);
+    watched.repository.keyring()->keep(QStringLiteral("proxy:3128"),
+                                       {QStringLiteral("me"), QStringLiteral("pw")});
+    QVERIFY(challenge());
+    QCOMPARE(questions, 1);
+    QCOMPARE(auth.user() + QLatin1Char('/') + auth.password(), QStringLiteral("me/pw"));
 }
 
 void tst_RVRepository::serverThatAsks_data()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "archive/RVInstallProc.h"
+#include "core/RVOrigin.h"
 #include "tests/support/HttpServer.h"
 #include "tests/support/LogFile.h"
 #include "tests/support/WarningGuard.h"
@@ -177,6 +178,7 @@ private Q_SLOTS:
     void cannotBeCancelledLater();
     void handsProxyAndCredentialsOn();
     void answersWithItsCredentials();
+    void offersItsCredentialsToNobodyElse();
     void asksWhenItsCredentialsFail();
     void relaysSignals();
     void waitsForTheInstallerWhenDestroyed();
@@ -1037,6 +1039,7 @@ void TestSelectionTable::answersWithItsCredentials()
     const RVData entry = m_world->remoteEntry(server.url(QStringLiteral("/a.deb")));
     m_world->setInstaller("cat a.deb >" + QFile::encodeName(m_world->file(QStringLiteral("seen"))));
     Table table({entry}, Table::CheckBoxes, m_system.get(), nullptr, m_world->paths());
+    table.setRepository(server.url(QStringLiteral("/dir/")), QSharedPointer<RVKeyring>::create());
     table.setAuthenticationCredentials(QStringLiteral("user"), QStringLiteral("secret"));
     QSignalSpy asked(&table, &Table::authenticationRequired);
     QSignalSpy finished(&table, &Table::installFinished);
@@ -1046,6 +1049,44 @@ void TestSelectionTable::answersWithItsCredentials()
     QFile seen(m_world->file(QStringLiteral("seen")));
     QVERIFY(seen.open(QIODevice::ReadOnly));
     QCOMPARE(seen.readAll(), QByteArray("archive"));
+}
+
+// The archive lies on another server than the repository.
+void TestSelectionTable::offersItsCredentialsToNobodyElse()
+{
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "archive");
+    server.protect(QStringLiteral("user"), QStringLiteral("secret"));
+    const QUrl archive = server.url(QStringLiteral("/a.deb"));
+    QUrl repository = archive;
+    repository.setPort(archive.port() - 1);
+    const auto keyring = QSharedPointer<RVKeyring>::create();
+    m_world->setInstaller("cat a.deb >" + QFile::encodeName(m_world->file(QStringLiteral("seen"))));
+    Table table({m_world->remoteEntry(archive)}, Table::CheckBoxes, m_system.get(), nullptr,
+                m_world->paths());
+    table.setRepository(repository, keyring);
+    table.setAuthenticationCredentials(QStringLiteral("user"), QStringLiteral("secret"));
+    QSignalSpy asked(&table, &Table::authenticationRequired);
+    QSignalSpy failed(&table, &Table::installError);
+    QSignalSpy finished(&table, &Table::installFinished);
+    table.install();
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(failed.size(), 1);
+    QCOMPARE(asked.size(), 1);
+    QVERIFY(!server.requests().isEmpty());
+    for (const QByteArray &request : server.requests()) {
+        QVERIFY2(!request.contains("Authorization"), request.constData());
+    }
+    const QFileInfo seen(m_world->file(QStringLiteral("seen")));
+    QCOMPARE(seen.size(), 0);
+
+    // What the user typed for that server goes there.
+    keyring->keep(originOf(archive), {QStringLiteral("user"), QStringLiteral("secret")});
+    table.setAuthenticationCredentials(QStringLiteral("other"), QStringLiteral("word"));
+    table.install();
+    QTRY_COMPARE(finished.size(), 2);
+    QCOMPARE(failed.size(), 1);
+    QCOMPARE(QFileInfo(seen.filePath()).size(), 7);
 }
 
 void TestSelectionTable::asksWhenItsCredentialsFail()

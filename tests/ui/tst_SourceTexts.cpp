@@ -100,6 +100,7 @@ private Q_SLOTS:
         row("CertDialog", "Fingerprints", "identification string for certificates");
         row("CertDialog", "SHA1 Fingerprint:  ");
         row("CertDialog", "MD5 Fingerprint:  ");
+        row("CertDialog", "SHA256 Fingerprint:  ");
         row("ItemDetailsDialog", "%1 KiB", "KiB = kibibyte:  1024 bytes");
         row("ItemDetailsDialog", "%1 MiB", "MiB = mebibyte:  1024*1024 bytes");
         row("ItemDetailsDialog", "%1 GiB", "GiB = gibibyte:  1024*1024*1024 bytes");
@@ -112,6 +113,7 @@ private Q_SLOTS:
         row("RVControlFrame", "Retrieving data from repository<br /> <i>%1</i>",
             "The argument is a repository URI.");
         row("RVControlFrame", "Authentication is required to access <br /><i>%1</i>");
+        row("RVControlFrame", "Authentication is required to use the proxy <br /><i>%1</i>");
         row("RVControlFrame", "User Name: ");
         row("RVControlFrame", "Password: ");
         row("RVControlFrame", "Could not retrieve data from repository<br /> <i>%1</i>");
