@@ -5,6 +5,7 @@
 #include "core/OSInfo.h"
 #include "core/RVLogger.h"
 #include "descriptor/DataXML.h"
+#include "network/RVKeyring.h"
 #include "network/XNetworkError.h"
 #include "repository/RVRepDesc.h"
 #include "repository/RVRepository.h"
@@ -21,26 +22,43 @@
 #include <QEventLoop>
 #include <QPointer>
 #include <QSslCertificate>
+#include <QSslConfiguration>
 #include <QVBoxLayout>
+
+#include <set>
 
 namespace
 {
 
 constexpr int logThreshold = 6;
 constexpr int errorDialogWidth = 600;
-// Stands for an answer that holds for one reply only.
-constexpr char noFingerprint[] = "BOGUS";
-
-QString fingerprintOf(const QList<QSslError> &errors)
+/// What a user's answer is about: the server's own certificate, and what is wrong with it. Empty
+/// when there is no certificate, so that the answer holds for one reply only.
+QString certificateQuestion(const QSslCertificate &certificate, const QList<QSslError> &errors)
 {
-    QString fingerprint = QLatin1String(noFingerprint);
-    for (const QSslError &error : errors) {
-        if (!error.certificate().isNull()) {
-            fingerprint =
-                QString::fromLatin1(error.certificate().digest(QCryptographicHash::Sha1).toHex());
-        }
+    if (certificate.isNull()) {
+        return {};
     }
-    return fingerprint;
+    std::set<int> codes;
+    for (const QSslError &error : errors) {
+        codes.insert(error.error());
+    }
+    QString question = QString::fromLatin1(certificate.digest(QCryptographicHash::Sha256).toHex());
+    for (const int code : codes) {
+        question += QLatin1Char(' ') + QString::number(code);
+    }
+    return question;
+}
+
+/// The server's own. The errors carry that of the authority as well, which stands for every server
+/// under it; they are asked only where the connection is not known.
+QSslCertificate serverCertificate(const QNetworkReply *reply, const QList<QSslError> &errors)
+{
+    QSslCertificate certificate = reply->sslConfiguration().peerCertificate();
+    for (auto error = errors.cbegin(); certificate.isNull() && error != errors.cend(); ++error) {
+        certificate = error->certificate();
+    }
+    return certificate;
 }
 
 bool isProxy(const QString &host, int port)
@@ -63,6 +81,7 @@ const char *const RVMainPage::PAGE_HELP = QT_TRANSLATE_NOOP(
 
 RVMainPage::RVMainPage(QMainWindow *, QWidget *parent, Qt::WindowFlags flags, const RVPaths &paths)
     : WizardPage(parent, flags)
+    , m_keyring(QSharedPointer<RVKeyring>::create())
 {
     RVLogger::setPaths(paths);
     m_logger = std::make_unique<RVLogger>();
@@ -218,41 +237,53 @@ void RVMainPage::proxyChanged(const QString &scheme, const QString &server, int 
 
 void RVMainPage::sslErrors(QNetworkReply *reply, const QList<QSslError> &errors)
 {
-    const QString fingerprint = fingerprintOf(errors);
-    if (isAccepted(fingerprint)) {
-        reply->ignoreSslErrors();
-        return;
-    }
+    const QSslCertificate certificate = serverCertificate(reply, errors);
+    const QString question = certificateQuestion(certificate, errors);
     // The question runs an event loop, in which page and reply may go away.
     const QPointer<RVMainPage> page(this);
-    const QPointer<QNetworkReply> guardedReply(reply);
-    bool accepted = false;
-    if (CertDialog *open = m_certificateDialogs.value(fingerprint)) {
-        // Downloads from one server run side by side: they wait for one answer.
+    const QPointer<QNetworkReply> waiting(reply);
+    const auto isAnswered = [this, &question] {
+        return m_acceptedCertificates.contains(question)
+            || m_rejectedCertificates.contains(question);
+    };
+    while (page && waiting && m_certificateDialog && !isAnswered()) {
+        // Downloads run side by side. One dialog at a time: this question may be the open one, or
+        // has its turn after it.
         QEventLoop loop;
-        connect(open, &QObject::destroyed, &loop, &QEventLoop::quit);
-        connect(open, &QDialog::finished, &loop, &QEventLoop::quit);
+        connect(m_certificateDialog, &QObject::destroyed, &loop, &QEventLoop::quit);
+        connect(m_certificateDialog, &QDialog::finished, &loop, &QEventLoop::quit);
         loop.exec();
-        accepted = !page.isNull() && isAccepted(fingerprint);
-    } else {
-        const QPointer<CertDialog> dialog(new CertDialog(reply->url(), errors, this));
-        if (fingerprint != QLatin1String(noFingerprint)) {
-            m_certificateDialogs.insert(fingerprint, dialog);
-            connect(dialog, &QDialog::finished, this, [this, fingerprint](int result) {
-                m_certificateDialogs.remove(fingerprint);
-                if (result == QDialog::Accepted) {
-                    m_acceptedCertificates.append(fingerprint);
-                }
-            });
-        }
-        accepted = dialog->exec() == QDialog::Accepted;
-        if (dialog) {
-            dialog->deleteLater();
-        }
     }
-    if (accepted && guardedReply) {
-        guardedReply->ignoreSslErrors();
+    if (!page || !waiting) {
+        return;
     }
+    bool accepted = m_acceptedCertificates.contains(question);
+    if (!isAnswered()) {
+        accepted = askAbout(certificate, question, reply->url(), errors);
+    }
+    if (accepted && waiting) {
+        waiting->ignoreSslErrors();
+    }
+}
+
+bool RVMainPage::askAbout(const QSslCertificate &certificate, const QString &question,
+                          const QUrl &url, const QList<QSslError> &errors)
+{
+    const QPointer<CertDialog> dialog(new CertDialog(url, errors, this, {}, certificate));
+    m_certificateDialog = dialog;
+    // At once, and not when exec() returns: another question may be open on top by then.
+    connect(dialog, &QDialog::finished, this, [this, question](int result) {
+        m_certificateDialog.clear();
+        if (!question.isEmpty()) {
+            (result == QDialog::Accepted ? m_acceptedCertificates : m_rejectedCertificates)
+                .insert(question);
+        }
+    });
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    if (dialog) {
+        dialog->deleteLater();
+    }
+    return accepted;
 }
 
 void RVMainPage::relayModified()
@@ -297,6 +328,15 @@ void RVMainPage::shareCredentials(const QString &userName, const QString &passwo
     }
 }
 
+void RVMainPage::askAgain(const QString &place)
+{
+    for (RVControlFrame *frame : qAsConst(m_frames)) {
+        if (frame != sender() && frame->isAskingFor(place)) {
+            frame->enterRetrievalState();
+        }
+    }
+}
+
 void RVMainPage::parseRepositoryDir(const RVPaths &paths)
 {
     static_assert(int(NoDefinitionDirectory) == int(RVDefinitions::NoDefinitionDirectory)
@@ -312,6 +352,7 @@ void RVMainPage::makeRepositories(const RVPaths &paths)
 {
     for (const auto &definition : m_definitions) {
         RVRepository *repository = RVRepository::fromDefinition(*definition, this, paths);
+        repository->setKeyring(m_keyring);
         connect(repository, &RVRepository::networkError, this, &RVMainPage::networkError);
         connect(repository, &RVRepository::sslErrors, this, &RVMainPage::sslErrors);
         m_repositories.append(repository);
@@ -339,6 +380,10 @@ void RVMainPage::makeSections(const RVPaths &paths)
         connect(frame, &RVControlFrame::networkError, this, &RVMainPage::networkError);
         connect(frame, &RVControlFrame::authenticationCredentials, this,
                 &RVMainPage::shareCredentials);
+        connect(frame, &RVControlFrame::loginKept, this, &RVMainPage::askAgain);
+        connect(frame, &RVControlFrame::transfersStarted, this, [this] {
+            m_rejectedCertificates.clear();
+        });
         connect(item, &AccordionItem::selected, this, &RVMainPage::setAccordionItemHelp);
         connect(frame, &RVControlFrame::installFinished, m_osInfo, &OSInfo::refresh);
         connect(frame, &RVControlFrame::installFinished, this, &RVMainPage::relayModified);
@@ -355,9 +400,4 @@ void RVMainPage::makeSections(const RVPaths &paths)
     }
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_accordion, 0, Qt::AlignVCenter);
-}
-
-bool RVMainPage::isAccepted(const QString &fingerprint) const
-{
-    return m_acceptedCertificates.contains(fingerprint);
 }

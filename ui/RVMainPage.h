@@ -8,13 +8,13 @@
 #include <plume/LocaleString.h>
 #include <plume/WizardPage.h>
 
-#include <QHash>
 #include <QList>
 #include <QMap>
 #include <QNetworkReply>
 #include <QPointer>
+#include <QSet>
+#include <QSharedPointer>
 #include <QSslError>
-#include <QStringList>
 #include <QUrl>
 
 #include <memory>
@@ -25,8 +25,10 @@ class AccordionItem;
 class CertDialog;
 class OSInfo;
 class QMainWindow;
+class QSslCertificate;
 class RVControlFrame;
 class RVErrorDialog;
+class RVKeyring;
 class RVLogger;
 class RVRepository;
 
@@ -89,7 +91,9 @@ private:
     void parseRepositoryDir(const RVPaths &paths);
     void makeRepositories(const RVPaths &paths);
     void makeSections(const RVPaths &paths);
-    bool isAccepted(const QString &fingerprint) const;
+    void askAgain(const QString &place);
+    bool askAbout(const QSslCertificate &certificate, const QString &question, const QUrl &url,
+                  const QList<QSslError> &errors);
 
     std::unique_ptr<RVLogger> m_logger;
     OSInfo *m_osInfo = nullptr;
@@ -104,10 +108,14 @@ private:
     /// By lower-case URL scheme.
     QMap<QString, QString> m_proxyHosts;
     QMap<QString, int> m_proxyPorts;
-    /// Hexadecimal SHA-1 fingerprints that the user accepted in this run.
-    QStringList m_acceptedCertificates;
-    /// Questions that are open now, by fingerprint.
-    QHash<QString, CertDialog *> m_certificateDialogs;
+    /// Logins for other servers and for proxies, of all sections.
+    QSharedPointer<RVKeyring> m_keyring;
+    /// What the user accepted in this run: a certificate with what is wrong with it.
+    QSet<QString> m_acceptedCertificates;
+    /// What the user rejected since transfers were last started.
+    QSet<QString> m_rejectedCertificates;
+    /// The one question that is open now.
+    QPointer<CertDialog> m_certificateDialog;
     QPointer<const QNetworkReply> m_reportedReply;
     mutable std::vector<std::unique_ptr<repositoryStatsType>> m_stats;
 };

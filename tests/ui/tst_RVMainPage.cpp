@@ -27,6 +27,7 @@
 #include <QSslCertificate>
 #include <QTest>
 #include <QTextDocument>
+#include <QTextEdit>
 #include <QTimer>
 #include <QTranslator>
 
@@ -90,7 +91,7 @@ QList<Dialog *> dialogs()
 }
 
 // Runs as soon as a certificate dialog is open, with that dialog.
-void whenAsked(const std::function<void(CertDialog *)> &act)
+QPointer<QTimer> whenAsked(const std::function<void(CertDialog *)> &act)
 {
     auto *timer = new QTimer;
     QObject::connect(timer, &QTimer::timeout, timer, [timer, act] {
@@ -102,6 +103,7 @@ void whenAsked(const std::function<void(CertDialog *)> &act)
         }
     });
     timer->start(1);
+    return timer;
 }
 
 struct Definition {
@@ -163,7 +165,10 @@ private Q_SLOTS:
     void survivesItsEndWhileAsking();
     void survivesTheReplysEndWhileAsking();
     void sharesCredentials();
-    void takesTheLastCertificateOfAll();
+    void asksAgainForOtherErrors_data();
+    void asksAgainForOtherErrors();
+    void showsOneDialogAtATime_data();
+    void showsOneDialogAtATime();
     void changesProxies_data();
     void changesProxies();
     void refreshesOnlyForAnotherProxy();
@@ -567,7 +572,11 @@ void TestRVMainPage::remembersAnAcceptedCertificate()
     });
     page->sslErrors(&reply, {selfSigned()});
     QCOMPARE(reply.ignored, 0);
-    // A rejection is not remembered.
+    // A rejection holds for what is under way,
+    page->sslErrors(&reply, {selfSigned()});
+    QCOMPARE(reply.ignored, 0);
+    // and for no new attempt.
+    frames(*page).first()->enterRetrievalState();
     whenAsked([](CertDialog *dialog) {
         dialog->accept();
     });
@@ -606,20 +615,117 @@ void TestRVMainPage::asksAgainWithoutFingerprint()
     }
 }
 
-void TestRVMainPage::takesTheLastCertificateOfAll()
+void TestRVMainPage::asksAgainForOtherErrors_data()
 {
+    QTest::addColumn<QList<int>>("errors");
+    QTest::addColumn<bool>("asks");
+    QTest::newRow("the same") << QList<int>{9, 22} << false;
+    QTest::newRow("in another order") << QList<int>{22, 9} << false;
+    QTest::newRow("one of them twice") << QList<int>{9, 22, 9} << false;
+    QTest::newRow("one more") << QList<int>{9, 22, 6} << true;
+    QTest::newRow("one less") << QList<int>{9} << true;
+    QTest::newRow("another one") << QList<int>{9, 6} << true;
+}
+
+void TestRVMainPage::asksAgainForOtherErrors()
+{
+    QFETCH(QList<int>, errors);
+    QFETCH(bool, asks);
     define({local(QStringLiteral("Packages"))});
     const auto page = this->page();
-    FakeReply reply;
+    const auto ask = [&page](const QList<int> &codes) {
+        QList<QSslError> list;
+        for (const int code : codes) {
+            list.append(QSslError(static_cast<QSslError::SslError>(code), certificate()));
+        }
+        bool asked = false;
+        FakeReply reply;
+        const auto timer = whenAsked([&asked](CertDialog *dialog) {
+            asked = true;
+            dialog->accept();
+        });
+        page->sslErrors(&reply, list);
+        delete timer;
+        return asked && reply.ignored == 1;
+    };
+    FakeReply first;
     whenAsked([](CertDialog *dialog) {
         dialog->accept();
     });
-    page->sslErrors(&reply,
-                    {QSslError(QSslError::HostNameMismatch), selfSigned(),
-                     QSslError(QSslError::UnspecifiedError)});
-    QCOMPARE(reply.ignored, 1);
-    page->sslErrors(&reply, {selfSigned()});
-    QCOMPARE(reply.ignored, 2);
+    page->sslErrors(&first, {selfSigned(), QSslError(QSslError::HostNameMismatch, certificate())});
+    QCOMPARE(first.ignored, 1);
+    QCOMPARE(ask(errors), asks);
+    // What has been accepted is not asked again.
+    QVERIFY(!ask(errors));
+}
+
+// Each asks about something else, while the first dialog is open.
+void TestRVMainPage::showsOneDialogAtATime_data()
+{
+    QTest::addColumn<QList<bool>>("answers");
+    QTest::newRow("all accepted") << QList<bool>{true, true, true};
+    QTest::newRow("all rejected") << QList<bool>{false, false, false};
+    QTest::newRow("the first one accepted") << QList<bool>{true, false, false};
+    QTest::newRow("the last one accepted") << QList<bool>{false, false, true};
+}
+
+void TestRVMainPage::showsOneDialogAtATime()
+{
+    QFETCH(QList<bool>, answers);
+    define({local(QStringLiteral("Packages"))});
+    const auto page = this->page();
+    const QList<QSslError> questions[] = {{selfSigned()},
+                                          {QSslError(QSslError::CertificateExpired, certificate())},
+                                          {QSslError(QSslError::HostNameMismatch, certificate())}};
+    FakeReply replies[3];
+    FakeReply again[3];
+    QStringList seen;
+    int mostDialogs = 0;
+    QTimer user;
+    connect(&user, &QTimer::timeout, &user, [&] {
+        QList<CertDialog *> open;
+        for (CertDialog *dialog : dialogs<CertDialog>()) {
+            if (dialog->isVisible()) {
+                open.append(dialog);
+            }
+        }
+        mostDialogs = qMax(mostDialogs, open.size());
+        if (open.isEmpty()) {
+            return;
+        }
+        const QString text = open.first()->findChild<QTextEdit *>()->toPlainText();
+        seen.append(text.section(QLatin1Char('\n'), 0, 0));
+        const char *const starts[] = {"The certificate is self", "The certificate has",
+                                      "The host name"};
+        for (int i = 0; i < 3; ++i) {
+            if (seen.last().startsWith(QLatin1String(starts[i]))) {
+                open.first()->done(answers.at(i) ? QDialog::Accepted : QDialog::Rejected);
+            }
+        }
+    });
+    QTimer::singleShot(0, &user, [&] {
+        // All of them wait by now, each inside the one before.
+        QTimer::singleShot(0, &user, [&] {
+            QTimer::singleShot(0, &user, [&] {
+                QTimer::singleShot(0, &user, [&] {
+                    user.start(1);
+                    page->sslErrors(&again[2], questions[2]);
+                });
+                page->sslErrors(&again[0], questions[0]);
+            });
+            page->sslErrors(&replies[2], questions[2]);
+        });
+        page->sslErrors(&replies[1], questions[1]);
+    });
+    page->sslErrors(&replies[0], questions[0]);
+    QCOMPARE(mostDialogs, 1);
+    QCOMPARE(seen.size(), 3);
+    QCOMPARE(QSet<QString>(seen.cbegin(), seen.cend()).size(), 3);
+    for (int i = 0; i < 3; ++i) {
+        QCOMPARE(replies[i].ignored, answers.at(i) ? 1 : 0);
+    }
+    QCOMPARE(again[0].ignored, answers.at(0) ? 1 : 0);
+    QCOMPARE(again[2].ignored, answers.at(2) ? 1 : 0);
 }
 
 void TestRVMainPage::asksOnceForDownloadsSideBySide()
