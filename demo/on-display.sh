@@ -48,7 +48,7 @@ await()
   return 1
 }
 
-Xvfb -displayfd 3 -screen 0 1280x1000x24 -nolisten tcp 3>"$home/display" 2>"$home/xvfb.log" &
+Xvfb -displayfd 3 -screen 0 2560x2000x24 -nolisten tcp 3>"$home/display" 2>"$home/xvfb.log" &
 pids=("$!")
 await "$home/display" 'virtual display' "$home/xvfb.log"
 DISPLAY=:$(cat "$home/display")

@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 //
-// ravel-walk ROOT SCREENSHOTS: goes through the main job in the demo world as a person would, with
-// mouse and keyboard, and looks at what is on the screen and in the package database. It knows the
-// library's widgets by their class and object names alone.
+// ravel-walk ROOT SCREENSHOTS [normal|large|dark|contrast]: goes through the main job in the demo
+// world as a person would, with mouse and keyboard, and looks at what is on the screen and in the
+// package database. It knows the library's widgets by their class and object names alone.
 #include "host/HostWindow.h"
+#include "tests/e2e/Legibility.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -157,6 +158,7 @@ private:
     QByteArray contents(const QString &path) const;
     QStringList installedPackages() const;
     void chooseLanguage(const QString &code);
+    void picture(const QString &name);
     void screenshot(const QString &name);
 
     QString m_root;
@@ -170,7 +172,7 @@ void Walk::step(const char *what, const std::function<void()> &body)
     try {
         body();
     } catch (const Failure &failure) {
-        screenshot(QStringLiteral("failure"));
+        picture(QStringLiteral("failure"));
         std::printf("FAIL %s: %s\n", what, qUtf8Printable(failure.reason));
         throw;
     }
@@ -251,7 +253,7 @@ bool Walk::run()
 }
 
 /// The window with whatever lies over it.
-void Walk::screenshot(const QString &name)
+void Walk::picture(const QString &name)
 {
     if (!m_window) {
         return;
@@ -267,6 +269,21 @@ void Walk::screenshot(const QString &name)
     QScreen *screen = m_window->screen();
     screen->grabWindow(0, area.x(), area.y(), area.width(), area.height())
         .save(QDir(m_screenshots).filePath(name + QLatin1String(".png")));
+}
+
+/// What is worth a picture has to be legible.
+void Walk::screenshot(const QString &name)
+{
+    picture(name);
+    QStringList unread;
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        if (widget->isVisible()) {
+            unread.append(illegible(widget));
+        }
+    }
+    unread.removeAll(QString());
+    require(unread.isEmpty(), unread.join(QLatin1Char('\n')));
 }
 
 QList<QWidget *> Walk::sections() const
@@ -744,10 +761,12 @@ int main(int argc, char *argv[])
 {
     HostWindow::nameApplication();
     QApplication application(argc, argv);
-    if (application.arguments().size() != 3) {
-        std::fprintf(stderr, "usage: ravel-walk ROOT SCREENSHOTS\n");
+    const QStringList arguments = application.arguments();
+    if (arguments.size() < 3 || arguments.size() > 4
+        || !setAppearance(arguments.value(3, QStringLiteral("normal")))) {
+        std::fprintf(stderr, "usage: ravel-walk ROOT SCREENSHOTS [normal|large|dark|contrast]\n");
         return 2;
     }
     QApplication::setQuitOnLastWindowClosed(false);
-    return Walk(application.arguments().at(1), application.arguments().at(2)).run() ? 0 : 1;
+    return Walk(arguments.at(1), arguments.at(2)).run() ? 0 : 1;
 }

@@ -1,0 +1,309 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "tests/support/FtpServers.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QNetworkProxy>
+#include <QTcpServer>
+#include <QTcpSocket>
+
+#include <csignal>
+#include <fcntl.h>
+#include <sys/prctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+
+constexpr int startTimeout = 20000;
+
+/// In a process group of its own, and ending with its parent.
+class ServerProcess : public QProcess
+{
+protected:
+    void setupChildProcess() override
+    {
+        ::setpgid(0, 0);
+        if (::prctl(PR_SET_PDEATHSIG, SIGTERM) != 0) {
+            ::_exit(126);
+        }
+    }
+};
+
+quint16 freePort()
+{
+    QTcpServer probe;
+    return probe.listen(QHostAddress::LocalHost) ? probe.serverPort() : quint16(0);
+}
+
+/// Not through QFile, which decodes and encodes names by the locale.
+bool writeRaw(const QByteArray &path, const QByteArray &content, mode_t mode)
+{
+    const int file = ::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, mode);
+    if (file < 0) {
+        return false;
+    }
+    const bool written = ::fchmod(file, mode) == 0
+        && ::write(file, content.constData(), static_cast<size_t>(content.size()))
+            == content.size();
+    ::close(file);
+    return written;
+}
+
+} // namespace
+
+FtpServer::FtpServer()
+    // Not below the test's own folder: nobody but its owner may be able to reach that one.
+    : m_dir(QStringLiteral("/tmp/ravel-ftp-XXXXXX"))
+{
+    const auto open = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup
+        | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+    for (const QString &folder :
+         {m_dir.path(), runFile({}), runFile(QStringLiteral("empty")), root()}) {
+        QDir().mkpath(folder);
+        QFile::setPermissions(folder, open);
+    }
+}
+
+FtpServer::~FtpServer()
+{
+    stop();
+}
+
+bool FtpServer::start()
+{
+    stop();
+    const bool keepsPort = m_port != 0;
+    // Somebody else may take the port between the search and the start.
+    for (int attempt = 0; attempt < (keepsPort ? 1 : 3); ++attempt) {
+        if (!keepsPort) {
+            m_port = freePort();
+        }
+        if (launch()) {
+            return true;
+        }
+        m_report = program().toUtf8() + " did not start\n" + readRunFile(QStringLiteral("output"))
+            + readRunFile(QStringLiteral("log"));
+        stop();
+    }
+    if (!keepsPort) {
+        m_port = 0;
+    }
+    return false;
+}
+
+bool FtpServer::launch()
+{
+    if (!configure()) {
+        return false;
+    }
+    m_process = std::make_unique<ServerProcess>();
+    m_process->setProcessChannelMode(QProcess::MergedChannels);
+    m_process->setStandardOutputFile(runFile(QStringLiteral("output")));
+    m_process->setStandardInputFile(QProcess::nullDevice());
+    m_process->setWorkingDirectory(runFile({}));
+    m_process->setProcessEnvironment(environment());
+    m_process->start(program(), arguments());
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < startTimeout && !m_process->waitForFinished(20)) {
+        if (isReady()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool FtpServer::isReady() const
+{
+    QTcpSocket socket;
+    socket.setProxy(QNetworkProxy::NoProxy);
+    socket.connectToHost(QHostAddress(QHostAddress::LocalHost), m_port);
+    const bool greeted = socket.waitForConnected(1000) && socket.waitForReadyRead(5000)
+        && socket.readAll().startsWith("220");
+    socket.abort();
+    return greeted;
+}
+
+void FtpServer::stop()
+{
+    if (!m_process) {
+        return;
+    }
+    const auto group = static_cast<pid_t>(m_process->processId());
+    if (group > 0) {
+        // The sessions are children of the server, in its group.
+        ::kill(-group, SIGKILL);
+        m_process->waitForFinished(5000);
+    }
+    m_process.reset();
+}
+
+const char *FtpServer::report()
+{
+    return m_report.constData();
+}
+
+bool FtpServer::write(const QByteArray &name, const QByteArray &content) const
+{
+    return writeRaw(QFile::encodeName(root()) + '/' + name, content, 0644);
+}
+
+bool FtpServer::makeDir(const QByteArray &name) const
+{
+    const QByteArray path = QFile::encodeName(root()) + '/' + name;
+    return ::mkdir(path.constData(), 0755) == 0 && ::chmod(path.constData(), 0755) == 0;
+}
+
+QUrl FtpServer::url(const QString &path) const
+{
+    return QUrl(QStringLiteral("ftp://127.0.0.1:%1").arg(m_port) + path);
+}
+
+QProcessEnvironment FtpServer::environment() const
+{
+    return QProcessEnvironment::systemEnvironment();
+}
+
+QString FtpServer::runFile(const QString &name) const
+{
+    return m_dir.filePath(QStringLiteral("run/")) + name;
+}
+
+bool FtpServer::writeRunFile(const QString &name, const QByteArray &content) const
+{
+    return writeRaw(QFile::encodeName(runFile(name)), content, 0644);
+}
+
+QByteArray FtpServer::readRunFile(const QString &name) const
+{
+    QFile file(runFile(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool VsftpdServer::canChroot()
+{
+    return ::geteuid() == 0;
+}
+
+QStringList VsftpdServer::arguments() const
+{
+    return {runFile(QStringLiteral("vsftpd.conf"))};
+}
+
+bool VsftpdServer::configure()
+{
+    QByteArray configuration =
+        "listen=YES\nlisten_address=127.0.0.1\nlisten_port=" + QByteArray::number(m_port)
+        + "\nbackground=NO\nconnect_from_port_20=NO\nxferlog_enable=NO\n"
+          // Its filter of system calls is older than the C library.
+          "seccomp_sandbox=NO\n"
+          "anonymous_enable=YES\nanon_world_readable_only=NO\n"
+          // It enters this user's home before it goes to the root, so there has to be one.
+          "ftp_username=daemon\n"
+          "secure_chroot_dir="
+        + runFile(QStringLiteral("empty")).toUtf8() + "\nvsftpd_log_file="
+        + runFile(QStringLiteral("log")).toUtf8() + "\nanon_root=" + root().toUtf8() + '\n';
+    if (m_jail == NotChrooted) {
+        configuration += "run_as_launching_user=YES\n";
+    }
+    if (!m_password.isEmpty()) {
+        configuration += "secure_email_list_enable=YES\nemail_password_file="
+            + runFile(QStringLiteral("passwords")).toUtf8() + '\n';
+    }
+    return writeRunFile(QStringLiteral("passwords"), m_password.toUtf8() + '\n')
+        && writeRunFile(QStringLiteral("vsftpd.conf"), configuration);
+}
+
+ScriptedFtpServer::ScriptedFtpServer() = default;
+
+void ScriptedFtpServer::addUser(const QString &user, const QString &password)
+{
+    QJsonObject users = m_script.value(QLatin1String("users")).toObject();
+    users.insert(user, password);
+    m_script[QStringLiteral("users")] = users;
+}
+
+void ScriptedFtpServer::setListing(const QByteArray &listing)
+{
+    m_script[QStringLiteral("listing")] = QString::fromLatin1(listing);
+}
+
+void ScriptedFtpServer::refuse(const QString &step, const QString &answer)
+{
+    QJsonObject refused = m_script.value(QLatin1String("refuse")).toObject();
+    refused.insert(step, answer);
+    m_script[QStringLiteral("refuse")] = refused;
+}
+
+void ScriptedFtpServer::addTo(const QString &list, const QString &step)
+{
+    QJsonArray steps = m_script.value(list).toArray();
+    steps.append(step);
+    m_script[list] = steps;
+}
+
+QList<QByteArray> ScriptedFtpServer::commands() const
+{
+    QList<QByteArray> lines = readRunFile(QStringLiteral("commands")).split('\n');
+    lines.removeAll(QByteArray());
+    return lines;
+}
+
+int ScriptedFtpServer::count(const QByteArray &command) const
+{
+    return static_cast<int>(commands().count(command));
+}
+
+QStringList ScriptedFtpServer::arguments() const
+{
+    return {QStringLiteral(RAVEL_TEST_SUPPORT "/ftp_server.py"),
+            runFile(QStringLiteral("script.json"))};
+}
+
+bool ScriptedFtpServer::configure()
+{
+    m_script[QStringLiteral("port")] = m_port;
+    m_script[QStringLiteral("root")] = root();
+    m_script[QStringLiteral("log")] = runFile(QStringLiteral("commands"));
+    m_script[QStringLiteral("ready")] = runFile(QStringLiteral("ready"));
+    QFile::remove(runFile(QStringLiteral("commands")));
+    QFile::remove(runFile(QStringLiteral("ready")));
+    return writeRunFile(QStringLiteral("script.json"), QJsonDocument(m_script).toJson());
+}
+
+QProcessEnvironment ScriptedFtpServer::environment() const
+{
+    QProcessEnvironment result = FtpServer::environment();
+    // Names on disk may be no UTF-8 and are passed on as they are.
+    result.insert(QStringLiteral("PYTHONUTF8"), QStringLiteral("1"));
+    return result;
+}
+
+// Its greeting may be a part of the script.
+bool ScriptedFtpServer::isReady() const
+{
+    return QFile::exists(runFile(QStringLiteral("ready")));
+}
+
+QStringList FtpProxyServer::arguments() const
+{
+    return {QStringLiteral("-d"), QStringLiteral("-n"), QStringLiteral("-f"),
+            runFile(QStringLiteral("ftp-proxy.conf"))};
+}
+
+bool FtpProxyServer::configure()
+{
+    return writeRunFile(QStringLiteral("ftp-proxy.conf"),
+                        "[-Global-]\nServerType standalone\nListen 127.0.0.1\nPort "
+                            + QByteArray::number(m_port)
+                            + "\nDestinationAddress 127.0.0.1\nAllowMagicUser yes\n"
+                              "ForkLimit 10000\nPidFile "
+                            + runFile(QStringLiteral("pid")).toUtf8() + "\nLogDestination "
+                            + runFile(QStringLiteral("log")).toUtf8() + '\n');
+}

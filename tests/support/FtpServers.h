@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QUrl>
+
+#include <memory>
+
+/// An FTP server on a free loopback port that a test starts; it and its children go with this
+/// object, or with the test program if that is killed.
+///
+///     VsftpdServer server;
+///     server.write("a.deb", "…");
+///     QVERIFY2(server.start(), server.report());
+class FtpServer
+{
+public:
+    virtual ~FtpServer();
+
+    /// Starts it and waits until it answers. False after 20 s, or when it ended.
+    bool start();
+    void stop();
+    /// Why it did not start, with its own messages; valid until the next call.
+    const char *report();
+
+    /// The published directory; it exists from the start on. Below /tmp, readable for everybody.
+    QString root() const { return m_dir.filePath(QStringLiteral("srv")); }
+    /// Writes a file below root(), readable for everybody; the name is taken byte by byte.
+    bool write(const QByteArray &name, const QByteArray &content) const;
+    bool makeDir(const QByteArray &name) const;
+
+    quint16 port() const { return m_port; }
+    /// `path` begins with a slash and is taken as it is: encode it yourself.
+    QUrl url(const QString &path = QStringLiteral("/")) const;
+
+protected:
+    FtpServer();
+
+    virtual QString program() const = 0;
+    virtual QStringList arguments() const = 0;
+    /// Writes the configuration into `runFile()` names; the port is known.
+    virtual bool configure() = 0;
+    virtual QProcessEnvironment environment() const;
+    virtual bool isReady() const;
+
+    QString runFile(const QString &name) const;
+    bool writeRunFile(const QString &name, const QByteArray &content) const;
+    QByteArray readRunFile(const QString &name) const;
+
+    quint16 m_port = 0;
+
+private:
+    Q_DISABLE_COPY_MOVE(FtpServer)
+
+    bool launch();
+
+    QTemporaryDir m_dir;
+    std::unique_ptr<QProcess> m_process;
+    QByteArray m_report;
+};
+
+/// vsftpd. Its logins are anonymous ones.
+class VsftpdServer : public FtpServer
+{
+public:
+    enum Jail {
+        /// "/" is the root of the file system, the login directory is root(). For any user.
+        NotChrooted,
+        /// "/" is root(). Only root can start it: ask canChroot().
+        Chrooted,
+    };
+
+    explicit VsftpdServer(Jail jail = NotChrooted)
+        : m_jail(jail)
+    {
+    }
+
+    static bool canChroot();
+
+    /// Only this password is good for "anonymous"; any other user is refused anyway.
+    void requirePassword(const QString &password) { m_password = password; }
+    /// The URL path of root(), without a slash at its end.
+    QString rootPath() const { return m_jail == Chrooted ? QString() : root(); }
+
+protected:
+    QString program() const override { return QStringLiteral("/usr/sbin/vsftpd"); }
+    QStringList arguments() const override;
+    bool configure() override;
+
+private:
+    Jail m_jail;
+    QString m_password;
+};
+
+/// A server that does as it is told (pyftpdlib), for any user. A step is an FTP command in capitals
+/// or CONNECT; PASV and EPSV make the data connection, DATA is the transfer on it.
+class ScriptedFtpServer : public FtpServer
+{
+public:
+    ScriptedFtpServer();
+
+    void addUser(const QString &user, const QString &password);
+    void refuseAnonymous() { m_script[QStringLiteral("anonymous")] = false; }
+    /// The login directory, an absolute path below root().
+    void setLoginDirectory(const QString &path) { m_script[QStringLiteral("login")] = path; }
+    /// "/" is the root of the file system, as in VsftpdServer::NotChrooted.
+    void setNotChrooted() { m_script[QStringLiteral("chroot")] = false; }
+    /// Lists as servers on DOS do.
+    void setDosListing() { m_script[QStringLiteral("dos")] = true; }
+    /// Lists these bytes, whatever the directory holds.
+    void setListing(const QByteArray &listing);
+    /// Answers the step with this line, such as "550 No.", and does nothing.
+    void refuse(const QString &step, const QString &answer);
+    /// Never answers the step.
+    void stall(const QString &step) { addTo(QStringLiteral("stall"), step); }
+    /// Closes the control connection instead of answering.
+    void drop(const QString &step) { addTo(QStringLiteral("drop"), step); }
+    /// Sends no more than this of a file, and then says that it was the whole.
+    void cutFilesAt(int bytes) { m_script[QStringLiteral("cut")] = bytes; }
+
+    /// The commands so far, as they came, in their order: "PASS secret". "CONNECT" for each
+    /// connection.
+    QList<QByteArray> commands() const;
+    int count(const QByteArray &command) const;
+
+protected:
+    QString program() const override { return QStringLiteral("/usr/bin/python3"); }
+    QStringList arguments() const override;
+    bool configure() override;
+    QProcessEnvironment environment() const override;
+    bool isReady() const override;
+
+private:
+    void addTo(const QString &list, const QString &step);
+
+    QJsonObject m_script;
+};
+
+/// An FTP proxy (ftp-proxy): USER user@host[:port]. For any user.
+class FtpProxyServer : public FtpServer
+{
+protected:
+    QString program() const override { return QStringLiteral("/usr/sbin/ftp-proxy"); }
+    QStringList arguments() const override;
+    bool configure() override;
+};
