@@ -9,19 +9,7 @@
 #include <QDir>
 #include <QFileInfo>
 
-namespace
-{
-
-void explain(QString *reason, const QString &text)
-{
-    if (reason) {
-        *reason = text;
-    }
-}
-
-} // namespace
-
-RVDefinitions::Error RVDefinitions::readDirectory(const RVPaths &paths, List *list, QString *reason)
+RVDefinitions::Error RVDefinitions::readDirectory(const RVPaths &paths, List *list)
 {
     const QDir directory(paths.definitionDir);
     if (!directory.exists()) {
@@ -39,7 +27,7 @@ RVDefinitions::Error RVDefinitions::readDirectory(const RVPaths &paths, List *li
         directory.entryList({QStringLiteral("*.xml")}, QDir::Files | QDir::Readable,
                             QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
     for (const QString &file : files) {
-        const Error error = readFile(paths.definitionDir + QLatin1Char('/') + file, list, reason);
+        const Error error = readFile(paths.definitionDir + QLatin1Char('/') + file, list);
         if (error != NoError) {
             return error;
         }
@@ -51,7 +39,7 @@ RVDefinitions::Error RVDefinitions::readDirectory(const RVPaths &paths, List *li
     return NoError;
 }
 
-RVDefinitions::Error RVDefinitions::readFile(const QString &path, List *list, QString *reason)
+RVDefinitions::Error RVDefinitions::readFile(const QString &path, List *list)
 {
     const QFileInfo info(path);
     QFile file(path);
@@ -68,14 +56,11 @@ RVDefinitions::Error RVDefinitions::readFile(const QString &path, List *list, QS
     if (!document.load(&file, &message, &line, &column)) {
         log.log(3, "BAD XML CONTENT!");
         log.log(3, "  %s, line %d, col %d", qUtf8Printable(message), line, column);
-        explain(reason,
-                QStringLiteral("%1:%2:%3: %4").arg(path).arg(line).arg(column).arg(message));
         return BadDefinitionFile;
     }
     const QDomElement root = document.documentElement();
     if (root.tagName() != QLatin1String("repository_list")) {
         log.log(3, "TOP ELEMENT NOT repository_list!");
-        explain(reason, QStringLiteral("%1: the top element is not repository_list").arg(path));
         return BadDefinitionFile;
     }
     const QString tag = QStringLiteral("repository");

@@ -26,8 +26,8 @@ const QStringList &RVProxySettings::typeNames()
 
 RVProxySettings RVProxySettings::read()
 {
-    QSettings settings{QLatin1String(RVSettings::organisation),
-                       QLatin1String(RVSettings::application)};
+    QSettings settings(QLatin1String(RVSettings::organisation),
+                       QLatin1String(RVSettings::application));
     settings.beginGroup(group);
     RVProxySettings result;
     result.style = settings.value(styleKey, None).toInt();
@@ -44,8 +44,8 @@ RVProxySettings RVProxySettings::read()
 
 bool RVProxySettings::write() const
 {
-    QSettings settings{QLatin1String(RVSettings::organisation),
-                       QLatin1String(RVSettings::application)};
+    QSettings settings(QLatin1String(RVSettings::organisation),
+                       QLatin1String(RVSettings::application));
     RVSettings::makePrivate(settings.fileName());
     settings.beginGroup(group);
     settings.setValue(styleKey, style);

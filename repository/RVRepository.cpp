@@ -130,17 +130,20 @@ void RVRepository::cancel()
 void RVRepository::dropRefresh()
 {
     ++m_generation;
-    if (m_reply) {
-        m_reply->disconnect(this);
-        disconnect(m_reply);
-        m_reply->abort();
-        m_reply->deleteLater();
-        m_reply.clear();
-    }
+    // The manager first: it delivers an aborted listing inside abort().
     if (m_manager) {
         m_manager->disconnect(this);
         m_manager->deleteLater();
         m_manager.clear();
+    }
+    if (const QPointer<XNetworkReply> reply = m_reply) {
+        m_reply.clear();
+        reply->disconnect(this);
+        disconnect(reply);
+        reply->abort();
+        if (reply) {
+            reply->deleteLater();
+        }
     }
     if (m_descFetch) {
         m_descFetch->disconnect(this);
