@@ -112,19 +112,13 @@ bool ArchiveDeb::extract(QIODevice *source) const
 void ArchiveDeb::install(QProcess *proc)
 {
     Q_EMIT installStarted();
-    const InstallCommand command = installCommand();
-    if (writeInstallScript(command.script)) {
-        proc->start(command.program, command.arguments);
+    if (writeInstallScript(installScript)) {
+        proc->start(m_paths.shell, {QStringLiteral("./RVinstall.sh")});
         return;
     }
     failInstallation(
         proc, QStringLiteral("Could not write ./RVinstall.sh: %1").arg(qt_error_string(errno)),
         m_paths);
-}
-
-InstallCommand ArchiveDeb::installCommand() const
-{
-    return {m_paths.shell, {QStringLiteral("./RVinstall.sh")}, installScript};
 }
 
 void ArchiveDeb::setProxy(const QString &host, int port)

@@ -64,11 +64,6 @@ void ArchiveGeneric::setProxy(const QString &host, int port)
     }
 }
 
-InstallCommand ArchiveGeneric::installCommand() const
-{
-    return m_backend ? m_backend->installCommand() : InstallCommand();
-}
-
 void ArchiveGeneric::setImageQuestion(ImageQuestion *question)
 {
     if (auto *image = qobject_cast<ArchiveDDImage *>(m_backend.data())) {

@@ -24,8 +24,6 @@ public:
     QString versionInstalled(const QString &packageName) const override;
     QString architecture() const override;
     QString thinClient() const override;
-    /// How many packages are installed; -1 when the package database cannot be read.
-    int installedPackageCount() const;
 
 public Q_SLOTS:
     void refresh() override;

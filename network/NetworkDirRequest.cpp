@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "network/NetworkDirRequest.h"
 
+#include "network/NetworkDirRequestHttp.h"
 #include "network/NetworkDirRequestLocal.h"
 
 namespace
@@ -13,6 +14,9 @@ std::unique_ptr<NetworkDirRequestBase> makeBackend(const QUrl &url)
     const QString scheme = url.scheme();
     if (scheme.isEmpty() || scheme == QLatin1String("file")) {
         return std::make_unique<NetworkDirRequestLocal>(url);
+    }
+    if (scheme == QLatin1String("http") || scheme == QLatin1String("https")) {
+        return std::make_unique<NetworkDirRequestHttp>(url);
     }
     return nullptr;
 }

@@ -27,6 +27,9 @@ void tst_NetworkDirRequest::choosesTheBackendByScheme_data()
     QTest::newRow("nothing at all") << QString() << true;
     // QUrl itself lowers a scheme, so the comparison never meets a capital.
     QTest::newRow("capitals") << QStringLiteral("FILE:///tmp") << true;
+    QTest::newRow("http") << QStringLiteral("http://host/") << true;
+    QTest::newRow("https") << QStringLiteral("https://host/") << true;
+    QTest::newRow("http in capitals") << QStringLiteral("HTTP://host/") << true;
     QTest::newRow("gopher") << QStringLiteral("gopher://host/") << false;
     QTest::newRow("qrc") << QStringLiteral("qrc:///images") << false;
     QTest::newRow("data") << QStringLiteral("data:,x") << false;

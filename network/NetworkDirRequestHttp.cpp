@@ -1,0 +1,475 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "network/NetworkDirRequestHttp.h"
+
+#include "core/RVLogger.h"
+#include "network/HtmlCheck.h"
+#include "network/XNetworkAccessManager.h"
+#include "network/XNetworkReply.h"
+
+#include <QNetworkProxyFactory>
+#include <QSet>
+
+#include <csetjmp>
+#include <cstdlib>
+#include <ctime>
+#include <gumbo.h>
+#include <malloc.h>
+#include <vector>
+
+namespace
+{
+
+/// A page as a tree, on a budget: the parser has no bound of its own on memory or time, so the
+/// memory that it asks for comes from here, and when there is no more of it, or no more time, it
+/// never gets its answer. What it has by then goes with this object.
+class PageTree
+{
+public:
+    /// The page must outlive the tree.
+    explicit PageTree(const QByteArray &page)
+    {
+        m_options.allocator = allocate;
+        m_options.deallocator = release;
+        m_options.userdata = this;
+        // Each error keeps a copy of all open elements.
+        m_options.max_errors = 0;
+        // Several times what an ordinary page takes.
+        m_endOfTime = cpuTime() + 2 + static_cast<double>(page.size()) / (4 * 1024 * 1024);
+        parse(page);
+    }
+
+    ~PageTree()
+    {
+        // The parser's own way to free a tree is recursive.
+        for (Block *block = m_blocks.next; block != &m_blocks;) {
+            Block *next = block->next;
+            std::free(block);
+            block = next;
+        }
+    }
+
+    /// Null when the budget was exceeded.
+    const GumboNode *document() const { return m_output ? m_output->document : nullptr; }
+
+private:
+    Q_DISABLE_COPY_MOVE(PageTree)
+
+    /// In front of each piece of memory, and the list of them all.
+    struct alignas(std::max_align_t) Block {
+        Block *previous;
+        Block *next;
+    };
+
+    static constexpr size_t maximumMemory = size_t(384) * 1024 * 1024;
+
+    /// Seconds that this thread has worked: those of a busy machine do not count.
+    static double cpuTime()
+    {
+        timespec now = {};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+        return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
+    }
+
+    /// Nothing here or in the parser has a destructor to be jumped over.
+    void parse(const QByteArray &page)
+    {
+        if (setjmp(m_giveUp) == 0) {
+            m_output = gumbo_parse_with_options(&m_options, page.constData(),
+                                                static_cast<size_t>(page.size()));
+        }
+    }
+
+    static size_t memoryOf(Block *block) { return malloc_usable_size(block) + sizeof(size_t); }
+
+    static void *allocate(void *tree, size_t size)
+    {
+        auto *self = static_cast<PageTree *>(tree);
+        const bool isLate = ++self->m_allocations % 256 == 0 && cpuTime() > self->m_endOfTime;
+        const bool fits = self->m_memory < maximumMemory && size < maximumMemory - self->m_memory;
+        auto *block =
+            fits && !isLate ? static_cast<Block *>(std::malloc(sizeof(Block) + size)) : nullptr;
+        if (!block) {
+            std::longjmp(self->m_giveUp, 1);
+        }
+        self->m_memory += memoryOf(block);
+        block->previous = &self->m_blocks;
+        block->next = self->m_blocks.next;
+        block->next->previous = block;
+        self->m_blocks.next = block;
+        return block + 1;
+    }
+
+    static void release(void *tree, void *memory)
+    {
+        if (!memory) {
+            return;
+        }
+        auto *self = static_cast<PageTree *>(tree);
+        Block *block = static_cast<Block *>(memory) - 1;
+        block->previous->next = block->next;
+        block->next->previous = block->previous;
+        self->m_memory -= memoryOf(block);
+        std::free(block);
+    }
+
+    GumboOptions m_options = kGumboDefaultOptions;
+    GumboOutput *m_output = nullptr;
+    Block m_blocks = {&m_blocks, &m_blocks};
+    size_t m_memory = 0;
+    size_t m_allocations = 0;
+    double m_endOfTime = 0;
+    jmp_buf m_giveUp = {};
+};
+
+/// The length of the UTF-8 sequence at `at`, 0 when there is none (RFC 3629).
+int utf8Length(const uchar *at, const uchar *end)
+{
+    const uchar first = *at;
+    if (first < 0x80) {
+        return 1;
+    }
+    const int length = first < 0xc2 ? 0
+        : first < 0xe0              ? 2
+        : first < 0xf0              ? 3
+        : first < 0xf5              ? 4
+                                    : 0;
+    if (length == 0 || end - at < length) {
+        return 0;
+    }
+    const uchar low = first == 0xe0 ? 0xa0 : first == 0xf0 ? 0x90 : 0x80;
+    const uchar high = first == 0xed ? 0x9f : first == 0xf4 ? 0x8f : 0xbf;
+    if (at[1] < low || at[1] > high) {
+        return 0;
+    }
+    for (int i = 2; i < length; ++i) {
+        if ((at[i] & 0xc0) != 0x80) {
+            return 0;
+        }
+    }
+    return length;
+}
+
+/// As the parser wants it, in UTF-8. A byte that is none becomes a percent escape: of the text only
+/// the links count, and there it is what names the file, whatever character the server means.
+QByteArray asUtf8(const QByteArray &page)
+{
+    const auto *at = reinterpret_cast<const uchar *>(page.constBegin());
+    const auto *end = reinterpret_cast<const uchar *>(page.constEnd());
+    const uchar *copied = at;
+    static const char digits[] = "0123456789ABCDEF";
+    QByteArray result;
+    const auto copy = [&] {
+        result.append(reinterpret_cast<const char *>(copied), static_cast<int>(at - copied));
+    };
+    while (at != end) {
+        const int length = utf8Length(at, end);
+        if (length == 0) {
+            copy();
+            result.append('%').append(digits[*at >> 4]).append(digits[*at & 15]);
+            copied = at + 1;
+        }
+        at += qMax(length, 1);
+    }
+    if (result.isEmpty()) {
+        return page;
+    }
+    copy();
+    return result;
+}
+
+/// The links of a tree in document order.
+QStringList hrefs(const GumboNode *document)
+{
+    struct Place {
+        const GumboVector *children;
+        unsigned int next;
+    };
+    QStringList result;
+    std::vector<Place> path{{&document->v.document.children, 0}};
+    while (!path.empty()) {
+        Place &place = path.back();
+        if (place.next == place.children->length) {
+            path.pop_back();
+            continue;
+        }
+        const auto *node = static_cast<const GumboNode *>(place.children->data[place.next++]);
+        // The contents of a template are not part of the document.
+        if (node->type != GUMBO_NODE_ELEMENT) {
+            continue;
+        }
+        const GumboElement &element = node->v.element;
+        for (unsigned int i = 0; element.tag == GUMBO_TAG_A && i < element.attributes.length; ++i) {
+            const auto *attribute = static_cast<const GumboAttribute *>(element.attributes.data[i]);
+            if (attribute->attr_namespace == GUMBO_ATTR_NAMESPACE_NONE
+                && qstrcmp(attribute->name, "href") == 0) {
+                result.append(QString::fromUtf8(attribute->value));
+            }
+        }
+        path.push_back({&element.children, 0});
+    }
+    return result;
+}
+
+/// As a browser does before it looks at a link.
+QString stripped(const QString &href)
+{
+    const auto isBlank = [](QChar c) {
+        return c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\n')
+            || c == QLatin1Char('\f') || c == QLatin1Char('\r');
+    };
+    int first = 0;
+    int end = href.size();
+    while (first < end && isBlank(href.at(first))) {
+        ++first;
+    }
+    while (end > first && isBlank(href.at(end - 1))) {
+        --end;
+    }
+    return href.mid(first, end - first);
+}
+
+QString withSlash(const QString &url)
+{
+    return url.endsWith(QLatin1Char('/')) ? url : url + QLatin1Char('/');
+}
+
+/// `base` is the page's URL with a slash at its end.
+QUrl target(const QUrl &page, const QString &base, const QString &href)
+{
+    const bool isRooted = href.startsWith(QLatin1Char('/'));
+    // A scheme has a colon, so most links need not be looked at for one.
+    if (!isRooted && !href.contains(QLatin1Char(':'))) {
+        return QUrl(base + href);
+    }
+    QUrl link(href);
+    if (!link.isRelative()) {
+        return link;
+    }
+    if (!isRooted) {
+        return QUrl(base + href);
+    }
+    const QString path = link.path(QUrl::FullyEncoded);
+    link = page;
+    link.setPath(path, QUrl::TolerantMode);
+    return link;
+}
+
+XUrlInfo makeEntry(const QString &name)
+{
+    static const QString placeholder = QStringLiteral("webuser");
+    XUrlInfo entry;
+    entry.setName(name);
+    entry.setPermissions(XUrlInfo::ReadOwner | XUrlInfo::ReadGroup | XUrlInfo::ReadOther);
+    entry.setOwner(placeholder);
+    entry.setGroup(placeholder);
+    entry.setDir(name.endsWith(QLatin1Char('/')));
+    entry.setFile(!entry.isDir());
+    entry.setWritable(false);
+    return entry;
+}
+
+} // namespace
+
+NetworkDirRequestHttp::NetworkDirRequestHttp(const QUrl &url)
+    : NetworkDirRequestBase(url)
+    , m_url(url)
+{
+}
+
+NetworkDirRequestHttp::~NetworkDirRequestHttp()
+{
+    const auto replies = m_replies;
+    m_replies.clear();
+    for (const QPointer<XNetworkReply> &out : replies) {
+        if (out) {
+            // The manager is going: nothing can be delivered through it any more.
+            out->disconnect(m_manager);
+            out->setError(QNetworkReply::OperationCanceledError,
+                          QNetworkReply::tr("Operation canceled"));
+            finish(out);
+        }
+    }
+}
+
+bool NetworkDirRequestHttp::directoryCapable() const
+{
+    return true;
+}
+
+void NetworkDirRequestHttp::setManager(XNetworkAccessManager *manager)
+{
+    m_manager = manager;
+    m_proxy = QNetworkProxy(QNetworkProxy::NoProxy);
+    if (!m_manager) {
+        return;
+    }
+    const QNetworkProxyQuery query(m_url);
+    QList<QNetworkProxy> proxies{m_manager->proxy()};
+    if (QNetworkProxyFactory *factory = m_manager->proxyFactory()) {
+        proxies = factory->queryProxy(query);
+    } else if (m_manager->proxy().type() == QNetworkProxy::DefaultProxy) {
+        proxies = QNetworkProxyFactory::proxyForQuery(query);
+    }
+    for (const QNetworkProxy &proxy : qAsConst(proxies)) {
+        if (proxy.type() != QNetworkProxy::FtpCachingProxy) {
+            m_proxy = proxy;
+            break;
+        }
+    }
+}
+
+XNetworkReply *NetworkDirRequestHttp::getDirectory()
+{
+    m_url = QUrl(withSlash(m_url.toString()));
+    auto *out = new XNetworkReply;
+    if (!m_manager) {
+        out->setDirectoryRequest(m_request);
+        out->setError(QNetworkReply::ProtocolInvalidOperationError,
+                      QObject::tr("Protocol does not support directory reads"));
+        out->finish();
+        return out;
+    }
+    connect(m_manager, &QNetworkAccessManager::finished, this, &NetworkDirRequestHttp::gotFinished,
+            Qt::UniqueConnection);
+    QNetworkReply *transfer = m_manager->get(QNetworkRequest(m_url));
+    *out = *transfer;
+    m_replies.insert(transfer, out);
+    connect(out, &QObject::destroyed, transfer, &QObject::deleteLater);
+    connect(out, &QObject::destroyed, this, [this, transfer] {
+        m_replies.remove(transfer);
+    });
+    connect(out, &XNetworkReply::abortOut, this, [this, transfer] {
+        cancel(transfer);
+    });
+    watchSize(transfer);
+    if (out->finished) {
+        // Too soon for anybody to have seen it.
+        out->finished = false;
+        QMetaObject::invokeMethod(
+            this,
+            [this, transfer] {
+                gotFinished(transfer);
+            },
+            Qt::QueuedConnection);
+    }
+    return out;
+}
+
+void NetworkDirRequestHttp::watchSize(QNetworkReply *transfer)
+{
+    connect(transfer, &QNetworkReply::metaDataChanged, this, [this, transfer] {
+        if (transfer->header(QNetworkRequest::ContentLengthHeader).toLongLong() > maximumPage) {
+            refusePage(transfer);
+        }
+    });
+    connect(transfer, &QNetworkReply::downloadProgress, this, [this, transfer](qint64 received) {
+        if (received > maximumPage) {
+            refusePage(transfer);
+        }
+    });
+}
+
+void NetworkDirRequestHttp::gotFinished(QNetworkReply *reply)
+{
+    // The manager reports every transfer that it carries.
+    if (!m_replies.contains(reply)) {
+        return;
+    }
+    if (reply->bytesAvailable() > maximumPage) {
+        refusePage(reply);
+        return;
+    }
+    const QPointer<XNetworkReply> out = m_replies.take(reply);
+    if (out) {
+        *out = *reply;
+        parseHtmlDirectory(reply, out);
+        reply->disconnect(this);
+        finish(out);
+    }
+}
+
+void NetworkDirRequestHttp::cancel(QNetworkReply *transfer)
+{
+    const QPointer<XNetworkReply> out = m_replies.take(transfer);
+    if (!out) {
+        return;
+    }
+    transfer->disconnect(this);
+    transfer->abort();
+    if (out) {
+        *out = *transfer;
+        if (out->error() == QNetworkReply::NoError) {
+            out->setError(QNetworkReply::OperationCanceledError,
+                          QNetworkReply::tr("Operation canceled"));
+        }
+        finish(out);
+    }
+}
+
+void NetworkDirRequestHttp::refusePage(QNetworkReply *transfer)
+{
+    const QPointer<XNetworkReply> out = m_replies.take(transfer);
+    if (!out) {
+        return;
+    }
+    RVLogger().log(3, "Directory listing of '%s' is larger than %d bytes",
+                   transfer->url().toString(QUrl::RemovePassword).toUtf8().constData(),
+                   static_cast<int>(maximumPage));
+    transfer->disconnect(this);
+    transfer->abort();
+    if (out) {
+        *out = *transfer;
+        out->setError(QNetworkReply::UnknownContentError,
+                      QObject::tr("Directory listing is too large"));
+        finish(out);
+    }
+}
+
+void NetworkDirRequestHttp::finish(XNetworkReply *out)
+{
+    out->setRequest(m_request);
+    out->setOperation(XNetworkReply::directoryOperation);
+    out->finish();
+}
+
+void NetworkDirRequestHttp::parseHtmlDirectory(QNetworkReply *reply, XNetworkReply *out)
+{
+    const QUrl page = reply->url();
+    const QString base = withSlash(page.toString());
+    out->entries.clear();
+    QByteArray body = reply->readAll();
+    const int zero = body.indexOf('\0');
+    if (zero >= 0) {
+        body.truncate(zero);
+    }
+    body = asUtf8(body);
+    QStringList links;
+    bool isRead = body.size() <= maximumPage && HtmlCheck().accepts(body);
+    if (isRead) {
+        const PageTree tree(body);
+        isRead = tree.document();
+        links = isRead ? hrefs(tree.document()) : QStringList();
+    }
+    if (!isRead) {
+        RVLogger().log(4, "Page '%s' is too costly to read, its links are not listed",
+                       page.toString(QUrl::RemovePassword).toUtf8().constData());
+        return;
+    }
+
+    QSet<QString> names;
+    names.reserve(links.size());
+    out->entries.reserve(links.size());
+    for (const QString &link : qAsConst(links)) {
+        const QString href = stripped(link);
+        if (href.isEmpty()) {
+            continue;
+        }
+        const QString name = target(page, base, href).toString();
+        const int known = names.size();
+        names.insert(name);
+        if (names.size() != known) {
+            out->entries.append(makeEntry(name));
+        }
+    }
+}
