@@ -4,8 +4,13 @@
 
 #include "network/XUrlInfo.h"
 
+#include <QHostAddress>
 #include <QObject>
 #include <QQueue>
+#include <QTcpSocket>
+#include <QTimer>
+
+#include <memory>
 
 /// An FTP client (RFC 959, 1123 §4.1, 2428, 3659) of the shape of Qt 4's QFtp. Its user owns it and
 /// may delete it at any time, also in a slot that it called.
@@ -102,7 +107,30 @@ Q_SIGNALS:
     void commandFinished(int id, bool error);
     void done(bool error);
 
+private Q_SLOTS:
+    void startNext();
+    void serveControl();
+    void serveData();
+    void giveUp();
+
 private:
+    /// What is waited for.
+    enum Step {
+        Idle,
+        Opening,
+        Greeting,
+        User,
+        Password,
+        Directory,
+        Type,
+        Size,
+        ExtendedPassive,
+        Passive,
+        DataOpening,
+        Transfer,
+        Quit,
+        Settling, // replies that still belong to an ended command
+    };
     struct Job {
         int id = 0;
         Command command = None;
@@ -113,12 +141,69 @@ private:
 
     int enqueue(Command command, const QByteArray &text = {}, quint16 port = 0,
                 const QByteArray &secret = {});
+    void run();
+    void open();
+    void send(const QByteArray &line, Step step);
+    void logIn();
+    void prepareTransfer();
+    void openData(int port);
+    void readList();
+    void readFile();
+    void checkTransfer();
+
+    bool hasOpened();
+    void takeLine(const QByteArray &line);
+    void takeReply(int code, const QByteArray &lastLine);
+    void takeLoginReply(int code);
+    void takeTransferReply(int code);
+    void loggedIn();
+    QString serverText() const;
+
+    bool setState(State state);
+    void setError(Error error, const QString &text);
+    void settle(int replies);
+    void drop();
+    void lose(Error error, const QString &text);
+    void fail(Error error, const QString &text);
+    void finish(bool hasFailed);
 
     QQueue<Job> m_queue;
     Job m_current;
     int m_lastId = 0;
+    Step m_step = Idle;
     State m_state = Unconnected;
     Error m_error = NoError;
     QString m_errorString;
+    bool m_isFinishing = false; // between a command and the next one
+    bool m_hasFailed = false;
+    QTimer m_grace;
+
+    // The connection; both sockets tell by queued signals, so that none is ever deleted in its own.
+    std::unique_ptr<QTcpSocket> m_control;
+    QByteArray m_proxyHost;
+    quint16 m_proxyPort = 0;
+    QByteArray m_realHost; // named at login, when connected to a proxy
+    QByteArray m_user;
+    QByteArray m_secret;
+    QHostAddress m_peer;
+    bool m_isEpsvRefused = false;
+
+    // The reply that is being read.
+    QByteArray m_line;
+    QString m_reply;
+    int m_replyLines = 0;
+    int m_replyBegan = 0;
     int m_replyCode = 0;
+    int m_outstanding = 0;
+
+    // The transfer that runs or ran last.
+    std::unique_ptr<QTcpSocket> m_data;
+    Command m_transfer = None;
+    bool m_isAnnounced = false;
+    bool m_isConfirmed = false;
+    qint64 m_size = -1;
+    qint64 m_received = 0;
+    qint64 m_taken = 0;
+    QByteArray m_listLine;
+    int m_listLines = 0;
 };
