@@ -6,12 +6,21 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 void RVSettings::makePrivate(const QString &fileName)
 {
     QDir().mkpath(QFileInfo(fileName).path());
-    QFile file(fileName);
-    if (!file.exists() && !file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        return;
+    const QByteArray path = QFile::encodeName(fileName);
+    // Made with its mode: a file that is closed to others only later may be open by then.
+    const int fd =
+        ::open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOCTTY, 0600);
+    if (fd >= 0) {
+        ::close(fd);
+    } else if (errno == EEXIST) {
+        QFile::setPermissions(fileName, QFile::ReadOwner | QFile::WriteOwner);
     }
-    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
 }
