@@ -24,10 +24,9 @@ const QStringList &RVProxySettings::typeNames()
     return names;
 }
 
-RVProxySettings RVProxySettings::read()
+RVProxySettings RVProxySettings::read(const QString &organisation, const QString &application)
 {
-    QSettings settings(QLatin1String(RVSettings::organisation),
-                       QLatin1String(RVSettings::application));
+    QSettings settings(organisation, application);
     settings.beginGroup(group);
     RVProxySettings result;
     result.style = settings.value(styleKey, None).toInt();
@@ -42,10 +41,9 @@ RVProxySettings RVProxySettings::read()
     return result;
 }
 
-bool RVProxySettings::write() const
+bool RVProxySettings::write(const QString &organisation, const QString &application) const
 {
-    QSettings settings(QLatin1String(RVSettings::organisation),
-                       QLatin1String(RVSettings::application));
+    QSettings settings(organisation, application);
     RVSettings::makePrivate(settings.fileName());
     settings.beginGroup(group);
     settings.setValue(styleKey, style);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "core/RVSettings.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -36,9 +38,12 @@ struct RVProxySettings {
     /// "HTTP", "HTTPS", "FTP": how the settings and the options page call the types.
     static const QStringList &typeNames();
 
-    static RVProxySettings read();
+    static RVProxySettings
+    read(const QString &organisation = QLatin1String(RVSettings::organisation),
+         const QString &application = QLatin1String(RVSettings::application));
     /// False when the settings could not be stored.
-    bool write() const;
+    bool write(const QString &organisation = QLatin1String(RVSettings::organisation),
+               const QString &application = QLatin1String(RVSettings::application)) const;
 
     /// What connections of that type use.
     Proxy effective(Type type) const;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "ui/RVSection.h"
 
+#include "ui/RVAdvPage.h"
 #include "ui/RVMainPage.h"
 
 #include <plume/PlumeMainWindow.h>
@@ -18,6 +19,13 @@ RVSection::RVSection(PlumeMainWindow *window, QObject *parent, const RVPaths &pa
     window->addTitlePage(m_titlePage);
     window->addNormalPage(mainPage);
     connect(mainPage, &RVMainPage::retranslateDone, this, &RVSection::retranslateUi);
+    auto *advPage = new RVAdvPage(window, window, {}, paths);
+    window->addNormalPage(advPage);
+    advPage->setRepositories(mainPage->repositoryStats());
+    connect(advPage, &RVAdvPage::repositoryURLChanged, mainPage, &RVMainPage::repositoryURIChanged);
+    connect(advPage, &RVAdvPage::proxyChanged, mainPage, &RVMainPage::proxyChanged);
+    // Sections on the network wait for the user, or for a proxy that is told here.
+    advPage->emitProxySignals();
 }
 
 RVSection::~RVSection() = default;

@@ -1097,7 +1097,7 @@ void TestRVMainPage::addsItsPagesToTheHost()
     define({local(QStringLiteral("One"))});
     PlumeMainWindow window;
     const RVSection section(&window, nullptr, m_paths);
-    QCOMPARE(window.pages().size(), 2);
+    QCOMPARE(window.pages().size(), 3);
     const auto *title = qobject_cast<TitlePage *>(window.pages().at(0));
     QVERIFY(title);
     QCOMPARE(title->title(), QStringLiteral("Ravel"));

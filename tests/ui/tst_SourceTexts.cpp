@@ -10,8 +10,14 @@
 #include "ui/BusyDialog.h"
 #include "ui/CertDialog.h"
 #include "ui/ItemDetailsDialog.h"
+#include "ui/RVAdvPage.h"
 #include "ui/RVControlFrame.h"
+#include "ui/RVProxies.h"
+#include "ui/RepURLFrame.h"
 
+#include <plume/AccordionItem.h>
+
+#include <QLineEdit>
 #include <QSet>
 #include <QTest>
 #include <QTranslator>
@@ -68,6 +74,19 @@ private Q_SLOTS:
                                 world.paths());
         const RVControlFrame frame(&repository, &system, SelectionTable::CheckBoxes, QString(),
                                    QString(), QIcon(), false, nullptr, world.paths());
+        RVAdvPage options(nullptr);
+        options.title();
+        options.description();
+        options.helpText();
+        RVMainPage::repositoryStatsType stats[2];
+        options.setRepositories({&stats[0], &stats[1]});
+        auto *locations = options.findChild<RepURLFrame *>();
+        options.setHelpURIs(qobject_cast<AccordionItem *>(locations->parentWidget()));
+        const auto fields = locations->findChildren<QLineEdit *>(QStringLiteral("location"));
+        fields.at(0)->setText(QStringLiteral("gopher://h/"));
+        fields.at(1)->setText(QStringLiteral("http://h:x/"));
+        locations->okButtonPressed();
+        options.findChild<RVProxies *>()->useSameToggled(true);
         QCoreApplication::removeTranslator(&m_recorder);
     }
 
@@ -104,6 +123,34 @@ private Q_SLOTS:
         row("ItemDetailsDialog", "%1 KiB", "KiB = kibibyte:  1024 bytes");
         row("ItemDetailsDialog", "%1 MiB", "MiB = mebibyte:  1024*1024 bytes");
         row("ItemDetailsDialog", "%1 GiB", "GiB = gibibyte:  1024*1024*1024 bytes");
+        row("RVAdvPage", "Options");
+        row("RVAdvPage", "Advanced Options for Ravel");
+        row("RVAdvPage",
+            "Advanced options for Ravel such as the ability to modify repository URIs or to "
+            "configure internet proxies.");
+        row("RVAdvPage", "Repository Locations");
+        row("RVAdvPage", "Repository Location URIs for Ravel");
+        row("RVAdvPage",
+            "This page lets you change the URIs for update content repositories to local or "
+            "customer-specific values.  The defaults are CV's standard repositories for Thin "
+            "Client update content.");
+        row("RVAdvPage", "Networking Proxies");
+        row("RVAdvPage", "Proxy servers for internet access");
+        row("RVProxies", "Network Proxies");
+        row("RVProxies", "Options for selecting networking proxies");
+        row("RVProxies", "No proxies");
+        row("RVProxies", "Manual Proxy Configuration:");
+        row("RVProxies", "Scheme");
+        row("RVProxies", "Type of connection, e.g. HTTP, FTP");
+        row("RVProxies", "Server");
+        row("RVProxies", "Port");
+        row("RVProxies", "Networking port number");
+        row("RVProxies", "Use same proxy for all");
+        row("RVProxies", "All", "All connection types (short word)");
+        row("RepURLFrame", "Repository URIs");
+        row("RepURLFrame", "Options to change update repository locations");
+        row("RepURLFrame", "'%1' is not a valid URI.");
+        row("RepURLFrame", "'%1' is not a supported URI scheme.");
         row("RVControlFrame", "<i>No updates of this type are available.</i>");
         row("RVControlFrame", "&Install");
         row("RVControlFrame", "&Details");
