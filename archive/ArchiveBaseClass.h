@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "archive/InstallScript.h"
+
 #include <QIODevice>
 #include <QObject>
 #include <QProcess>
@@ -33,6 +35,8 @@ public:
     virtual void install(QProcess *proc) = 0;
     /// A proxy for installers that fetch by themselves.
     virtual void setProxy(const QString &host, int port) = 0;
+    /// What install() would run now; no program where there is nothing to run.
+    virtual InstallCommand installCommand() const = 0;
 
 Q_SIGNALS:
     /// The installation has really begun. Every archive emits this one: a subclass that declared

@@ -107,7 +107,8 @@ void ArchiveDDImage::install(QProcess *proc)
 {
     RVLogger().log(5, "Preparing for image installation of '%s'",
                    qUtf8Printable(m_url.toString(QUrl::RemovePassword)));
-    if (hasControlCharacter(fileName())) {
+    const InstallCommand command = installCommand();
+    if (command.program.isEmpty()) {
         failInstallation(proc, QStringLiteral("The image's file name holds a control character"),
                          m_paths);
         return;
@@ -124,7 +125,7 @@ void ArchiveDDImage::install(QProcess *proc)
         return;
     }
     Q_EMIT installStarted();
-    if (!writeInstallScript(script())) {
+    if (!writeInstallScript(command.script)) {
         failInstallation(
             proc, QStringLiteral("Could not write ./RVinstall.sh: %1").arg(qt_error_string(errno)),
             m_paths);
@@ -133,7 +134,7 @@ void ArchiveDDImage::install(QProcess *proc)
     removeShellSettings(proc);
     // The configuration holds a password. The process inherits the mask, and start() forks at once.
     const mode_t mask = ::umask(077);
-    proc->start(QStringLiteral("bash"), {QStringLiteral("./RVinstall.sh")});
+    proc->start(command.program, command.arguments);
     ::umask(mask);
 }
 
@@ -141,6 +142,14 @@ void ArchiveDDImage::setProxy(const QString &host, int port)
 {
     m_proxyHost = host;
     m_proxyPort = port;
+}
+
+InstallCommand ArchiveDDImage::installCommand() const
+{
+    if (hasControlCharacter(fileName())) {
+        return {};
+    }
+    return {QStringLiteral("bash"), {QStringLiteral("./RVinstall.sh")}, script()};
 }
 
 QString ArchiveDDImage::fileName() const

@@ -27,6 +27,7 @@ public:
     void install(QProcess *proc) override;
     /// The proxy goes into the configuration; a port of 0 or less means no proxy.
     void setProxy(const QString &host, int port) override;
+    InstallCommand installCommand() const override;
     /// Not owned. Without one nobody can say yes, so every install() counts as aborted.
     void setImageQuestion(ImageQuestion *question) { m_question = question; }
 

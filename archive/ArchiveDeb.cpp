@@ -112,13 +112,19 @@ bool ArchiveDeb::extract(QIODevice *source) const
 void ArchiveDeb::install(QProcess *proc)
 {
     Q_EMIT installStarted();
-    if (writeInstallScript(installScript)) {
-        proc->start(m_paths.shell, {QStringLiteral("./RVinstall.sh")});
+    const InstallCommand command = installCommand();
+    if (writeInstallScript(command.script)) {
+        proc->start(command.program, command.arguments);
         return;
     }
     failInstallation(
         proc, QStringLiteral("Could not write ./RVinstall.sh: %1").arg(qt_error_string(errno)),
         m_paths);
+}
+
+InstallCommand ArchiveDeb::installCommand() const
+{
+    return {m_paths.shell, {QStringLiteral("./RVinstall.sh")}, installScript};
 }
 
 void ArchiveDeb::setProxy(const QString &host, int port)

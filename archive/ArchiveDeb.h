@@ -25,6 +25,7 @@ public:
     void install(QProcess *proc) override;
     /// Ignored: the package is downloaded by the program itself.
     void setProxy(const QString &host, int port) override;
+    InstallCommand installCommand() const override;
 
 private:
     const RVPaths m_paths;

@@ -64,6 +64,11 @@ void ArchiveGeneric::setProxy(const QString &host, int port)
     }
 }
 
+InstallCommand ArchiveGeneric::installCommand() const
+{
+    return m_backend ? m_backend->installCommand() : InstallCommand();
+}
+
 void ArchiveGeneric::setImageQuestion(ImageQuestion *question)
 {
     if (auto *image = qobject_cast<ArchiveDDImage *>(m_backend.data())) {

@@ -31,6 +31,7 @@ public:
     bool urlIsHandled() const override;
     bool useExtract() const override;
     void setProxy(const QString &host, int port) override;
+    InstallCommand installCommand() const override;
     /// Not owned; only a full image asks.
     void setImageQuestion(ImageQuestion *question);
 

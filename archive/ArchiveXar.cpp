@@ -319,7 +319,13 @@ void ArchiveXar::install(QProcess *proc)
     }
     RVLogger().log(5, "Installing xar archive %s",
                    qUtf8Printable(m_url.toString(QUrl::RemovePassword)));
-    proc->start(m_paths.xarInstaller, {QStringLiteral("--extrdir=") + directory});
+    const InstallCommand command = installCommand();
+    proc->start(command.program, {command.arguments.constFirst().arg(directory)});
+}
+
+InstallCommand ArchiveXar::installCommand() const
+{
+    return {m_paths.xarInstaller, {QStringLiteral("--extrdir=%1")}, {}};
 }
 
 void ArchiveXar::setProxy(const QString &host, int port)

@@ -24,6 +24,7 @@ public:
     void install(QProcess *proc) override;
     /// Ignored: the archive is downloaded by the program itself.
     void setProxy(const QString &host, int port) override;
+    InstallCommand installCommand() const override;
 
 private:
     Q_DISABLE_COPY_MOVE(ArchiveXar)

@@ -3,10 +3,19 @@
 #pragma once
 
 #include <QByteArray>
+#include <QStringList>
 
 class QProcess;
-class QString;
 struct RVPaths;
+
+/// What an archive's install() runs in the directory of the unpacked archives.
+struct InstallCommand {
+    QString program;
+    /// "%1" is a name that is known only once the archive is unpacked.
+    QStringList arguments;
+    /// The text of "./RVinstall.sh"; empty when no script is written.
+    QByteArray script;
+};
 
 /// Puts `lines` into "./RVinstall.sh", the script that an installer process runs. It replaces
 /// whatever has that name: a planted link is never followed. Mode 0700, since a script can hold a

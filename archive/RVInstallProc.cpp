@@ -17,6 +17,7 @@
 #include <QProcessEnvironment>
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 #include <utility>
 
@@ -94,6 +95,19 @@ RVInstallProc::~RVInstallProc()
         waitForFinished(-1);
     }
     leaveTemporaryDir();
+}
+
+QList<RVData> RVInstallProc::downloads(const QList<RVData> &entries)
+{
+    QList<RVData> result;
+    const QList<RVData> batch = withArchiveOnce(entries);
+    if (!batch.isEmpty() && batch.first().archive()->useExtract()) {
+        std::copy_if(batch.cbegin(), batch.cend(), std::back_inserter(result),
+                     [](const RVData &entry) {
+                         return entry.archive()->useExtract();
+                     });
+    }
+    return result;
 }
 
 void RVInstallProc::start()

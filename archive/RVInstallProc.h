@@ -39,6 +39,9 @@ public:
     explicit RVInstallProc(const RVData &entry, QObject *parent = nullptr,
                            const RVPaths &paths = {});
     ~RVInstallProc() override;
+    /// Of a batch, what start() downloads, in that order: nothing for an image, which the device
+    /// fetches itself; beside other archives an image is left out.
+    static QList<RVData> downloads(const QList<RVData> &entries);
 
     /// Written before start(); a port of 0 or less means no proxy.
     QString proxyHost;

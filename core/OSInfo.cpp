@@ -165,6 +165,19 @@ QString OSInfo::versionInstalled(const QString &packageName) const
     return QString::fromUtf8(package.CurrentVer().VerStr());
 }
 
+int OSInfo::installedPackageCount() const
+{
+    if (!m_packages) {
+        return -1;
+    }
+    const AptErrors errors;
+    int count = 0;
+    for (pkgCache::PkgIterator package = m_packages->cache.PkgBegin(); !package.end(); ++package) {
+        count += package.CurrentVer().end() ? 0 : 1;
+    }
+    return count;
+}
+
 QString OSInfo::architecture() const
 {
     return m_arch;

@@ -24,6 +24,8 @@ public:
     QString versionInstalled(const QString &packageName) const override;
     QString architecture() const override;
     QString thinClient() const override;
+    /// How many packages are installed; -1 when the package database cannot be read.
+    int installedPackageCount() const;
 
 public Q_SLOTS:
     void refresh() override;

@@ -9,7 +9,19 @@
 #include <QDir>
 #include <QFileInfo>
 
-RVDefinitions::Error RVDefinitions::readDirectory(const RVPaths &paths, List *list)
+namespace
+{
+
+void explain(QString *reason, const QString &text)
+{
+    if (reason) {
+        *reason = text;
+    }
+}
+
+} // namespace
+
+RVDefinitions::Error RVDefinitions::readDirectory(const RVPaths &paths, List *list, QString *reason)
 {
     const QDir directory(paths.definitionDir);
     if (!directory.exists()) {
@@ -27,7 +39,7 @@ RVDefinitions::Error RVDefinitions::readDirectory(const RVPaths &paths, List *li
         directory.entryList({QStringLiteral("*.xml")}, QDir::Files | QDir::Readable,
                             QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
     for (const QString &file : files) {
-        const Error error = readFile(paths.definitionDir + QLatin1Char('/') + file, list);
+        const Error error = readFile(paths.definitionDir + QLatin1Char('/') + file, list, reason);
         if (error != NoError) {
             return error;
         }
@@ -39,7 +51,7 @@ RVDefinitions::Error RVDefinitions::readDirectory(const RVPaths &paths, List *li
     return NoError;
 }
 
-RVDefinitions::Error RVDefinitions::readFile(const QString &path, List *list)
+RVDefinitions::Error RVDefinitions::readFile(const QString &path, List *list, QString *reason)
 {
     const QFileInfo info(path);
     QFile file(path);
@@ -56,11 +68,14 @@ RVDefinitions::Error RVDefinitions::readFile(const QString &path, List *list)
     if (!document.load(&file, &message, &line, &column)) {
         log.log(3, "BAD XML CONTENT!");
         log.log(3, "  %s, line %d, col %d", qUtf8Printable(message), line, column);
+        explain(reason,
+                QStringLiteral("%1:%2:%3: %4").arg(path).arg(line).arg(column).arg(message));
         return BadDefinitionFile;
     }
     const QDomElement root = document.documentElement();
     if (root.tagName() != QLatin1String("repository_list")) {
         log.log(3, "TOP ELEMENT NOT repository_list!");
+        explain(reason, QStringLiteral("%1: the top element is not repository_list").arg(path));
         return BadDefinitionFile;
     }
     const QString tag = QStringLiteral("repository");

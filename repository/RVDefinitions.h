@@ -23,8 +23,8 @@ public:
     using List = std::vector<std::unique_ptr<RVRepDesc>>;
 
     /// All files of the definition directory in name order. The first error ends the scan; what was
-    /// read before it stays in `list`.
-    static Error readDirectory(const RVPaths &paths, List *list);
+    /// read before it stays in `list`. `reason` (may be null) gets which file it was, and why.
+    static Error readDirectory(const RVPaths &paths, List *list, QString *reason = nullptr);
     /// One file; appends to `list`. A file that is not readable contributes nothing.
-    static Error readFile(const QString &path, List *list);
+    static Error readFile(const QString &path, List *list, QString *reason = nullptr);
 };

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "ui/ItemDetailsDialog.h"
 
+#include "core/ByteSize.h"
 #include "descriptor/DataXML.h"
 #include "descriptor/DescriptorGeneric.h"
 #include "ui/NotesDocument.h"
@@ -224,22 +225,16 @@ QString ItemDetailsDialog::information() const
 
 QString ItemDetailsDialog::sizeStr(qint64 bytes) const
 {
-    constexpr qint64 kibibyte = 1024;
-    constexpr qint64 mebibyte = 1024 * kibibyte;
-    constexpr qint64 gibibyte = 1024 * mebibyte;
-    if (bytes < kibibyte) {
-        return QString::number(bytes);
+    const ByteSize size(bytes);
+    switch (size.unit) {
+    case ByteSize::KiB:
+        return tr("%1 KiB", "KiB = kibibyte:  1024 bytes").arg(size.number);
+    case ByteSize::MiB:
+        return tr("%1 MiB", "MiB = mebibyte:  1024*1024 bytes").arg(size.number);
+    case ByteSize::GiB:
+        return tr("%1 GiB", "GiB = gibibyte:  1024*1024*1024 bytes").arg(size.number);
+    case ByteSize::Bytes:
+        break;
     }
-    const auto format = [bytes](const QString &text, qint64 unit) {
-        const float value = static_cast<float>(bytes) * (1.0F / static_cast<float>(unit));
-        return text.arg(static_cast<double>(value), 0, 'f', bytes < 10 * unit ? 1 : 0,
-                        QLatin1Char(' '));
-    };
-    if (bytes < mebibyte) {
-        return format(tr("%1 KiB", "KiB = kibibyte:  1024 bytes"), kibibyte);
-    }
-    if (bytes < gibibyte) {
-        return format(tr("%1 MiB", "MiB = mebibyte:  1024*1024 bytes"), mebibyte);
-    }
-    return format(tr("%1 GiB", "GiB = gibibyte:  1024*1024*1024 bytes"), gibibyte);
+    return size.number;
 }

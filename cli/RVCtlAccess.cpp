@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "cli/RVCtlAccess.h"
+
+#include <QCommandLineOption>
+#include <QCommandLineParser>
+#include <QCryptographicHash>
+#include <QJsonArray>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+
+#include "cli/RVCtlDeadline.h"
+#include "cli/RVCtlMessages.h"
+#include "cli/RVCtlPassword.h"
+
+namespace
+{
+
+constexpr int fingerprintBytes = 32;
+
+/// What the server showed; errors may concern one of its issuers instead.
+QSslCertificate serverCertificate(const QNetworkReply *reply, const QList<QSslError> &errors)
+{
+    const QSslCertificate shown = reply->sslConfiguration().peerCertificate();
+    if (!shown.isNull()) {
+        return shown;
+    }
+    for (const QSslError &error : errors) {
+        if (!error.certificate().isNull()) {
+            return error.certificate();
+        }
+    }
+    return QSslCertificate();
+}
+
+QByteArray fingerprintOf(const QSslCertificate &certificate)
+{
+    return certificate.isNull() ? QByteArray()
+                                : certificate.digest(QCryptographicHash::Sha256).toHex();
+}
+
+QString nameOf(const QStringList &commonName, const QStringList &organisation)
+{
+    return (commonName + organisation).join(QLatin1String(", "));
+}
+
+QString subjectOf(const QSslCertificate &certificate)
+{
+    return nameOf(certificate.subjectInfo(QSslCertificate::CommonName),
+                  certificate.subjectInfo(QSslCertificate::Organization));
+}
+
+QString issuerOf(const QSslCertificate &certificate)
+{
+    return nameOf(certificate.issuerInfo(QSslCertificate::CommonName),
+                  certificate.issuerInfo(QSslCertificate::Organization));
+}
+
+} // namespace
+
+RVCtlAccess::RVCtlAccess(const RVCtlMessages &messages)
+    : m_messages(messages)
+{
+}
+
+QList<QCommandLineOption> RVCtlAccess::options()
+{
+    return {
+        {QStringLiteral("user"),
+         QStringLiteral("Log in as NAME where the server asks. The password comes from "
+                        "--password-file or is asked for on the terminal."),
+         QStringLiteral("NAME")},
+        {QStringLiteral("password-file"),
+         QStringLiteral("Read the password from the first line of FILE."), QStringLiteral("FILE")},
+        {QStringLiteral("accept-fingerprint"),
+         QStringLiteral("Accept the server certificate with this SHA-256 fingerprint although it "
+                        "does not validate."),
+         QStringLiteral("SHA256")},
+    };
+}
+
+bool RVCtlAccess::read(const QCommandLineParser &parser, const RVCtlDeadline &deadline,
+                       QString *error)
+{
+    const QStringList fingerprints = parser.values(QStringLiteral("accept-fingerprint"));
+    for (const QString &text : fingerprints) {
+        const QString digits = QString(text).remove(QLatin1Char(':'));
+        const QByteArray bytes = QByteArray::fromHex(digits.toLatin1());
+        if (digits.size() != 2 * fingerprintBytes || bytes.size() != fingerprintBytes
+            || bytes.toHex() != digits.toLower().toLatin1()) {
+            *error =
+                QStringLiteral("'%1' is no SHA-256 fingerprint: 64 hexadecimal digits.").arg(text);
+            return false;
+        }
+        m_acceptedFingerprints.insert(bytes.toHex());
+    }
+
+    const QString file = parser.value(QStringLiteral("password-file"));
+    const bool hasFile = parser.isSet(QStringLiteral("password-file"));
+    if (!parser.isSet(QStringLiteral("user"))) {
+        if (hasFile) {
+            *error = QStringLiteral("--password-file needs --user.");
+        }
+        return !hasFile;
+    }
+    m_user = parser.value(QStringLiteral("user"));
+    if (m_user.isEmpty()) {
+        *error = QStringLiteral("--user needs a name.");
+        return false;
+    }
+    return hasFile ? RVCtlPassword::fromFile(file, deadline, &m_password, error)
+                   : RVCtlPassword::fromTerminal(m_user, deadline, &m_password, error);
+}
+
+void RVCtlAccess::judge(QNetworkReply *reply, const QList<QSslError> &errors)
+{
+    const QSslCertificate certificate = serverCertificate(reply, errors);
+    const QByteArray fingerprint = fingerprintOf(certificate);
+    if (!fingerprint.isEmpty() && m_acceptedFingerprints.contains(fingerprint)) {
+        reply->ignoreSslErrors();
+        return;
+    }
+
+    QJsonArray texts;
+    for (const QSslError &error : errors) {
+        texts.append(error.errorString());
+    }
+    const QString host = reply->url().host();
+    m_refused.insert(host,
+                     {{QStringLiteral("subject"), subjectOf(certificate)},
+                      {QStringLiteral("issuer"), issuerOf(certificate)},
+                      {QStringLiteral("sha256"), QString::fromLatin1(fingerprint)},
+                      {QStringLiteral("errors"), texts}});
+    const QByteArray known = host.toUtf8() + ' ' + fingerprint;
+    if (m_describedFingerprints.contains(known)) {
+        return;
+    }
+    m_describedFingerprints.insert(known);
+    // A refusal is an error: it is described even when the caller wants to hear of errors only.
+    m_messages.error(QStringLiteral("The certificate of %1 is refused:").arg(host));
+    m_messages.error(QStringLiteral("  Subject: %1").arg(subjectOf(certificate)));
+    m_messages.error(QStringLiteral("  Issuer:  %1").arg(issuerOf(certificate)));
+    m_messages.error(QStringLiteral("  SHA-256: %1").arg(QString::fromLatin1(fingerprint)));
+    for (const QSslError &error : errors) {
+        m_messages.error(QStringLiteral("  Error:   %1").arg(error.errorString()));
+    }
+}

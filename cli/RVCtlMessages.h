@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QSet>
+#include <QString>
+
+/// What the program says beside its result, on standard error: one line a message, safe for a
+/// terminal. While one lives, Qt's own messages go the same way. One at a time.
+class RVCtlMessages
+{
+public:
+    RVCtlMessages();
+    ~RVCtlMessages();
+
+    /// Quiet: only errors.
+    void setQuiet(bool quiet) { m_quiet = quiet; }
+    bool isQuiet() const { return m_quiet; }
+
+    void error(const QString &text) const;
+    void warning(const QString &text) const;
+    void note(const QString &text) const;
+
+private:
+    Q_DISABLE_COPY_MOVE(RVCtlMessages)
+
+    static void handleQtMessage(QtMsgType type, const QMessageLogContext &context,
+                                const QString &text);
+
+    bool m_quiet = false;
+    QtMessageHandler m_previous;
+};

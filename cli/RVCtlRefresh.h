@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QJsonObject>
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QUrl>
+
+class QNetworkReply;
+class RVCtlAccess;
+class RVCtlDeadline;
+class RVRepository;
+
+/// One refresh of one repository, from its start to its last signal, whichever that is.
+class RVCtlRefresh : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(RVCtlRefresh)
+
+public:
+    struct Failure {
+        /// Qt 4's code; 0 for none.
+        int code = 0;
+        QString text;
+        QUrl url;
+        /// Of a server that was refused for its certificate.
+        QJsonObject certificate;
+
+        bool isSet() const { return code != 0; }
+        QJsonObject toJson() const;
+    };
+
+    RVCtlRefresh(RVRepository *repository, RVCtlAccess *access, RVCtlDeadline *deadline);
+    ~RVCtlRefresh() override;
+
+    /// Runs an event loop until the repository has nothing more to say, or time is up.
+    void run();
+
+    /// Why there is nothing to select from: the listing failed, or nothing could be described.
+    const Failure &failure() const { return m_failure; }
+    /// Single descriptors that could not be had.
+    const QList<Failure> &descriptorFailures() const { return m_descriptorFailures; }
+
+private:
+    void networkError(const QNetworkReply *reply);
+    void checkEnd();
+
+    RVRepository *m_repository;
+    RVCtlAccess *m_access;
+    RVCtlDeadline *m_deadline;
+    Failure m_failure;
+    QList<Failure> m_descriptorFailures;
+    bool m_done = false;
+    bool m_ended = false;
+
+Q_SIGNALS:
+    void ended();
+};

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "cli/RVCtlRepos.h"
+
+#include "descriptor/DataXML.h"
+#include "repository/RVRepDesc.h"
+#include "repository/RVRepository.h"
+
+#include <QJsonArray>
+
+#include "cli/RVCtlText.h"
+#include "cli/RVCtlWorld.h"
+
+namespace
+{
+
+QString locationText(const QUrl &url)
+{
+    return url.toString(QUrl::RemovePassword);
+}
+
+QString selectorOf(const RVRepDesc &definition)
+{
+    return definition.picksOne() ? QStringLiteral("PickOne") : QStringLiteral("PickAny");
+}
+
+QJsonObject toJson(const RVCtlWorld::Section &section)
+{
+    const RVRepDesc &definition = *section.definition;
+    QJsonArray filters;
+    for (int i = 0; i < definition.archivePatterns.size(); ++i) {
+        filters.append(QJsonObject{
+            {QStringLiteral("archive"), definition.archivePatterns.at(i)},
+            {QStringLiteral("descriptor"), definition.descriptorPatterns.at(i)},
+        });
+    }
+    return {
+        {QStringLiteral("index"), section.index},
+        {QStringLiteral("title"), DataXML::plainText(definition.title.value({}))},
+        {QStringLiteral("description"), DataXML::plainText(definition.description.value({}))},
+        {QStringLiteral("locationLabel"), DataXML::plainText(definition.uriDescription.value({}))},
+        {QStringLiteral("location"), locationText(section.repository->url())},
+        {QStringLiteral("default"), locationText(definition.defaultUri)},
+        {QStringLiteral("settingsKey"), definition.settingsKey},
+        {QStringLiteral("selector"), selectorOf(definition)},
+        {QStringLiteral("filters"), filters},
+        {QStringLiteral("icon"), definition.icon},
+        {QStringLiteral("filterServicePacks"), definition.filterSps},
+    };
+}
+
+QString toText(const RVCtlWorld::Section &section)
+{
+    const RVRepDesc &definition = *section.definition;
+    const QString location = locationText(section.repository->url());
+    const QString standard = locationText(definition.defaultUri);
+    QVector<QPair<QString, QString>> fields{
+        {QStringLiteral("   Location"), location.isEmpty() ? QStringLiteral("none") : location},
+        {QStringLiteral("   Default"), location == standard ? QString() : standard},
+        {QStringLiteral("   Settings key"), definition.settingsKey},
+        {QStringLiteral("   Selector"), selectorOf(definition)},
+    };
+    for (int i = 0; i < definition.archivePatterns.size(); ++i) {
+        fields.append({QStringLiteral("   Filter"),
+                       definition.archivePatterns.at(i) + QLatin1String("  ")
+                           + definition.descriptorPatterns.at(i)});
+    }
+    fields.append({QStringLiteral("   Icon"), definition.icon});
+    return RVCtlText::safe(QStringLiteral("%1. %2")
+                               .arg(section.index)
+                               .arg(DataXML::plainText(definition.title.value({}))))
+        + QLatin1Char('\n') + RVCtlText::fields(fields);
+}
+
+} // namespace
+
+RVCtlResult RVCtlRepos::run(const RVCtlCall &call)
+{
+    QString error;
+    if (!call.world.readSections(&error)) {
+        return RVCtlResult::failed(RVCtlExit::Failed, error);
+    }
+    QStringList texts;
+    QJsonArray repositories;
+    for (const RVCtlWorld::Section &section : call.world.sections()) {
+        texts.append(toText(section));
+        repositories.append(toJson(section));
+    }
+    return {RVCtlExit::Done,
+            texts.join(QLatin1Char('\n')),
+            {{QStringLiteral("repositories"), repositories}},
+            {}};
+}
