@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlOffers.h"
 
+#include "core/RVOrigin.h"
 #include "descriptor/DataXML.h"
 #include "repository/RVExplain.h"
 #include "repository/RVRepDesc.h"
@@ -42,7 +43,7 @@ bool isOneServer(const QList<RVCtlWorld::Section> &sections, QString *error)
     for (const RVCtlWorld::Section &section : sections) {
         const QUrl &url = section.repository->url();
         if (isRemote(url)) {
-            servers.insert(url.scheme() + QLatin1String("://") + url.authority());
+            servers.insert(originOf(url));
         }
     }
     if (servers.size() > 1) {
