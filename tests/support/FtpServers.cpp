@@ -35,10 +35,17 @@ protected:
     }
 };
 
-quint16 freePort()
+quint16 freePort(const QString &address)
 {
     QTcpServer probe;
-    return probe.listen(QHostAddress::LocalHost) ? probe.serverPort() : quint16(0);
+    return probe.listen(QHostAddress(address)) ? probe.serverPort() : quint16(0);
+}
+
+QString nextAddress()
+{
+    static int last = 1;
+    last = last % 250 + 1;
+    return QStringLiteral("127.0.0.%1").arg(last);
 }
 
 /// Not through QFile, which decodes and encodes names by the locale.
@@ -58,8 +65,9 @@ bool writeRaw(const QByteArray &path, const QByteArray &content, mode_t mode)
 } // namespace
 
 FtpServer::FtpServer()
+    : m_address(nextAddress())
     // Not below the test's own folder: nobody but its owner may be able to reach that one.
-    : m_dir(QStringLiteral("/tmp/ravel-ftp-XXXXXX"))
+    , m_dir(QStringLiteral("/tmp/ravel-ftp-XXXXXX"))
 {
     const auto open = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup
         | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
@@ -82,14 +90,18 @@ bool FtpServer::start()
     // Somebody else may take the port between the search and the start.
     for (int attempt = 0; attempt < (keepsPort ? 1 : 3); ++attempt) {
         if (!keepsPort) {
-            m_port = freePort();
+            m_port = freePort(m_address);
         }
         if (launch()) {
             return true;
         }
         m_report = program().toUtf8() + " did not start\n" + readRunFile(QStringLiteral("output"))
             + readRunFile(QStringLiteral("log"));
+        const bool hasEnded = m_process && m_process->state() == QProcess::NotRunning;
         stop();
+        if (!hasEnded) {
+            break;
+        }
     }
     if (!keepsPort) {
         m_port = 0;
@@ -123,7 +135,7 @@ bool FtpServer::isReady() const
 {
     QTcpSocket socket;
     socket.setProxy(QNetworkProxy::NoProxy);
-    socket.connectToHost(QHostAddress(QHostAddress::LocalHost), m_port);
+    socket.connectToHost(QHostAddress(m_address), m_port);
     const bool greeted = socket.waitForConnected(1000) && socket.waitForReadyRead(5000)
         && socket.readAll().startsWith("220");
     socket.abort();
@@ -162,7 +174,7 @@ bool FtpServer::makeDir(const QByteArray &name) const
 
 QUrl FtpServer::url(const QString &path) const
 {
-    return QUrl(QStringLiteral("ftp://127.0.0.1:%1").arg(m_port) + path);
+    return QUrl(QStringLiteral("ftp://%1:%2").arg(m_address).arg(m_port) + path);
 }
 
 QProcessEnvironment FtpServer::environment() const
@@ -198,8 +210,8 @@ QStringList VsftpdServer::arguments() const
 
 bool VsftpdServer::configure()
 {
-    QByteArray configuration =
-        "listen=YES\nlisten_address=127.0.0.1\nlisten_port=" + QByteArray::number(m_port)
+    QByteArray configuration = "listen=YES\nlisten_address=" + m_address.toLatin1()
+        + "\nlisten_port=" + QByteArray::number(m_port)
         + "\nbackground=NO\nconnect_from_port_20=NO\nxferlog_enable=NO\n"
           // Its filter of system calls is older than the C library.
           "seccomp_sandbox=NO\n"
@@ -220,54 +232,55 @@ bool VsftpdServer::configure()
         && writeRunFile(QStringLiteral("vsftpd.conf"), configuration);
 }
 
-ScriptedFtpServer::ScriptedFtpServer() = default;
+FtpScriptServer::FtpScriptServer() = default;
 
-void ScriptedFtpServer::addUser(const QString &user, const QString &password)
+void FtpScriptServer::addUser(const QString &user, const QString &password)
 {
     QJsonObject users = m_script.value(QLatin1String("users")).toObject();
     users.insert(user, password);
     m_script[QStringLiteral("users")] = users;
 }
 
-void ScriptedFtpServer::setListing(const QByteArray &listing)
+void FtpScriptServer::setListing(const QByteArray &listing)
 {
     m_script[QStringLiteral("listing")] = QString::fromLatin1(listing);
 }
 
-void ScriptedFtpServer::refuse(const QString &step, const QString &answer)
+void FtpScriptServer::refuse(const QString &step, const QString &answer)
 {
     QJsonObject refused = m_script.value(QLatin1String("refuse")).toObject();
     refused.insert(step, answer);
     m_script[QStringLiteral("refuse")] = refused;
 }
 
-void ScriptedFtpServer::addTo(const QString &list, const QString &step)
+void FtpScriptServer::addTo(const QString &list, const QString &step)
 {
     QJsonArray steps = m_script.value(list).toArray();
     steps.append(step);
     m_script[list] = steps;
 }
 
-QList<QByteArray> ScriptedFtpServer::commands() const
+QList<QByteArray> FtpScriptServer::commands() const
 {
     QList<QByteArray> lines = readRunFile(QStringLiteral("commands")).split('\n');
     lines.removeAll(QByteArray());
     return lines;
 }
 
-int ScriptedFtpServer::count(const QByteArray &command) const
+int FtpScriptServer::count(const QByteArray &command) const
 {
     return static_cast<int>(commands().count(command));
 }
 
-QStringList ScriptedFtpServer::arguments() const
+QStringList FtpScriptServer::arguments() const
 {
     return {QStringLiteral(RAVEL_TEST_SUPPORT "/ftp_server.py"),
             runFile(QStringLiteral("script.json"))};
 }
 
-bool ScriptedFtpServer::configure()
+bool FtpScriptServer::configure()
 {
+    m_script[QStringLiteral("address")] = m_address;
     m_script[QStringLiteral("port")] = m_port;
     m_script[QStringLiteral("root")] = root();
     m_script[QStringLiteral("log")] = runFile(QStringLiteral("commands"));
@@ -277,7 +290,7 @@ bool ScriptedFtpServer::configure()
     return writeRunFile(QStringLiteral("script.json"), QJsonDocument(m_script).toJson());
 }
 
-QProcessEnvironment ScriptedFtpServer::environment() const
+QProcessEnvironment FtpScriptServer::environment() const
 {
     QProcessEnvironment result = FtpServer::environment();
     // Names on disk may be no UTF-8 and are passed on as they are.
@@ -286,7 +299,7 @@ QProcessEnvironment ScriptedFtpServer::environment() const
 }
 
 // Its greeting may be a part of the script.
-bool ScriptedFtpServer::isReady() const
+bool FtpScriptServer::isReady() const
 {
     return QFile::exists(runFile(QStringLiteral("ready")));
 }
@@ -300,8 +313,8 @@ QStringList FtpProxyServer::arguments() const
 bool FtpProxyServer::configure()
 {
     return writeRunFile(QStringLiteral("ftp-proxy.conf"),
-                        "[-Global-]\nServerType standalone\nListen 127.0.0.1\nPort "
-                            + QByteArray::number(m_port)
+                        "[-Global-]\nServerType standalone\nListen " + m_address.toLatin1()
+                            + "\nPort " + QByteArray::number(m_port)
                             + "\nDestinationAddress 127.0.0.1\nAllowMagicUser yes\n"
                               "ForkLimit 10000\nPidFile "
                             + runFile(QStringLiteral("pid")).toUtf8() + "\nLogDestination "

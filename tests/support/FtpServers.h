@@ -10,7 +10,8 @@
 #include <memory>
 
 /// An FTP server on a free loopback port that a test starts; it and its children go with this
-/// object, or with the test program if that is killed.
+/// object, or with the test program if that is killed. Each has a loopback address of its own,
+/// since what a program remembers of a host would else go from one test to the next.
 ///
 ///     VsftpdServer server;
 ///     server.write("a.deb", "…");
@@ -32,6 +33,7 @@ public:
     bool write(const QByteArray &name, const QByteArray &content) const;
     bool makeDir(const QByteArray &name) const;
 
+    QString address() const { return m_address; }
     quint16 port() const { return m_port; }
     /// `path` begins with a slash and is taken as it is: encode it yourself.
     QUrl url(const QString &path = QStringLiteral("/")) const;
@@ -50,6 +52,7 @@ protected:
     bool writeRunFile(const QString &name, const QByteArray &content) const;
     QByteArray readRunFile(const QString &name) const;
 
+    const QString m_address;
     quint16 m_port = 0;
 
 private:
@@ -97,10 +100,10 @@ private:
 
 /// A server that does as it is told (pyftpdlib), for any user. A step is an FTP command in capitals
 /// or CONNECT; PASV and EPSV make the data connection, DATA is the transfer on it.
-class ScriptedFtpServer : public FtpServer
+class FtpScriptServer : public FtpServer
 {
 public:
-    ScriptedFtpServer();
+    FtpScriptServer();
 
     void addUser(const QString &user, const QString &password);
     void refuseAnonymous() { m_script[QStringLiteral("anonymous")] = false; }
@@ -118,6 +121,8 @@ public:
     void stall(const QString &step) { addTo(QStringLiteral("stall"), step); }
     /// Closes the control connection instead of answering.
     void drop(const QString &step) { addTo(QStringLiteral("drop"), step); }
+    /// Waits so long before it answers a command.
+    void delay(int milliseconds) { m_script[QStringLiteral("delay")] = milliseconds; }
     /// Sends no more than this of a file, and then says that it was the whole.
     void cutFilesAt(int bytes) { m_script[QStringLiteral("cut")] = bytes; }
 

@@ -69,6 +69,12 @@ class Handler(FTPHandler):
 
     def pre_process_command(self, line, cmd, arg):
         os.write(LOG, line.encode("utf-8", "surrogateescape") + b"\n")
+        if "delay" in SCRIPT:
+            self.ioloop.call_later(SCRIPT["delay"] / 1000, self.answer, line, cmd, arg)
+        else:
+            self.answer(line, cmd, arg)
+
+    def answer(self, line, cmd, arg):
         if not self.scripted(cmd):
             super().pre_process_command(line, cmd, arg)
 
@@ -98,7 +104,7 @@ def main():
     if SCRIPT.get("anonymous", True):
         authorizer.add_anonymous(home, perm="elr")
     LoggedIn.authorizer = authorizer
-    server = FTPServer(("127.0.0.1", SCRIPT["port"]), LoggedIn)
+    server = FTPServer((SCRIPT["address"], SCRIPT["port"]), LoggedIn)
     with open(SCRIPT["ready"], "w", encoding="ascii"):
         pass
     server.serve_forever()

@@ -13,9 +13,9 @@ namespace
 class Client
 {
 public:
-    explicit Client(quint16 port)
+    explicit Client(const FtpServer &server)
     {
-        m_socket.connectToHost(QHostAddress(QHostAddress::LocalHost), port);
+        m_socket.connectToHost(QHostAddress(server.address()), server.port());
         m_socket.waitForConnected(5000);
     }
 
@@ -74,7 +74,7 @@ void tst_FtpServers::vsftpdWithoutJail()
     VsftpdServer server;
     QVERIFY(server.makeDir("sub"));
     QVERIFY2(server.start(), server.report());
-    Client client(server.port());
+    Client client(server);
     QCOMPARE(logIn(&client, "anonymous", "a@example.org"), QByteArray("230"));
     QVERIFY(client.ask("PWD").contains(server.root().toUtf8()));
     QCOMPARE(client.ask("CWD /sub").left(3), QByteArray("550"));
@@ -89,7 +89,7 @@ void tst_FtpServers::vsftpdWithJail()
     VsftpdServer server(VsftpdServer::Chrooted);
     QVERIFY(server.makeDir("sub"));
     QVERIFY2(server.start(), server.report());
-    Client client(server.port());
+    Client client(server);
     QCOMPARE(logIn(&client, "anonymous", "a@example.org"), QByteArray("230"));
     QVERIFY(client.ask("PWD").contains("\"/\""));
     QCOMPARE(client.ask("CWD /sub").left(3), QByteArray("250"));
@@ -100,23 +100,23 @@ void tst_FtpServers::vsftpdWithPassword()
     VsftpdServer server;
     server.requirePassword(QStringLiteral("secret"));
     QVERIFY2(server.start(), server.report());
-    Client wrong(server.port());
+    Client wrong(server);
     QCOMPARE(logIn(&wrong, "anonymous", "a@example.org"), QByteArray("530"));
-    Client right(server.port());
+    Client right(server);
     QCOMPARE(logIn(&right, "anonymous", "secret"), QByteArray("230"));
 }
 
 void tst_FtpServers::scriptedLogins()
 {
-    ScriptedFtpServer server;
+    FtpScriptServer server;
     server.addUser(QStringLiteral("joe"), QStringLiteral("secret"));
     server.refuseAnonymous();
     server.setLoginDirectory(QStringLiteral("/sub"));
     QVERIFY(server.makeDir("sub"));
     QVERIFY2(server.start(), server.report());
-    Client wrong(server.port());
+    Client wrong(server);
     QCOMPARE(logIn(&wrong, "anonymous", "a@example.org"), QByteArray("530"));
-    Client right(server.port());
+    Client right(server);
     QCOMPARE(logIn(&right, "joe", "secret"), QByteArray("230"));
     QVERIFY(right.ask("PWD").contains("\"/sub\""));
     QCOMPARE(server.count("CONNECT"), 2);
@@ -125,12 +125,12 @@ void tst_FtpServers::scriptedLogins()
 
 void tst_FtpServers::scriptedSteps()
 {
-    ScriptedFtpServer server;
+    FtpScriptServer server;
     server.refuse(QStringLiteral("CWD"), QStringLiteral("550 Not today."));
     server.stall(QStringLiteral("SYST"));
     server.drop(QStringLiteral("NOOP"));
     QVERIFY2(server.start(), server.report());
-    Client client(server.port());
+    Client client(server);
     QCOMPARE(logIn(&client, "anonymous", "a@example.org"), QByteArray("230"));
     QCOMPARE(client.ask("CWD /"), QByteArray("550 Not today."));
     QCOMPARE(client.ask("SYST", 300), QByteArray());
@@ -141,31 +141,33 @@ void tst_FtpServers::scriptedSteps()
 
 void tst_FtpServers::scriptedGreetings()
 {
-    ScriptedFtpServer refusing;
+    FtpScriptServer refusing;
     refusing.refuse(QStringLiteral("CONNECT"), QStringLiteral("421 Come back later."));
     QVERIFY2(refusing.start(), refusing.report());
-    QCOMPARE(Client(refusing.port()).answer(), QByteArray("421 Come back later."));
+    QCOMPARE(Client(refusing).answer(), QByteArray("421 Come back later."));
 
-    ScriptedFtpServer dropping;
+    FtpScriptServer dropping;
     dropping.drop(QStringLiteral("CONNECT"));
     QVERIFY2(dropping.start(), dropping.report());
-    QVERIFY(Client(dropping.port()).isClosed());
+    QVERIFY(Client(dropping).isClosed());
 
-    ScriptedFtpServer silent;
+    FtpScriptServer silent;
     silent.stall(QStringLiteral("CONNECT"));
     QVERIFY2(silent.start(), silent.report());
-    QCOMPARE(Client(silent.port()).answer(300), QByteArray());
+    QCOMPARE(Client(silent).answer(300), QByteArray());
 }
 
 void tst_FtpServers::proxyNamesTheHostInUser()
 {
-    ScriptedFtpServer server;
+    FtpScriptServer server;
     server.addUser(QStringLiteral("joe"), QStringLiteral("secret"));
     QVERIFY2(server.start(), server.report());
     FtpProxyServer proxy;
     QVERIFY2(proxy.start(), proxy.report());
-    Client client(proxy.port());
-    QCOMPARE(logIn(&client, "joe@127.0.0.1:" + QByteArray::number(server.port()), "secret"),
+    Client client(proxy);
+    QCOMPARE(logIn(&client,
+                   "joe@" + server.address().toLatin1() + ':' + QByteArray::number(server.port()),
+                   "secret"),
              QByteArray("230"));
     QCOMPARE(server.count("USER joe"), 1);
 }
@@ -173,17 +175,19 @@ void tst_FtpServers::proxyNamesTheHostInUser()
 void tst_FtpServers::goesWithItsObject()
 {
     quint16 port = 0;
+    QString address;
     QString root;
     {
         VsftpdServer server;
         QVERIFY2(server.start(), server.report());
         port = server.port();
+        address = server.address();
         root = server.root();
-        Client session(port);
+        Client session(server);
         QCOMPARE(logIn(&session, "anonymous", "a@example.org"), QByteArray("230"));
     }
     QTcpSocket socket;
-    socket.connectToHost(QHostAddress(QHostAddress::LocalHost), port);
+    socket.connectToHost(QHostAddress(address), port);
     QVERIFY(!socket.waitForConnected(1000));
     QVERIFY(!QFile::exists(root));
 }
