@@ -7,6 +7,14 @@
 #include "repository/RVRepository.h"
 
 #include <QEventLoop>
+#include <QTimer>
+
+namespace
+{
+
+constexpr int lookIntervalMs = 50;
+
+} // namespace
 
 #include "cli/RVCtlAccess.h"
 #include "cli/RVCtlDeadline.h"
@@ -52,6 +60,10 @@ void RVCtlRefresh::run()
     QEventLoop loop;
     connect(this, &RVCtlRefresh::ended, &loop, &QEventLoop::quit);
     connect(m_deadline, &RVCtlDeadline::over, &loop, &QEventLoop::quit);
+    // Where no descriptor could even be asked for, there is no signal at all.
+    QTimer look;
+    connect(&look, &QTimer::timeout, this, &RVCtlRefresh::checkEnd);
+    look.start(lookIntervalMs);
     m_repository->refresh();
     checkEnd();
     if (!m_ended && !m_deadline->isOver()) {
@@ -61,8 +73,13 @@ void RVCtlRefresh::run()
     if (!m_ended) {
         m_repository->cancel();
     }
-    if (!m_done && !m_failure.isSet() && !m_descriptorFailures.isEmpty()) {
-        m_failure = m_descriptorFailures.constLast();
+    if (m_ended && !m_done && !m_failure.isSet()) {
+        m_failure = m_descriptorFailures.isEmpty()
+            ? Failure{QNetworkReply::UnknownContentError,
+                      QStringLiteral("No descriptor can be fetched."),
+                      m_repository->url(),
+                      {}}
+            : m_descriptorFailures.constLast();
     }
 }
 

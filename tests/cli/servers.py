@@ -1,0 +1,68 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 Ravel developers
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""servers.py DIRECTORY CERTIFICATE LOG: serves DIRECTORY on the loopback interface in every way
+that the walk needs, until standard input ends. Prints one "NAME=PORT" line for each server.
+
+plain   HTTP
+login   HTTP, for user "anna" with the password "secret"
+tls     HTTPS with CERTIFICATE, a PEM file with its key
+silent  takes connections and never answers
+part    HTTP, but no file whose name holds "tc-audio" and ends in ".xml"
+
+Every request's first line goes to LOG.
+"""
+import base64
+import functools
+import http.server
+import pathlib
+import socket
+import ssl
+import sys
+import threading
+
+DIRECTORY, CERTIFICATE, LOG = sys.argv[1:4]
+SECRET = "Basic " + base64.b64encode(b"anna:secret").decode()
+
+
+class Handler(http.server.SimpleHTTPRequestHandler):
+    name = "plain"
+
+    def send_head(self):
+        with open(LOG, "a", encoding="utf-8") as log:
+            log.write(f"{self.name} {self.command} {self.path}\n")
+        if self.name == "login" and self.headers.get("Authorization") != SECRET:
+            self.send_response(401)
+            self.send_header("WWW-Authenticate", 'Basic realm="updates"')
+            self.send_header("Content-Length", "0")
+            self.end_headers()
+            return None
+        if self.name == "part" and "tc-audio" in self.path and self.path.endswith(".xml"):
+            self.send_error(404)
+            return None
+        return super().send_head()
+
+    def log_message(self, *_):
+        pass
+
+
+def serve(name, certificate=None):
+    handler = functools.partial(type(name, (Handler,), {"name": name}), directory=DIRECTORY)
+    server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), handler)
+    if certificate:
+        context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
+        context.load_cert_chain(certificate)
+        server.socket = context.wrap_socket(server.socket, server_side=True,
+                                            do_handshake_on_connect=False)
+    threading.Thread(target=server.serve_forever, daemon=True).start()
+    print(f"{name}={server.server_address[1]}", flush=True)
+
+
+pathlib.Path(LOG).touch()
+serve("plain")
+serve("login")
+serve("part")
+serve("tls", CERTIFICATE)
+silent = socket.create_server(("127.0.0.1", 0))
+print(f"silent={silent.getsockname()[1]}", flush=True)
+sys.stdin.read()

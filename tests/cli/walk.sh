@@ -1,0 +1,278 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Ravel developers
+# SPDX-License-Identifier: GPL-2.0-or-later
+#
+# walk.sh RAVELCTL BUILD_WORLD WORK_DIR: walks through the demo world with the program alone: no
+# display, local and remote, what works and what does not. One line a step, exit code 1 when one of
+# them is not as it should be.
+# shellcheck disable=SC2016  # what is in single quotes is for jq and the inner shell
+set -euo pipefail
+here=$(cd -- "$(dirname -- "$(readlink -f -- "$0")")" && pwd -P)
+ravelctl=$1
+build_world=$2
+work=$3
+
+unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM http_proxy https_proxy ftp_proxy HTTP_PROXY HTTPS_PROXY
+export LC_ALL=C.UTF-8 HOME=$work/home TMPDIR=$work/tmp
+unset XDG_CONFIG_HOME
+rm -rf -- "$work"
+mkdir -p -- "$work" "$HOME" "$TMPDIR"
+"$build_world" "$work/world" >/dev/null
+root=$work/world/root
+definitions=$work/definitions
+mkdir -- "$definitions"
+fifo=$work/stdin
+mkfifo -- "$fifo"
+
+server=
+# shellcheck disable=SC2317  # the trap calls it
+stop()
+{
+  exec 9>&-
+  [ -z "$server" ] || wait "$server" 2>/dev/null || true
+}
+trap stop EXIT
+openssl req -x509 -newkey rsa:2048 -nodes -days 30 -subj '/CN=updates.example/O=Example Works' \
+  -keyout "$work/key.pem" -out "$work/certificate.pem" 2>/dev/null
+cat "$work/key.pem" >> "$work/certificate.pem"
+/usr/bin/python3 "$here/servers.py" "$work/world/repos" "$work/certificate.pem" "$work/requests" \
+  <"$fifo" >"$work/ports" 2>"$work/servers.log" &
+server=$!
+exec 9>"$fifo"
+for ((i = 0; i < 100; ++i)); do
+  ! grep -q silent= "$work/ports" || break
+  sleep 0.1
+done
+port()
+{
+  sed -n "s/^$1=//p" "$work/ports"
+}
+
+# define KEY URI [FILTER]: one more section of the remote world.
+define()
+{
+  cat > "$definitions/$1.xml" <<XML
+<repository_list><repository>
+  <title>Section $1</title><settings_key>$1</settings_key>
+  <default_uri>$2</default_uri><selector_type>PickAny</selector_type>
+  <filter_pattern><archive_pattern>\\.deb\$</archive_pattern>
+    <descriptor_pattern>${3:-\\.xml\$}</descriptor_pattern></filter_pattern>
+</repository></repository_list>
+XML
+}
+define a_plain "http://127.0.0.1:$(port plain)/packages/"
+define b_login "http://127.0.0.1:$(port login)/packages/"
+define c_tls "https://127.0.0.1:$(port tls)/packages/"
+define d_silent "http://127.0.0.1:$(port silent)/packages/"
+define e_part "http://127.0.0.1:$(port part)/packages/"
+define f_missing "http://127.0.0.1:$(port plain)/nowhere/"
+define g_gone "file://$work/nowhere"
+define h_none ""
+define i_local "file://$work/world/repos/packages"
+# Where no descriptor can even be asked for, the engine has no last word.
+mkdir -p -- "$work/pipes" "$work/world/repos/odd"
+mkfifo -- "$work/pipes/a.xml"
+printf '<a href="a.deb">a</a> <a href="file://%s">x</a>\n' "$work/pipes/a.xml" \
+  > "$work/world/repos/odd/index.html"
+define j_pipes "http://127.0.0.1:$(port plain)/odd/"
+mkdir -p -- "$work/hostile"
+: > "$work/hostile/a.deb"
+printf '<update_data><name>bad%sname</name><title>t\xe2\x80\xaeegral\xc2\x9b1m&#27;[31m\nsecond line</title><version>1</version><thin_client>all</thin_client><notes>n &#7; \xe2\x80\xae</notes></update_data>' \
+  '&#27;]0;owned&#7;' > "$work/hostile/a.xml"
+define k_hostile "file://$work/hostile"
+printf 'secret\n' > "$work/password"
+printf 'wrong\n' > "$work/wrong"
+: > "$work/empty"
+mkdir -p -- "$work/broken" "$work/nothing" "$work/no-definitions"
+printf '<repository_list><repository>' > "$work/broken/a.xml"
+printf '<other/>' > "$work/nothing/a.xml"
+
+successes=0
+failures=0
+wrong=0
+
+# run EXIT_CODE FILTER ARGUMENT...: the program has to end so, and its only output has to be one
+# document that the filter accepts.
+run()
+{
+  local expected=$1 filter=$2 status=0 verdict=ok
+  shift 2
+  timeout --kill-after=5 30 "$ravelctl" --json "$@" >"$work/out" 2>"$work/err" || status=$?
+  [ "$status" -eq "$expected" ] || verdict="exit code $status, not $expected"
+  if ! jq -es 'length == 1 and (.[0] | has("error"))' "$work/out" >/dev/null; then
+    verdict="not one document"
+  elif ! jq -e "$filter" "$work/out" >/dev/null; then
+    verdict="not what it should say: $filter"
+  elif LC_ALL=C grep -qP '[\x00-\x08\x0b-\x1f\x7f]|\xc2[\x80-\x9f]|\xe2\x80[\xa8-\xae]' "$work/out" "$work/err"; then
+    verdict="control characters"
+  fi
+  case $expected in
+    0 | 10) successes=$((successes + 1)) ;;
+    *) failures=$((failures + 1)) ;;
+  esac
+  printf '%-4s %3d  %s\n' "$([ "$verdict" = ok ] && echo ok || echo BAD)" "$status" "$*"
+  if [ "$verdict" != ok ]; then
+    wrong=$((wrong + 1))
+    echo "     $verdict"
+    cat "$work/out" "$work/err"
+  fi
+}
+local_run()
+{
+  local expected=$1 filter=$2
+  shift 2
+  run "$expected" "$filter" --root "$root" "$@"
+}
+remote_run()
+{
+  local expected=$1 filter=$2
+  shift 2
+  run "$expected" "$filter" --root "$root" --definitions "$definitions" "$@"
+}
+# check WHAT COMMAND...
+check()
+{
+  local what=$1
+  shift
+  if "$@"; then
+    echo "ok        $what"
+  else
+    echo "BAD       $what"
+    wrong=$((wrong + 1))
+  fi
+}
+# Everything on the disk that the program could reach, but for what this script itself writes.
+state()
+{
+  (
+    cd "$work"
+    find world home definitions hostile pipes -printf '%p %y %m %s %T@ %l\n' | sort
+    # Packages that describe themselves pass through it.
+    find tmp -mindepth 1
+    find world home -type f -print0 | sort -z | xargs -0 sha256sum
+  )
+}
+
+before=$(state)
+
+### Reading, local
+local_run 0 '.baseSystem == "6.1.2" and .model == "TC-420" and .architecture == "armel" and .packages == 7 and (.servicePacks | length) == 2' status
+local_run 0 '[.repositories[].settingsKey] == ["image_uri","sp_uri","package_uri","application_uri"]' repos
+local_run 0 '.repositories[0] | .index == 0 and .selector == "PickOne" and .filters[0].archive == "\\.dd\\.gz$" and .icon == "ImageRepository"' repos
+local_run 0 '[.repositories[].entries | length] == [3,3,5,2]' list
+local_run 0 '[.repositories[].entries[] | select(.preselected) | .name] | index("tc-printing") == null and length == 10' list
+local_run 0 '.repositories[0].entries[] | select(.name == "tc-printing") | .state == "current" and .offered and .reason == "offered"' list 2
+local_run 10 '.error == null' list --exit-code
+local_run 10 '.repositories | length == 1' list --exit-code package_uri
+local_run 0 '[.repositories[0].entries[] | select(.offered | not) | .reason] | sort == ["architecture","base-release","model","model","no-descriptor"]' list --all 2
+local_run 0 '[.repositories[].archives[].reason] | group_by(.) | map({(.[0]): length}) | add == {"offered":13,"model":3,"base-release":3,"service-pack-installed":1,"architecture":2,"no-descriptor":1}' explain
+local_run 0 '(.repositories | length) == 2 and .repositories[0].index == 1' explain 3 sp_uri
+local_run 0 '.name == "tc-audio" and .models == ["TC-420","TC-440"] and .size == 676032 and (.notesText | startswith("Sound no longer"))' details package_uri tc-audio
+local_run 0 '.version == "6.1.10" and .offered' details 0 tc-system=6.1.10
+local_run 0 '.contents | length == 2' details 1 SP-6.1.2-3
+local_run 0 '(.downloads | length) == 4 and .installer.program == "/bin/bash" and (.installer.script | contains("dpkg --install"))' plan 2
+local_run 0 '[.updates[].name] == ["tc-audio","tc-printing"]' plan 2 tc-printing tc-audio
+local_run 0 '(.downloads == []) and (.installer.script | contains("tc-system-6.1.2.dd.gz"))' plan image_uri tc-system=6.1.2
+local_run 0 '.installer.script == null and .installer.arguments == ["--extrdir=<directory of the archive>"]' plan sp_uri SP-6.1.2-3
+local_run 0 '.isDefault and .settingsKey == "sp_uri"' location sp_uri
+local_run 0 '.style == "none" and (.proxies | length) == 3 and .proxies[0].used == null' proxy
+run 0 '.help | contains("Commands:")' --help
+run 0 '.help | contains("--exit-code")' list --help
+run 0 '.version | startswith("ravelctl ")' --version
+
+### Reading, remote
+remote_run 0 '.repositories[0] | .error == null and (.entries | length) == 5' list a_plain
+remote_run 0 '.repositories[0].entries | length == 5' list b_login --user anna --password-file "$work/password"
+remote_run 3 '.repositories[0].error.code == 204' list b_login --user anna --password-file "$work/wrong"
+remote_run 3 '.repositories[0].error.code == 204' list b_login
+remote_run 3 '.repositories[0].error.certificate | .subject == "updates.example, Example Works" and (.sha256 | length) == 64 and (.errors | length) > 0' list c_tls
+fingerprint=$(jq -r '.repositories[0].error.certificate.sha256' "$work/out")
+check "the certificate is described" grep -q "SHA-256: $fingerprint" "$work/err"
+check "it is the server's own" test "$fingerprint" = \
+  "$(openssl x509 -in "$work/certificate.pem" -noout -fingerprint -sha256 | sed 's/.*=//; s/://g' | tr 'A-F' 'a-f')"
+remote_run 0 '.repositories[0].entries | length == 5' list c_tls --accept-fingerprint "$fingerprint"
+remote_run 3 '.repositories[0].entries == []' list c_tls --accept-fingerprint "${fingerprint//[0-9a-f]/0}"
+remote_run 124 '.error.code == 124' --timeout 1 list d_silent
+remote_run 8 '.repositories[0] | .error == null and (.descriptorErrors | length) == 1 and (.entries | length) == 4' list e_part
+remote_run 8 '[.repositories[0].archives[] | select(.reason == "unreadable-descriptor")] | length == 1' explain e_part
+remote_run 3 '.repositories[0].error.code == 203' list f_missing
+remote_run 3 '.repositories[0].error.code == 203' list g_gone
+remote_run 0 '.repositories[0] | .location == "" and .entries == []' list h_none
+remote_run 8 '[.repositories[].error == null] == [true, false, true]' list a_plain g_gone i_local
+remote_run 0 '[.repositories[].entries | length] == [5, 5]' list a_plain i_local
+remote_run 3 '.repositories[0].archives | length == 1 and .[0].reason == "unreadable-descriptor"' explain j_pipes
+remote_run 0 '.repositories[0].entries[0].name | contains("\u001b")' list k_hostile
+remote_run 3 '.error.code == 3' plan f_missing
+remote_run 3 '.error.code == 3' details g_gone tc-audio
+
+### What makes no sense
+run 2 '.error.code == 2' frobnicate
+run 2 '.error.code == 2'
+run 2 '.error.text | contains("bogus")' --bogus list
+local_run 2 '.error.code == 2' list 9
+local_run 2 '.error.text | contains("nothere")' explain nothere
+local_run 2 '.error.code == 2' details 2
+local_run 2 '.error.code == 2' details 2 tc-nothing
+local_run 2 '.error.code == 2' plan
+local_run 2 '.error.text | contains("tc-display")' plan 2 tc-display
+local_run 2 '.error.code == 2' plan 0 tc-system=6.2.0 tc-system=6.1.2
+local_run 2 '.error.code == 2' --timeout 0 status
+local_run 2 '.error.code == 2' --timeout soon status
+remote_run 2 '.error.text | contains("one server")' list a_plain b_login --user anna --password-file "$work/password"
+remote_run 2 '.error.code == 2' list b_login --user anna --password-file "$work/nofile"
+remote_run 2 '.error.code == 2' list b_login --user anna --password-file "$work/empty"
+remote_run 2 '.error.code == 2' list b_login --password-file "$work/password"
+remote_run 2 '.error.code == 2' list c_tls --accept-fingerprint 1234
+run 2 '.error.code == 2' --root "$work/nofile" status
+run 1 '.error.code == 1' --root "$work/no-definitions" status
+run 1 '.error.code == 1' --root "$work/no-definitions" repos
+run 1 '.error.text | contains(":1:")' --root "$root" --definitions "$work/broken" list
+run 1 '.error.text | contains("repository_list")' --root "$root" --definitions "$work/nothing" list
+
+check "nothing changed on the disk" diff <(echo "$before") <(state)
+
+### The same requests as the window's, each once
+: > "$work/requests"
+remote_run 0 '.error == null' list a_plain
+check "one listing, then each paired descriptor once" test "$(sort "$work/requests" | uniq -c | awk '{print $1, $3, $4}')" = \
+  "$(cd "$work/world/repos/packages" && { echo "1 GET /packages/"; for file in *.xml; do [ ! -e "${file%.xml}.deb" ] || echo "1 GET /packages/$file"; done; } | LC_ALL=C.UTF-8 sort)"
+
+### On a terminal
+timeout 30 "$ravelctl" --root "$root" --definitions "$definitions" details k_hostile "$(jq -rn '"bad\u001b]0;owned\u0007name"')" >"$work/out" 2>"$work/err" || wrong=$((wrong + 1))
+check "hostile texts are harmless" sh -c '! LC_ALL=C grep -qP "[\\x00-\\x08\\x0b-\\x1f\\x7f]|\\xc2[\\x80-\\x9f]|\\xe2\\x80\\xae" "$0" && grep -q "bad.u001b" "$0"' "$work/out"
+check "a full device is an error" sh -c '"$0" --root "$1" status >/dev/full 2>/dev/null; [ $? -eq 1 ]' "$ravelctl" "$root"
+check "quiet says nothing beside" sh -c '"$0" --quiet --root "$1" list >/dev/null 2>"$2" && [ ! -s "$2" ]' "$ravelctl" "$root" "$work/err"
+
+### Storing
+settings=$root/.config/Corvane/Ravel.conf
+local_run 2 '.error.text | contains("gopher")' location 0 gopher://host/x
+local_run 2 '.error.code == 2' location 0 'http://host:99999/'
+local_run 2 '.error.code == 2' proxy http nowhere
+local_run 2 '.error.code == 2' proxy smtp host:25
+local_run 2 '.error.code == 2' proxy host:25
+check "what is refused stores nothing" test ! -e "$settings"
+local_run 0 '.location == "http://mirror.example/p" and (.isDefault | not)' location package_uri http://mirror.example/p
+check "the settings are their owner's alone" test "$(stat -c %a "$settings")" = 600
+local_run 0 '.repositories[2].location == "http://mirror.example/p"' repos
+local_run 0 '.isDefault' location package_uri default
+check "the default leaves no key" sh -c '! grep -q package_uri "$0"' "$settings"
+local_run 0 '.location == ""' location package_uri ''
+local_run 0 '.repositories[0].entries == []' list package_uri
+local_run 0 '.isDefault' location package_uri default
+local_run 0 '[.proxies[].used.server] == ["px", null, null] and .style == "manual"' proxy http px:3128
+local_run 0 '[.proxies[].used.server] == ["px", null, "::1"]' proxy ftp '[::1]:21'
+local_run 0 '[.proxies[].used.server] == ["all", "all", "all"] and .useForAll' proxy all all:8080
+local_run 0 '[.proxies[].used.server] == ["all", null, "all"]' proxy https none
+check "the keys are the options page's" sh -c 'grep -q "^server_HTTP=all" "$0" && grep -q "^port_HTTP=8080" "$0" && grep -q "^style=2" "$0" && grep -q "^useForAll=false" "$0"' "$settings"
+check "still its owner's alone" test "$(stat -c %a "$settings")" = 600
+remote_run 3 '.repositories[0].error.code > 0' list a_plain
+local_run 0 '.style == "none" and .proxies[0].used == null and .proxies[0].stored.server == "all"' proxy none
+remote_run 0 '.repositories[0].entries | length == 5' list a_plain
+if [ "$(id -u)" -ne 0 ]; then
+  chmod 500 "$(dirname "$settings")" && chmod 400 "$settings"
+  local_run 1 '.error.code == 1' location package_uri http://mirror.example/p
+  chmod 700 "$(dirname "$settings")" && chmod 600 "$settings"
+fi
+
+echo "$successes successes, $failures failures, $wrong wrong"
+[ "$wrong" -eq 0 ] && [ "$successes" -ge 20 ] && [ "$failures" -ge 20 ]
