@@ -22,7 +22,8 @@ void RVKeyring::forget(const QString &place, const RVLogin &refused)
 bool RVKeyring::answer(const QNetworkProxy &proxy, QAuthenticator *auth) const
 {
     const RVLogin kept = login(placeOf(proxy));
-    if (kept.isEmpty()) {
+    const bool wasRefused = auth->user() == kept.user && auth->password() == kept.password;
+    if (kept.isEmpty() || wasRefused) {
         return false;
     }
     auth->setUser(kept.user);

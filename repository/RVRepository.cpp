@@ -65,6 +65,15 @@ RVRepository *RVRepository::fromDefinition(const RVRepDesc &definition, QObject 
 RVRepository::~RVRepository()
 {
     const QPointer<XNetworkReply> reply = m_reply;
+    if (m_questions > 0) {
+        // Qt goes on with the transfer that asks when the question returns: what it belongs to
+        // stays until then.
+        for (QObject *owner : std::initializer_list<QObject *>{m_manager, m_descFetch}) {
+            if (owner) {
+                owner->setParent(nullptr);
+            }
+        }
+    }
     dropRefresh();
     delete reply;
 }
@@ -335,7 +344,12 @@ void RVRepository::relayProxyAuthenticationRequired(const QNetworkProxy &proxy,
 
 void RVRepository::relaySslErrors(QNetworkReply *reply, const QList<QSslError> &errors)
 {
+    const QPointer<RVRepository> self(this);
+    ++m_questions;
     Q_EMIT sslErrors(reply, errors);
+    if (self) {
+        --m_questions;
+    }
 }
 
 void RVRepository::deleteSenderLater(XNetworkReply * /*reply*/)

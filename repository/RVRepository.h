@@ -119,6 +119,8 @@ private:
     QPointer<XNetworkReply> m_reply;
     RVDescFetch *m_descFetch = nullptr;
     int m_generation = 0;
+    /// Questions about certificates that are open; their receiver may run an event loop.
+    int m_questions = 0;
     QNetworkReply::NetworkError m_error = QNetworkReply::NoError;
     SortKey m_sortKey;
     QString m_proxyHost;

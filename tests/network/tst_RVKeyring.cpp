@@ -54,6 +54,8 @@ private Q_SLOTS:
         QVERIFY(keyring.answer(proxy(), &auth));
         QCOMPARE(auth.user(), rightLogin.user);
         QCOMPARE(auth.password(), rightLogin.password);
+        // It is the one that was refused.
+        QVERIFY(!keyring.answer(proxy(), &auth));
         // A type is no part of the place, a port is.
         QAuthenticator other;
         QVERIFY(keyring.answer(
