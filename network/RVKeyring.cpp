@@ -19,11 +19,12 @@ void RVKeyring::forget(const QString &place, const RVLogin &refused)
     }
 }
 
-bool RVKeyring::answer(const QNetworkProxy &proxy, QAuthenticator *auth) const
+bool RVKeyring::answer(const QNetworkProxy &proxy, QAuthenticator *auth)
 {
-    const RVLogin kept = login(placeOf(proxy));
-    const bool wasRefused = auth->user() == kept.user && auth->password() == kept.password;
-    if (kept.isEmpty() || wasRefused) {
+    const QString place = placeOf(proxy);
+    forget(place, {auth->user(), auth->password()});
+    const RVLogin kept = login(place);
+    if (kept.isEmpty()) {
         return false;
     }
     auth->setUser(kept.user);

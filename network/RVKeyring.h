@@ -36,8 +36,9 @@ public:
     void forget(const QString &place, const RVLogin &refused);
 
     /// Fills in the login for the proxy; false when none is kept, and the user has to be asked.
-    /// A refused one is forgotten by XNetworkAccessManager before anyone is asked for another.
-    bool answer(const QNetworkProxy &proxy, QAuthenticator *auth) const;
+    /// What the authenticator shows has been refused and is forgotten; where it shows nothing,
+    /// XNetworkAccessManager tells.
+    bool answer(const QNetworkProxy &proxy, QAuthenticator *auth);
 
 private:
     QHash<QString, RVLogin> m_logins;

@@ -56,6 +56,8 @@ private Q_SLOTS:
         QCOMPARE(auth.password(), rightLogin.password);
         // It is the one that was refused.
         QVERIFY(!keyring.answer(proxy(), &auth));
+        QVERIFY(keyring.login(place).isEmpty());
+        keyring.keep(place, rightLogin);
         // A type is no part of the place, a port is.
         QAuthenticator other;
         QVERIFY(keyring.answer(

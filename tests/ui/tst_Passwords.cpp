@@ -183,6 +183,7 @@ void TestPasswords::stayHidden_data()
         RVRepository *repository = this->repository(QUrl());
         repository->setUrl(url);
         repository->setUrl(url.toString());
+        repository->refresh();
         repository->cancel();
     });
     rows("a section's pages", "dir/", [this](const QUrl &url) {
