@@ -335,7 +335,13 @@ echo "Installing service pack $name"
 cp -R "./$name/." "$root/"
 echo "$name" >> "$root/etc/service-packs/installed"
 TOOL
-chmod 0755 "$root/usr/bin/cvtc-hwsw-id" "$root/usr/sbin/xarinstall"
+cat > "$root/usr/sbin/cvtc-ts-reboot" <<'TOOL'
+#!/bin/sh
+# Where the device would restart into the deployment of an image, this world takes a note.
+root=$(cd "$(dirname "$0")/../.." && pwd)
+echo "Restarting" | tee -a "$root/var/log/restarts"
+TOOL
+chmod 0755 "$root"/usr/bin/cvtc-hwsw-id "$root"/usr/sbin/{xarinstall,cvtc-ts-reboot}
 
 # The package tool's own log belongs into this system too, not into the developer's.
 echo "log $root/var/log/dpkg.log" > "$root/.dpkg.cfg"

@@ -486,7 +486,8 @@ void HostWindow::retranslateUi()
     m_pageList->setAccessibleName(tr("Pages"));
     m_help->setAccessibleName(tr("Help"));
     m_modifiedText->setText(tr("System modified"));
-    m_modifiedMark->setToolTip(tr("Updates were installed since this window was opened."));
+    m_modifiedMark->setToolTip(
+        tr("Updates were installed or options set since this window was opened."));
     m_modifiedText->setAccessibleDescription(m_modifiedMark->toolTip());
     // A page that has told another help than its own tells it anew.
     for (WizardPage *page : pages()) {

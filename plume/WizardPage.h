@@ -23,6 +23,6 @@ public:
     virtual QString helpText() const = 0;
 
 Q_SIGNALS:
-    /// The page changed the system.
+    /// The page changed the system, or what is set for it.
     void modified();
 };

@@ -100,8 +100,8 @@
         <translation>System geändert</translation>
     </message>
     <message>
-        <source>Updates were installed since this window was opened.</source>
-        <translation>Seit dem Öffnen dieses Fensters wurden Updates installiert.</translation>
+        <source>Updates were installed or options set since this window was opened.</source>
+        <translation>Seit dem Öffnen dieses Fensters wurden Updates installiert oder Optionen gesetzt.</translation>
     </message>
 </context>
 </TS>

@@ -100,8 +100,8 @@
         <translation>Système modifié</translation>
     </message>
     <message>
-        <source>Updates were installed since this window was opened.</source>
-        <translation>Des mises à jour ont été installées depuis l’ouverture de cette fenêtre.</translation>
+        <source>Updates were installed or options set since this window was opened.</source>
+        <translation>Des mises à jour ont été installées ou des options modifiées depuis l’ouverture de cette fenêtre.</translation>
     </message>
 </context>
 </TS>

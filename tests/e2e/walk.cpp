@@ -22,11 +22,15 @@
 #include <QProgressBar>
 #include <QScreen>
 #include <QTableWidget>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTest>
 #include <QTextDocumentFragment>
 #include <QTextEdit>
 #include <QTextStream>
+#include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <unistd.h>
@@ -112,6 +116,14 @@ void click(QWidget *widget)
     QTest::mouseClick(widget, Qt::LeftButton);
 }
 
+/// Each key to what has the focus by then.
+void type(const QString &text)
+{
+    for (const QChar key : text) {
+        QTest::keyClick(QApplication::focusWidget(), key.toLatin1());
+    }
+}
+
 class Walk
 {
 public:
@@ -144,6 +156,13 @@ private:
     void installApplications();
     void checkInstalledApplications();
     void checkImages();
+    void declineImage();
+    void installImage();
+    void openOptions();
+    void setProxy();
+    void changeLocation();
+    void restoreLocations();
+    void removeProxy();
     void checkLog();
     void closeWindow();
 
@@ -158,6 +177,10 @@ private:
     QByteArray contents(const QString &path) const;
     QStringList installedPackages() const;
     void chooseLanguage(const QString &code);
+    void showPage(const char *className, Qt::Key key);
+    void answer(const QString &buttonText, const QString &screenshotName);
+    QWidget *options() const { return findByClass(m_window.get(), "RVAdvPage"); }
+    QByteArray settings() const;
     void picture(const QString &name);
     void screenshot(const QString &name);
 
@@ -165,6 +188,8 @@ private:
     QString m_screenshots;
     std::unique_ptr<HostWindow> m_window;
     QWidget *m_section = nullptr;
+    QTcpServer m_proxy;
+    QByteArray m_proxyRequest;
 };
 
 void Walk::step(const char *what, const std::function<void()> &body)
@@ -239,6 +264,27 @@ bool Walk::run()
         });
         step("one of the images can be chosen", [this] {
             checkImages();
+        });
+        step("the question before an image is answered with no", [this] {
+            declineImage();
+        });
+        step("it is answered with yes, and the device would restart", [this] {
+            installImage();
+        });
+        step("the options page opens", [this] {
+            openOptions();
+        });
+        step("a proxy is entered, its port corrected", [this] {
+            setProxy();
+        });
+        step("a location is changed, and its section follows through the proxy", [this] {
+            changeLocation();
+        });
+        step("the defaults are restored, and the section follows", [this] {
+            restoreLocations();
+        });
+        step("the proxy is switched off again", [this] {
+            removeProxy();
         });
         step("the log tells the story", [this] {
             checkLog();
@@ -715,22 +761,246 @@ QByteArray Walk::contents(const QString &path) const
     return file.readAll();
 }
 
+/// Once the question is there: whoever asks it waits in an event loop of its own.
+void Walk::answer(const QString &buttonText, const QString &screenshotName)
+{
+    auto *timer = new QTimer(m_window.get());
+    QObject::connect(timer, &QTimer::timeout, timer, [this, timer, buttonText, screenshotName] {
+        QDialog *box = dialog("QMessageBox");
+        if (!box) {
+            return;
+        }
+        timer->stop();
+        timer->deleteLater();
+        screenshot(screenshotName);
+        click(button(box, buttonText));
+    });
+    timer->start(10);
+}
+
+void Walk::declineImage()
+{
+    answer(QStringLiteral("Abort"), QStringLiteral("image-question"));
+    startInstallation();
+    finishInstallation({}, QStringLiteral("image-declined"));
+    require(!QFileInfo::exists(m_root + QLatin1String("/writable/CV/Snapstow.conf")),
+            QStringLiteral("the image is deployed all the same"));
+}
+
+void Walk::installImage()
+{
+    answer(QStringLiteral("Apply"), QStringLiteral("image-question-again"));
+    startInstallation();
+    finishInstallation({QStringLiteral("Restarting")}, QStringLiteral("image-installed"));
+    require(contents(QStringLiteral("/var/log/restarts")) == "Restarting\n",
+            QStringLiteral("not exactly one restart"));
+    const QByteArray configuration = contents(QStringLiteral("/writable/CV/Snapstow.conf"));
+    require(configuration.contains("\nremote-deploy.proto=file\n")
+                && configuration.contains("/repos/images/tc-system-6.2.0.dd.gz\n"),
+            QString::fromUtf8(configuration));
+}
+
+void Walk::showPage(const char *className, Qt::Key key)
+{
+    auto *list = m_window->findChild<QListWidget *>(QStringLiteral("pageList"));
+    list->setFocus();
+    QTest::keyClick(list, key);
+    waitFor(
+        [this, className] {
+            return findByClass(m_window.get(), className);
+        },
+        QLatin1String(className));
+}
+
+QByteArray Walk::settings() const
+{
+    return contents(QStringLiteral("/.config/Corvane/Ravel.conf"));
+}
+
+void Walk::openOptions()
+{
+    showPage("RVAdvPage", Qt::Key_End);
+    const auto *help = m_window->findChild<QTextEdit *>(QStringLiteral("helpPane"));
+    require(help->toPlainText().startsWith(QLatin1String("Advanced options for Ravel")),
+            QStringLiteral("the help pane does not follow the page"));
+    screenshot(QStringLiteral("options"));
+    const QWidget *field = options()->findChild<QWidget *>(QStringLiteral("location"));
+    const auto isCalled = [field](const QString &name) {
+        return [field, name] {
+            return field->accessibleName() == name;
+        };
+    };
+    chooseLanguage(QStringLiteral("de"));
+    waitFor(isCalled(QStringLiteral("Ort der Abbilder")), QStringLiteral("German label"));
+    screenshot(QStringLiteral("options-german"));
+    chooseLanguage(QStringLiteral("en"));
+    waitFor(isCalled(QStringLiteral("Image location")), QStringLiteral("English label"));
+}
+
+void Walk::setProxy()
+{
+    // It answers that there is nothing in the directory.
+    QObject::connect(&m_proxy, &QTcpServer::newConnection, &m_proxy, [this] {
+        QTcpSocket *socket = m_proxy.nextPendingConnection();
+        QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
+            m_proxyRequest += socket->readAll();
+            socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nContent-Length: 13\r\n"
+                          "Connection: close\r\n\r\n<html></html>");
+            socket->disconnectFromHost();
+        });
+    });
+    require(m_proxy.listen(QHostAddress::LocalHost), QStringLiteral("no proxy"));
+
+    click(section(QStringLiteral("Networking Proxies"))
+              ->findChild<QAbstractButton *>(QStringLiteral("accordionHeading")));
+    const auto *help = m_window->findChild<QTextEdit *>(QStringLiteral("helpPane"));
+    require(help->toPlainText() == QLatin1String("Proxy servers for internet access"),
+            QStringLiteral("the help pane does not follow the frame"));
+    auto *manual = options()->findChild<QAbstractButton *>(QStringLiteral("manualProxies"));
+    manual->setFocus();
+    QTest::keyClick(manual, Qt::Key_Space);
+    QTest::keyClick(manual, Qt::Key_Tab);
+    type(QStringLiteral("127.0.0.1"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    type(QStringLiteral("3128a"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    const auto *warning = options()->findChild<QLabel *>(QStringLiteral("portWarning"));
+    waitFor(
+        [warning] {
+            return warning->isVisible();
+        },
+        QStringLiteral("warning about the port"));
+    screenshot(QStringLiteral("options-bad-port"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F2);
+    type(QString::number(m_proxy.serverPort()));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    waitFor(
+        [warning] {
+            return !warning->isVisible();
+        },
+        QStringLiteral("end of the warning"));
+    auto *useSame = options()->findChild<QAbstractButton *>(QStringLiteral("useSameForAll"));
+    useSame->setFocus();
+    QTest::keyClick(useSame, Qt::Key_Space);
+    screenshot(QStringLiteral("options-proxies"));
+    // Return is OK.
+    QTest::keyClick(useSame, Qt::Key_Return);
+    waitFor(
+        [this] {
+            return settings().contains("server_HTTP=127.0.0.1\n")
+                && settings().contains("useForAll=true\n");
+        },
+        QStringLiteral("stored proxy"));
+}
+
+void Walk::changeLocation()
+{
+    click(section(QStringLiteral("Repository Locations"))
+              ->findChild<QAbstractButton *>(QStringLiteral("accordionHeading")));
+    QWidget *field = nullptr;
+    const QList<QWidget *> fields = options()->findChildren<QWidget *>(QStringLiteral("location"));
+    for (QWidget *candidate : fields) {
+        if (candidate->accessibleName() == QLatin1String("Application location")) {
+            field = candidate;
+        }
+    }
+    require(fields.size() == 4 && field, QStringLiteral("no such field"));
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+    type(QStringLiteral("http://updates.example/applications/"));
+    QTest::keyClick(field, Qt::Key_Return);
+    showPage("RVMainPage", Qt::Key_Up);
+    m_section = section(QStringLiteral("Applications"));
+    auto *heading = m_section->findChild<QAbstractButton *>(QStringLiteral("accordionHeading"));
+    if (!heading->isChecked()) {
+        click(heading);
+    }
+    waitFor(
+        [this] {
+            return m_proxyRequest.contains("GET http://updates.example/applications/ HTTP/1.1");
+        },
+        QStringLiteral("request to the proxy"));
+    waitFor(
+        [this] {
+            const QList<QLabel *> labels = m_section->findChildren<QLabel *>();
+            return std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
+                return label->isVisible()
+                    && plain(label->text())
+                    == QLatin1String("No updates of this type are available.");
+            });
+        },
+        QStringLiteral("end of the retrieval"));
+    require(settings().contains("application_uri=http://updates.example/applications/\n"),
+            QStringLiteral("the location is not stored"));
+}
+
+void Walk::restoreLocations()
+{
+    showPage("RVAdvPage", Qt::Key_Down);
+    click(button(options(), QStringLiteral("Restore Defaults")));
+    screenshot(QStringLiteral("options-defaults"));
+    click(button(options(), QStringLiteral("OK")));
+    showPage("RVMainPage", Qt::Key_Up);
+    waitFor(
+        [this] {
+            return table() && table()->isVisible() && table()->rowCount() == 2;
+        },
+        QStringLiteral("table of the default location"));
+    requireEqual(rows(),
+                 {QStringLiteral("- tc-calculator 2.1-1 2.1-1"),
+                  QStringLiteral("- tc-clock 1:1.0-2 1:1.0-2")});
+    waitFor(
+        [this] {
+            return !settings().contains("application_uri");
+        },
+        QStringLiteral("end of the stored location"));
+}
+
+void Walk::removeProxy()
+{
+    showPage("RVAdvPage", Qt::Key_Down);
+    click(section(QStringLiteral("Networking Proxies"))
+              ->findChild<QAbstractButton *>(QStringLiteral("accordionHeading")));
+    auto *none = options()->findChild<QAbstractButton *>(QStringLiteral("noProxies"));
+    none->setFocus();
+    QTest::keyClick(none, Qt::Key_Space);
+    click(button(options(), QStringLiteral("OK")));
+    waitFor(
+        [this] {
+            return settings().contains("style=0\n");
+        },
+        QStringLiteral("stored choice"));
+    showPage("RVMainPage", Qt::Key_Up);
+}
+
 void Walk::checkLog()
 {
     const QString log = QString::fromUtf8(contents(
         getuid() == 0 ? QStringLiteral("/var/log/Ravel.log") : QStringLiteral("/tmp/Ravel.log")));
     int from = 0;
-    for (const char *line :
-         {": Base OS: 6.1.2\n", ": Service Pack List:\n", ":     -> SP-6.1.2-1\n",
-          ": Setting up repository('Image location')\n",
-          ": Setting up repository('Service pack location')\n",
-          ": Setting up repository('Package location')\n",
-          ": Setting up repository('Application location')\n", "/repos/packages'), Err=0\n",
-          ": Copying .deb file tc-audio_1.0-1_all.deb to local storage\n",
-          ":   Starting installation.\n", ": INSTALL FINISHED\n", ":   Starting installation.\n",
-          "/repos/service-packs/SP-6.1.2-4.sp.xar\n", ": INSTALL FINISHED\n",
-          ":     -> SP-6.1.2-4\n", ": Copying .deb file tc-clock_1.0-2_all.deb to local storage\n",
-          ": INSTALL FINISHED\n"}) {
+    for (const char *line : {": Base OS: 6.1.2\n",
+                             ": Service Pack List:\n",
+                             ":     -> SP-6.1.2-1\n",
+                             ": Setting up repository('Image location')\n",
+                             ": Setting up repository('Service pack location')\n",
+                             ": Setting up repository('Package location')\n",
+                             ": Setting up repository('Application location')\n",
+                             "/repos/packages'), Err=0\n",
+                             ": Copying .deb file tc-audio_1.0-1_all.deb to local storage\n",
+                             ":   Starting installation.\n",
+                             ": INSTALL FINISHED\n",
+                             ":   Starting installation.\n",
+                             "/repos/service-packs/SP-6.1.2-4.sp.xar\n",
+                             ": INSTALL FINISHED\n",
+                             ":     -> SP-6.1.2-4\n",
+                             ": Copying .deb file tc-clock_1.0-2_all.deb to local storage\n",
+                             ": INSTALL FINISHED\n",
+                             ": Image installation aborted by user.\n",
+                             ": Proxy for HTTP is 127.0.0.1:",
+                             ": New repository URI (3) 'http://updates.example/applications/'\n",
+                             ":   Using proxy 127.0.0.1:",
+                             ": New repository URI (3) 'file://",
+                             ": Proxy for FTP is :-1\n"}) {
         const int at = log.indexOf(QLatin1String(line), from);
         require(
             at >= 0,
