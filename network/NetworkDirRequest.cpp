@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "network/NetworkDirRequest.h"
 
+#include "network/NetworkDirRequestFtp.h"
 #include "network/NetworkDirRequestHttp.h"
 #include "network/NetworkDirRequestLocal.h"
 
@@ -17,6 +18,9 @@ std::unique_ptr<NetworkDirRequestBase> makeBackend(const QUrl &url)
     }
     if (scheme == QLatin1String("http") || scheme == QLatin1String("https")) {
         return std::make_unique<NetworkDirRequestHttp>(url);
+    }
+    if (scheme == QLatin1String("ftp")) {
+        return std::make_unique<NetworkDirRequestFtp>(url);
     }
     return nullptr;
 }
