@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlLocation.h"
 
+#include "core/RVLogger.h"
 #include "core/RVSettings.h"
 #include "network/XNetworkAccessManager.h"
 #include "repository/RVRepDesc.h"
@@ -106,6 +107,8 @@ RVCtlResult RVCtlLocation::run(const RVCtlCall &call)
             call.messages.warning(
                 QStringLiteral("'%1' is relative to wherever the program runs.").arg(text));
         }
+        RVLogger().log(5, "New repository URI (%d) '%s'", section->index,
+                       RVLogger::oneLine(urlText(url)).constData());
         repository->setUrl(url);
         if (!areSettingsStored()) {
             return RVCtlResult::failed(RVCtlExit::Failed,

@@ -180,6 +180,30 @@ run 0 '.help | contains("Commands:")' --help
 run 0 '.help | contains("--exit-code")' list --help
 run 0 '.version | startswith("ravelctl ")' --version
 
+### The keys that docs/ravelctl-json.md promises, and no others
+keys()
+{
+  local filter=$1 expected=$2
+  shift 2
+  local_run 0 "[$filter | keys_unsorted | sort | join(\" \")] | unique == [\"$expected\"]" "$@"
+}
+entry='archive descriptor installed installedSize name offered preselected reason size state title unpackedSize version'
+section='descriptorErrors error index location selector title'
+keys . 'architecture baseSystem error model packages servicePacks' status
+keys '.repositories[]' 'default description filterServicePacks filters icon index location locationLabel selector settingsKey title' repos
+keys '.repositories[]' "descriptorErrors entries ${section#* }" list
+keys '.repositories[].entries[]' "$entry" list --all
+keys '.repositories[]' "archives $section" explain
+keys '.repositories[].archives[]' 'archive offered reason text' explain
+keys . 'architectures archive baseReleases contents descriptor error installed installedSize models name notes notesText offered preselected reason size state title unpackedSize version' details 2 tc-audio
+keys . 'downloadSize downloads error installer updates' plan 2
+keys '.installer' 'arguments program script' plan 2
+keys '.downloads[]' 'size url' plan 2
+keys . 'default error index isDefault location settingsKey' location 2
+keys . 'error proxies style useForAll' proxy
+keys '.proxies[]' 'stored type used' proxy
+local_run 0 '[.repositories[].entries[].state] | unique == ["current", "new", "update"]' list
+
 ### Reading, remote
 remote_run 0 '.repositories[0] | .error == null and (.entries | length) == 5' list a_plain
 remote_run 0 '.repositories[0].entries | length == 5' list b_login --user anna --password-file "$work/password"
