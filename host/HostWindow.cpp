@@ -55,20 +55,28 @@ protected:
     }
 };
 
-/// The name of a language in that language, with a capital letter as menus have it.
+/// The name of a language in that language. Catalogues say it themselves, as what stands for
+/// "English"; Qt's names have the country in them.
 QString languageName(const QString &code)
 {
-    QString name = QLocale(code).nativeLanguageName();
     if (code == QLatin1String("en")) {
-        name = QStringLiteral("English");
+        return QStringLiteral("English");
     }
-    return name.isEmpty() ? code : name.left(1).toUpper() + name.mid(1);
+    // In variables: the text is none of this window's.
+    constexpr char context[] = "MainWindow";
+    constexpr char english[] = "English";
+    QTranslator catalogue;
+    QString name;
+    if (catalogue.load(QLatin1String("ravel_") + code, QStringLiteral(":/translations"))) {
+        name = catalogue.translate(context, english);
+    }
+    return name.isEmpty() ? QLocale(code).nativeLanguageName() : name;
 }
 
 /// The languages of the catalogues that are compiled in; the source texts are English.
 QStringList catalogueLanguages()
 {
-    QStringList codes{QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("fr")};
+    QStringList codes{QStringLiteral("en")};
     static const QRegularExpression catalogue(QStringLiteral("^ravel(?:-host)?_(\\w+)\\.qm$"));
     const QStringList files = QDir(QStringLiteral(":/translations")).entryList();
     for (const QString &file : files) {
@@ -120,7 +128,7 @@ HostWindow::HostWindow(QWidget *parent)
 {
     // A static library's resources are linked in only when they are named.
     Q_INIT_RESOURCE(host);
-    Q_INIT_RESOURCE(host_translations);
+    Q_INIT_RESOURCE(ravel_host_translations);
     setObjectName(QStringLiteral("hostWindow"));
     setWindowIcon(QIcon(QStringLiteral(":/host/ravel.svg")));
     buildMenus();
@@ -311,15 +319,17 @@ void HostWindow::installTranslators(const QLocale &locale)
         QCoreApplication::removeTranslator(translator.get());
     }
     m_translators.clear();
-    const QString ours = QStringLiteral(":/translations");
-    const QString qts = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+    // The source texts are the catalogue of English, also where other languages come after it.
+    if (QLocale(locale.uiLanguages().value(0)).language() == QLocale::English) {
+        return;
+    }
+    // The library sees to its own texts.
     const struct {
         QString name;
         QString directory;
     } catalogues[] = {
-        {QStringLiteral("qtbase"), qts},
-        {QStringLiteral("ravel"), ours},
-        {QStringLiteral("ravel-host"), ours},
+        {QStringLiteral("qtbase"), QLibraryInfo::location(QLibraryInfo::TranslationsPath)},
+        {QStringLiteral("ravel-host"), QStringLiteral(":/translations")},
     };
     for (const auto &catalogue : catalogues) {
         auto translator = std::make_unique<QTranslator>();

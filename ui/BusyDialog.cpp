@@ -161,8 +161,24 @@ void BusyDialog::updateNames()
     m_detailsView->setAccessibleName(tr("Installer output"));
 }
 
+void BusyDialog::setBarText(BarText text)
+{
+    m_barText = text;
+    switch (text) {
+    case NoBarText:
+        break;
+    case AmountText:
+        m_progressBar->setFormat(tr("%v of %m KiB", "e.g. 500 of 1000 KiB"));
+        break;
+    case DoneText:
+        m_progressBar->setFormat(tr("%p%:  Done", "%p is percentage done."));
+        break;
+    }
+}
+
 void BusyDialog::setLabelText(const QString &text)
 {
+    m_labelSaysInstalling = false;
     m_labelTextIsDefault = false;
     m_label->setText(text);
     updateNames();
@@ -263,7 +279,7 @@ void BusyDialog::reject()
 void BusyDialog::progress(qint64 bytesReceived, qint64 bytesTotal)
 {
     const int total = toKiB(bytesTotal);
-    m_progressBar->setFormat(tr("%v of %m KiB", "e.g. 500 of 1000 KiB"));
+    setBarText(AmountText);
     m_progressBar->setRange(0, total);
     m_progressBar->setValue(qMin(toKiB(bytesReceived), total));
 }
@@ -271,6 +287,7 @@ void BusyDialog::progress(qint64 bytesReceived, qint64 bytesTotal)
 void BusyDialog::enterInstallPhase()
 {
     setLabelText(tr("Installing updates..."));
+    m_labelSaysInstalling = true;
     m_progressBar->setValue(0);
     m_progressBar->setRange(0, 0);
 }
@@ -282,7 +299,7 @@ void BusyDialog::finished()
     m_isFinished = true;
     m_progressBar->setRange(0, 100);
     m_progressBar->setValue(100);
-    m_progressBar->setFormat(tr("%p%:  Done", "%p is percentage done."));
+    setBarText(DoneText);
     cancelButton()->hide();
     closeButton()->show();
     closeButton()->setDefault(true);
@@ -513,7 +530,10 @@ void BusyDialog::retranslateUi()
 {
     if (m_labelTextIsDefault) {
         m_label->setText(tr("In progress..."));
+    } else if (m_labelSaysInstalling) {
+        m_label->setText(tr("Installing updates..."));
     }
+    setBarText(m_barText);
     if (m_cancelTextIsDefault) {
         m_cancelText = tr("Cancel");
     }

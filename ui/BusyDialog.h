@@ -91,9 +91,17 @@ private:
         bool isError;
     };
 
+    /// Which of the dialog's own texts the bar shows, so that it can be said in another language.
+    enum BarText {
+        NoBarText,
+        AmountText,
+        DoneText,
+    };
+
     void setup(const QString &labelText, const QString &cancelText, int minimum, int maximum);
     void applyCancelText(const QString &text);
     void updateNames();
+    void setBarText(BarText text);
     void resetChannels();
     void append(Channel &channel, const QByteArray &bytes);
     void appendText(const QString &text, bool isError);
@@ -104,6 +112,8 @@ private:
 
     QLabel *m_label = nullptr;
     bool m_labelTextIsDefault = false;
+    bool m_labelSaysInstalling = false;
+    BarText m_barText = NoBarText;
     bool m_cancelTextIsDefault = false;
     QString m_cancelText;
     QProgressBar *m_progressBar = nullptr;

@@ -6,7 +6,45 @@
 
 #include <QAbstractButton>
 #include <QCoreApplication>
+#include <QEvent>
 #include <QMessageBox>
+
+namespace
+{
+
+/// Asks in the language that the application has at the time.
+class Question : public QMessageBox
+{
+public:
+    Question()
+    {
+        setIcon(Warning);
+        setStandardButtons(Abort | Apply);
+        retranslateUi();
+    }
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        if (event->type() == QEvent::LanguageChange) {
+            retranslateUi();
+        }
+        QMessageBox::changeEvent(event);
+    }
+
+private:
+    void retranslateUi()
+    {
+        // The catalogues have the texts under the archive that asks.
+        setText(QCoreApplication::translate("ArchiveDDImage", "Full-Image install pending."));
+        setInformativeText(QCoreApplication::translate(
+            "ArchiveDDImage",
+            "Installation of a new image will force a reboot and completely wipe out the existing "
+            "disk image on the thin client, including all settings.  Do you want to continue?"));
+    }
+};
+
+} // namespace
 
 ImageInstallBox::ImageInstallBox(const RVPaths &paths)
     : m_paths(paths)
@@ -15,14 +53,7 @@ ImageInstallBox::ImageInstallBox(const RVPaths &paths)
 
 bool ImageInstallBox::confirmImageInstall()
 {
-    // The catalogues have the texts under the archive that asks.
-    QMessageBox box(QMessageBox::Warning, QString(),
-                    QCoreApplication::translate("ArchiveDDImage", "Full-Image install pending."),
-                    QMessageBox::Abort | QMessageBox::Apply);
-    box.setInformativeText(QCoreApplication::translate(
-        "ArchiveDDImage",
-        "Installation of a new image will force a reboot and completely wipe out the existing disk "
-        "image on the thin client, including all settings.  Do you want to continue?"));
+    Question box;
     const RVStyle style(m_paths);
     box.button(QMessageBox::Abort)->setIcon(style.StdIcon(RVStyle::Abort));
     box.button(QMessageBox::Apply)->setIcon(style.StdIcon(RVStyle::Apply));

@@ -4,12 +4,14 @@
 
 #include "ui/RVAdvPage.h"
 #include "ui/RVMainPage.h"
+#include "ui/RVTranslator.h"
 
 #include <plume/PlumeMainWindow.h>
 #include <plume/TitlePage.h>
 
 RVSection::RVSection(PlumeMainWindow *window, QObject *parent, const RVPaths &paths)
     : QObject(parent)
+    , m_translator(std::make_unique<RVTranslator>())
 {
     // Made before anything is added: a host whose section cannot work gets no half of it.
     auto *mainPage = new RVMainPage(window, window, {}, paths);

@@ -7,10 +7,14 @@
 #include <QObject>
 #include <QPointer>
 
+#include <memory>
+
 class PlumeMainWindow;
+class RVTranslator;
 class TitlePage;
 
 /// The library's entry: constructing it adds the library's pages to the host's window.
+/// It brings the library's texts in the language of QLocale() with it.
 /// The constructor passes RVMainPage::ExceptionType on when the pages cannot work.
 class Q_DECL_EXPORT RVSection : public QObject
 {
@@ -26,5 +30,6 @@ public Q_SLOTS:
     void retranslateUi();
 
 private:
+    std::unique_ptr<RVTranslator> m_translator;
     QPointer<TitlePage> m_titlePage;
 };

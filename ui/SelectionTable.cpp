@@ -267,10 +267,14 @@ void SelectionTable::install()
 
     m_busyDialog = new BusyDialog(tr("Retrieving updates..."), tr("Cancel"), 0, 100, window());
     BusyDialog *dialog = m_busyDialog;
+    m_isRetrieving = true;
     dialog->setWindowModality(Qt::WindowModal);
     dialog->setAutoClose(false);
     dialog->setAutoReset(false);
     connect(m_procedure, &RVInstallProc::extractFinished, dialog, &BusyDialog::disableCancel);
+    connect(m_procedure, &RVInstallProc::extractFinished, this, [this] {
+        m_isRetrieving = false;
+    });
     connect(dialog, &BusyDialog::canceled, m_procedure, &RVInstallProc::cancel);
     connect(dialog, &BusyDialog::canceled, dialog, &QWidget::hide);
     connect(dialog, &BusyDialog::canceled, dialog, &QObject::deleteLater);
@@ -369,8 +373,20 @@ void SelectionTable::relaySslErrors(QNetworkReply *reply, const QList<QSslError>
     Q_EMIT sslErrors(reply, errors);
 }
 
+void SelectionTable::retranslateDialog()
+{
+    // The dialog sees to its own texts; these two it was given.
+    if (m_busyDialog && m_isRetrieving) {
+        m_busyDialog->setLabelText(tr("Retrieving updates..."));
+        if (m_procedure) {
+            m_busyDialog->setCancelButtonText(tr("Cancel"));
+        }
+    }
+}
+
 void SelectionTable::retranslateUi()
 {
+    retranslateDialog();
     setAccessibleName(tr("Updates"));
     setHorizontalHeaderLabels(
         {QString(), tr("Update", "Short column header -- the noun, not the verb, e.g. 'Title'"),

@@ -115,6 +115,7 @@ private:
 
     void fillRow(int row, const RVProposal &proposal);
     void toggle(int row);
+    void retranslateDialog();
     void applyFonts();
     void fitToContents();
     void endInstallation();
@@ -135,4 +136,5 @@ private:
     int m_proxyPort = -2;
     RVInstallProc *m_procedure = nullptr;
     QPointer<BusyDialog> m_busyDialog;
+    bool m_isRetrieving = false;
 };

@@ -4,19 +4,19 @@
 <context>
     <name>HostWindow</name>
     <message>
-        <source>The directory with the repository definitions, "%1", does not exist.</source>
+        <source>The directory with the repository definitions, &quot;%1&quot;, does not exist.</source>
         <translation>Das Verzeichnis mit den Repository-Definitionen, „%1“, ist nicht vorhanden.</translation>
     </message>
     <message>
-        <source>A repository definition file in "%1" is not a valid repository list. The log file says which one.</source>
+        <source>A repository definition file in &quot;%1&quot; is not a valid repository list. The log file says which one.</source>
         <translation>Eine Definitionsdatei in „%1“ ist keine gültige Repository-Liste. Die Protokolldatei nennt sie.</translation>
     </message>
     <message>
-        <source>The definition files in "%1" define no repository.</source>
+        <source>The definition files in &quot;%1&quot; define no repository.</source>
         <translation>Die Definitionsdateien in „%1“ definieren kein Repository.</translation>
     </message>
     <message>
-        <source>The identification of the installed image, "%1", cannot be read.</source>
+        <source>The identification of the installed image, &quot;%1&quot;, cannot be read.</source>
         <translation>Die Kennung des installierten Abbilds, „%1“, ist nicht lesbar.</translation>
     </message>
     <message>

@@ -4,19 +4,19 @@
 <context>
     <name>HostWindow</name>
     <message>
-        <source>The directory with the repository definitions, "%1", does not exist.</source>
+        <source>The directory with the repository definitions, &quot;%1&quot;, does not exist.</source>
         <translation>Le répertoire des définitions de dépôts, « %1 », n’existe pas.</translation>
     </message>
     <message>
-        <source>A repository definition file in "%1" is not a valid repository list. The log file says which one.</source>
+        <source>A repository definition file in &quot;%1&quot; is not a valid repository list. The log file says which one.</source>
         <translation>Un fichier de définition dans « %1 » n’est pas une liste de dépôts valide. Le journal dit lequel.</translation>
     </message>
     <message>
-        <source>The definition files in "%1" define no repository.</source>
+        <source>The definition files in &quot;%1&quot; define no repository.</source>
         <translation>Les fichiers de définition dans « %1 » ne définissent aucun dépôt.</translation>
     </message>
     <message>
-        <source>The identification of the installed image, "%1", cannot be read.</source>
+        <source>The identification of the installed image, &quot;%1&quot;, cannot be read.</source>
         <translation>L’identification de l’image installée, « %1 », n’est pas lisible.</translation>
     </message>
     <message>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation>&amp;Aide</translation>
+        <translation>Aid&amp;e</translation>
     </message>
     <message>
         <source>&amp;About Ravel</source>

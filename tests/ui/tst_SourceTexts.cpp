@@ -17,7 +17,9 @@
 
 #include <plume/AccordionItem.h>
 
+#include <QAuthenticator>
 #include <QLineEdit>
+#include <QNetworkProxy>
 #include <QSet>
 #include <QTest>
 #include <QTranslator>
@@ -74,6 +76,9 @@ private Q_SLOTS:
                                 world.paths());
         const RVControlFrame frame(&repository, &system, SelectionTable::CheckBoxes, QString(),
                                    QString(), QIcon(), false, nullptr, world.paths());
+        QAuthenticator auth;
+        Q_EMIT repository.proxyAuthenticationRequired(
+            QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("proxy.example"), 3128), &auth);
         RVAdvPage options(nullptr);
         options.title();
         options.description();

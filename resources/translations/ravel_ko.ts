@@ -1,0 +1,709 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko" sourcelanguage="en">
+<context>
+    <name>ArchiveDDImage</name>
+    <message>
+        <source>Full-Image install pending.</source>
+        <translation>전체 이미지 설치가 대기 중입니다.</translation>
+    </message>
+    <message>
+        <source>Installation of a new image will force a reboot and completely wipe out the existing disk image on the thin client, including all settings.  Do you want to continue?</source>
+        <translation>새 이미지를 설치하면 시스템이 다시 시작되고 모든 설정을 포함하여 씬 클라이언트의 기존 디스크 이미지가 완전히 지워집니다. 계속하시겠습니까?</translation>
+    </message>
+</context>
+<context>
+    <name>BusyDialog</name>
+    <message>
+        <source>In progress...</source>
+        <translation>진행 중...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Show Details</source>
+        <translation>자세히 보기</translation>
+    </message>
+    <message>
+        <source>Shows what the installer writes.</source>
+        <translation>설치 프로그램의 출력을 표시합니다.</translation>
+    </message>
+    <message>
+        <source>Installer output</source>
+        <translation>설치 프로그램 출력</translation>
+    </message>
+    <message>
+        <source>%v of %m KiB</source>
+        <comment>e.g. 500 of 1000 KiB</comment>
+        <translation>%v / %m KiB</translation>
+    </message>
+    <message>
+        <source>Installing updates...</source>
+        <translation>업데이트 설치 중...</translation>
+    </message>
+    <message>
+        <source>%p%:  Done</source>
+        <comment>%p is percentage done.</comment>
+        <translation>%p%:  완료</translation>
+    </message>
+    <message>
+        <source>(The beginning of the output is left out.)</source>
+        <translation>(출력의 앞부분은 생략되었습니다.)</translation>
+    </message>
+    <message>
+        <source>The process failed to start.</source>
+        <translation>프로세스를 시작하지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>The process crashed.</source>
+        <translation>프로세스가 비정상적으로 종료되었습니다.</translation>
+    </message>
+    <message>
+        <source>The process timed out.</source>
+        <translation>프로세스 시간이 초과되었습니다.</translation>
+    </message>
+    <message>
+        <source>Error reading from the process.</source>
+        <translation>프로세스에서 읽는 중 오류가 발생했습니다.</translation>
+    </message>
+    <message>
+        <source>Error writing to the process.</source>
+        <translation>프로세스에 쓰는 중 오류가 발생했습니다.</translation>
+    </message>
+    <message>
+        <source>Unknown process error.</source>
+        <translation>알 수 없는 프로세스 오류입니다.</translation>
+    </message>
+</context>
+<context>
+    <name>CertDialog</name>
+    <message>
+        <source>Accept Certificate</source>
+        <translation>인증서 수락</translation>
+    </message>
+    <message>
+        <source>Reject Certificate</source>
+        <translation>인증서 거부</translation>
+    </message>
+    <message>
+        <source>Certificate</source>
+        <comment>SSL authentication certificate</comment>
+        <translation>인증서</translation>
+    </message>
+    <message>
+        <source>Certificate could not be validated:  </source>
+        <translation>인증서를 검증할 수 없습니다:  </translation>
+    </message>
+    <message>
+        <source>Show Details</source>
+        <translation>자세히 보기</translation>
+    </message>
+    <message>
+        <source>Issued To</source>
+        <translation>발급 대상</translation>
+    </message>
+    <message>
+        <source>Common Name:  </source>
+        <comment>(CN), an LDAP term.</comment>
+        <translation>일반 이름:  </translation>
+    </message>
+    <message>
+        <source>Organization:  </source>
+        <comment>(O), an LDAP term.</comment>
+        <translation>조직:  </translation>
+    </message>
+    <message>
+        <source>Organizational Unit:  </source>
+        <comment>(OU), an LDAP term.</comment>
+        <translation>조직 단위:  </translation>
+    </message>
+    <message>
+        <source>Serial Number:  </source>
+        <translation>일련 번호:  </translation>
+    </message>
+    <message>
+        <source>Issued By</source>
+        <translation>발급자</translation>
+    </message>
+    <message>
+        <source>Dates</source>
+        <translation>날짜</translation>
+    </message>
+    <message>
+        <source>Issue Date:  </source>
+        <translation>발급일:  </translation>
+    </message>
+    <message>
+        <source>Expires Date:  </source>
+        <translation>만료일:  </translation>
+    </message>
+    <message>
+        <source>Fingerprints</source>
+        <comment>identification string for certificates</comment>
+        <translation>지문</translation>
+    </message>
+    <message>
+        <source>SHA1 Fingerprint:  </source>
+        <translation>SHA1 지문:  </translation>
+    </message>
+    <message>
+        <source>MD5 Fingerprint:  </source>
+        <translation>MD5 지문:  </translation>
+    </message>
+    <message>
+        <source>SHA256 Fingerprint:  </source>
+        <translation>SHA256 지문:  </translation>
+    </message>
+</context>
+<context>
+    <name>ItemDetailsDialog</name>
+    <message>
+        <source>Contents</source>
+        <translation>내용</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>참고 사항</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>외 %n개</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Title:  &lt;b&gt;%1&lt;/b&gt;</source>
+        <translation>제목:  &lt;b&gt;%1&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Version:  &lt;b&gt;%1&lt;/b&gt;</source>
+        <translation>버전:  &lt;b&gt;%1&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>URI:  &lt;b&gt;%1&lt;/b&gt;</source>
+        <translation>URI:  &lt;b&gt;%1&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>For Releases:  &lt;b&gt;%1&lt;/b&gt;</source>
+        <translation>대상 릴리스:  &lt;b&gt;%1&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>list join character</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Update Size:  &lt;b&gt;%1&lt;/b&gt;</source>
+        <translation>업데이트 크기:  &lt;b&gt;%1&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Unpacked Size:  &lt;b&gt;%1&lt;/b&gt;</source>
+        <translation>압축 해제 후 크기:  &lt;b&gt;%1&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Installed Size:  &lt;b&gt;%1&lt;/b&gt;</source>
+        <translation>설치 후 크기:  &lt;b&gt;%1&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Service Pack Contents: </source>
+        <translation>서비스 팩 내용: </translation>
+    </message>
+    <message>
+        <source>%1 KiB</source>
+        <comment>KiB = kibibyte:  1024 bytes</comment>
+        <translation>%1 KiB</translation>
+    </message>
+    <message>
+        <source>%1 MiB</source>
+        <comment>MiB = mebibyte:  1024*1024 bytes</comment>
+        <translation>%1 MiB</translation>
+    </message>
+    <message>
+        <source>%1 GiB</source>
+        <comment>GiB = gibibyte:  1024*1024*1024 bytes</comment>
+        <translation>%1 GiB</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>English</source>
+        <translation>한국어</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkDirRequestFtp</name>
+    <message>
+        <source>FTP hostname lookup failed &apos;%1&apos;.</source>
+        <translation>FTP 호스트 이름 &apos;%1&apos;을(를) 찾을 수 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>QNetworkReply</name>
+    <message>
+        <source>Operation canceled</source>
+        <translation>작업이 취소되었습니다</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>URI does not exist</source>
+        <translation>URI가 존재하지 않습니다</translation>
+    </message>
+    <message>
+        <source>URI is not a directory</source>
+        <translation>URI가 디렉터리가 아닙니다</translation>
+    </message>
+    <message>
+        <source>Directory is not readable</source>
+        <translation>디렉터리를 읽을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Protocol does not support directory reads</source>
+        <translation>프로토콜이 디렉터리 읽기를 지원하지 않습니다</translation>
+    </message>
+    <message>
+        <source>Directory listing is too large</source>
+        <translation>디렉터리 목록이 너무 큽니다</translation>
+    </message>
+    <message>
+        <source>FTP transaction timed out</source>
+        <translation>FTP 처리 시간이 초과되었습니다</translation>
+    </message>
+    <message>
+        <source>Operation canceled</source>
+        <translation>작업이 취소되었습니다</translation>
+    </message>
+    <message>
+        <source>Authentication failed</source>
+        <translation>인증에 실패했습니다</translation>
+    </message>
+    <message>
+        <source>Connection to FTP host refused</source>
+        <translation>FTP 호스트가 연결을 거부했습니다</translation>
+    </message>
+</context>
+<context>
+    <name>QSslSocket</name>
+    <message>
+        <source>The server&apos;s certificate has been revoked</source>
+        <translation>서버의 인증서가 해지되었습니다</translation>
+    </message>
+</context>
+<context>
+    <name>RVAdvPage</name>
+    <message>
+        <source>Options</source>
+        <translation>옵션</translation>
+    </message>
+    <message>
+        <source>Advanced Options for Ravel</source>
+        <translation>Ravel 고급 옵션</translation>
+    </message>
+    <message>
+        <source>Advanced options for Ravel such as the ability to modify repository URIs or to configure internet proxies.</source>
+        <translation>저장소 URI 변경, 인터넷 프록시 구성 등 Ravel의 고급 옵션입니다.</translation>
+    </message>
+    <message>
+        <source>Repository Locations</source>
+        <translation>저장소 위치</translation>
+    </message>
+    <message>
+        <source>Repository Location URIs for Ravel</source>
+        <translation>Ravel 저장소 위치 URI</translation>
+    </message>
+    <message>
+        <source>Networking Proxies</source>
+        <translation>네트워크 프록시</translation>
+    </message>
+    <message>
+        <source>Proxy servers for internet access</source>
+        <translation>인터넷 접속용 프록시 서버</translation>
+    </message>
+    <message>
+        <source>This page lets you change the URIs for update content repositories to local or customer-specific values.  The defaults are CV&apos;s standard repositories for Thin Client update content.</source>
+        <translation>이 페이지에서 업데이트 저장소의 URI를 로컬 값이나 고객별 값으로 변경할 수 있습니다. 기본값은 씬 클라이언트 업데이트를 제공하는 CV의 표준 저장소입니다.</translation>
+    </message>
+</context>
+<context>
+    <name>RVControlFrame</name>
+    <message>
+        <source>&lt;i&gt;No updates of this type are available.&lt;/i&gt;</source>
+        <translation>&lt;i&gt;이 유형의 업데이트가 없습니다.&lt;/i&gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>설치(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Details</source>
+        <translation>자세히(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>새로 고침(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <comment>as in &apos;Select All Choices&apos;</comment>
+        <translation>모두(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <comment>as in &apos;Select No Choices&apos;</comment>
+        <translation>없음(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Retrieval</source>
+        <translation>가져오기</translation>
+    </message>
+    <message>
+        <source>User Name: </source>
+        <translation>사용자 이름: </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>암호: </translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>다시 시도(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Retrieving data from repository&lt;br /&gt; &lt;i&gt;%1&lt;/i&gt;</source>
+        <comment>The argument is a repository URI.</comment>
+        <translation>저장소에서 데이터를 가져오는 중&lt;br /&gt; &lt;i&gt;%1&lt;/i&gt;</translation>
+    </message>
+    <message>
+        <source>Authentication is required to access &lt;br /&gt;&lt;i&gt;%1&lt;/i&gt;</source>
+        <translation>다음에 접근하려면 인증이 필요합니다 &lt;br /&gt;&lt;i&gt;%1&lt;/i&gt;</translation>
+    </message>
+    <message>
+        <source>Could not retrieve data from repository&lt;br /&gt; &lt;i&gt;%1&lt;/i&gt;</source>
+        <translation>저장소에서 데이터를 가져올 수 없습니다&lt;br /&gt; &lt;i&gt;%1&lt;/i&gt;</translation>
+    </message>
+    <message>
+        <source>Authentication is required to use the proxy &lt;br /&gt;&lt;i&gt;%1&lt;/i&gt;</source>
+        <translation>다음 프록시를 사용하려면 인증이 필요합니다 &lt;br /&gt;&lt;i&gt;%1&lt;/i&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>RVErrorDialog</name>
+    <message>
+        <source>Network connection refused for URI &apos;%1&apos;.  The remote server is not accepting requests.</source>
+        <translation>URI &apos;%1&apos;에 대한 네트워크 연결이 거부되었습니다. 원격 서버가 요청을 받지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The remote server for URI &apos;%1&apos; closed the connection before the transaction was complete.</source>
+        <translation>처리가 완료되기 전에 URI &apos;%1&apos;의 원격 서버가 연결을 닫았습니다.</translation>
+    </message>
+    <message>
+        <source>The host was not found for URI &apos;%1&apos;.  Check the URI, networking, firewalls, and DNS.</source>
+        <translation>URI &apos;%1&apos;의 호스트를 찾을 수 없습니다. URI, 네트워크, 방화벽, DNS를 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Timed out trying to communicate with server for URI &apos;%1&apos;.  Check the URI, networking, firewalls, and DNS.</source>
+        <translation>URI &apos;%1&apos;의 서버와 통신하는 중 시간이 초과되었습니다. URI, 네트워크, 방화벽, DNS를 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Network fetch aborted for  URI &apos;%1&apos;.</source>
+        <translation>URI &apos;%1&apos;의 네트워크 가져오기가 중단되었습니다.</translation>
+    </message>
+    <message>
+        <source>A secure channel via SSL/TLS handshaking could not be established for URI &apos;%1&apos;.</source>
+        <translation>URI &apos;%1&apos;에 대해 SSL/TLS 보안 채널을 설정할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>A network error was detected in contacting the URI &apos;%1&apos;.  Are all parts of the URI valid?  Is networking okay?</source>
+        <translation>URI &apos;%1&apos;에 접속하는 중 네트워크 오류가 발생했습니다. URI의 모든 부분이 올바릅니까? 네트워크가 정상입니까?</translation>
+    </message>
+    <message>
+        <source>A connection could not be established to the proxyserver for URI &apos;%1&apos;.</source>
+        <translation>URI &apos;%1&apos;에 대한 프록시 서버에 연결할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The proxy server closed the connection prematurely for URI &apos;%1&apos;.</source>
+        <translation>URI &apos;%1&apos;의 프록시 서버가 연결을 일찍 닫았습니다.</translation>
+    </message>
+    <message>
+        <source>The proxy server could not be contacted for URI &apos;%1&apos;.  Check the proxy settings, URI, networking, firewalls, and DNS.</source>
+        <translation>URI &apos;%1&apos;의 프록시 서버에 접속할 수 없습니다. 프록시 설정, URI, 네트워크, 방화벽, DNS를 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Timed out communicating with the proxy server for URI &apos;%1&apos;.</source>
+        <translation>URI &apos;%1&apos;의 프록시 서버와 통신하는 중 시간이 초과되었습니다.</translation>
+    </message>
+    <message>
+        <source>Authentication against the proxy server failed for URI &apos;%1&apos;.  Check the credentials to be supplied to the proxy server.</source>
+        <translation>URI &apos;%1&apos;의 프록시 서버 인증에 실패했습니다. 프록시 서버에 제공할 인증 정보를 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>A network error was detected in contacting the proxy server for the URI &apos;%1&apos;.</source>
+        <translation>URI &apos;%1&apos;의 프록시 서버에 접속하는 중 네트워크 오류가 발생했습니다.</translation>
+    </message>
+    <message>
+        <source>Access was denied for URI &apos;%1&apos;.  Is the URI valid?  Is the content readable?</source>
+        <translation>URI &apos;%1&apos;에 대한 접근이 거부되었습니다. URI가 올바릅니까? 내용을 읽을 수 있습니까?</translation>
+    </message>
+    <message>
+        <source>Could not retreive the contents of URI &apos;%1&apos;.  Is the URI valid?  Is the content readable?</source>
+        <translation>URI &apos;%1&apos;의 내용을 가져올 수 없습니다. URI가 올바릅니까? 내용을 읽을 수 있습니까?</translation>
+    </message>
+    <message>
+        <source>Could not find URI &apos;%1&apos;.  Is the URI valid?  Is the content readable?</source>
+        <translation>URI &apos;%1&apos;을(를) 찾을 수 없습니다. URI가 올바릅니까? 내용을 읽을 수 있습니까?</translation>
+    </message>
+    <message>
+        <source>Authentication is required to access URI &apos;%1&apos;.  Check the URI and any user names or passwords supplied.</source>
+        <translation>URI &apos;%1&apos;에 접근하려면 인증이 필요합니다. URI와 입력한 사용자 이름 및 암호를 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Content requires a re-send for URI &apos;%1&apos;, but that content is no longer available.</source>
+        <translation>URI &apos;%1&apos;의 내용을 다시 보내야 하지만 더 이상 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>An error was detected in handling the content retreived for the URI &apos;%1&apos;</source>
+        <translation>URI &apos;%1&apos;에서 가져온 내용을 처리하는 중 오류가 발생했습니다</translation>
+    </message>
+    <message>
+        <source>The protocol used by URI &apos;%1&apos; is not valid for this program.</source>
+        <translation>URI &apos;%1&apos;의 프로토콜은 이 프로그램에서 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The protocol used by URI &apos;%1&apos; could not be used to retrieve URI contents.</source>
+        <translation>URI &apos;%1&apos;의 프로토콜로는 내용을 가져올 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The handshaking between client and server for the protocol used by URI &apos;%1&apos; could not be completed.</source>
+        <translation>URI &apos;%1&apos;의 프로토콜에 대한 클라이언트와 서버 간 협상을 완료할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Unanticipated network error &apos;%1&apos; for the URI &apos;%2&apos;.</source>
+        <translation>예기치 않은 네트워크 오류 &apos;%1&apos;이(가) URI &apos;%2&apos;에서 발생했습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>RVMainPage</name>
+    <message>
+        <source>Ravel</source>
+        <translation>Ravel</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>업데이트</translation>
+    </message>
+    <message>
+        <source>Ravel allows you to install the latest updates to your Thin Client software</source>
+        <translation>Ravel을 사용하면 씬 클라이언트 소프트웨어의 최신 업데이트를 설치할 수 있습니다</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;&lt;b&gt;Ravel&lt;/b&gt; enables the installation of:&lt;ol&gt;  &lt;li&gt;Full software images&lt;/li&gt;  &lt;li&gt;Bundled software service packs&lt;/li&gt;  &lt;li&gt;Individual package updates&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;To customize Ravel, repository locations can be set to look for data in CV&apos;s standard update sites, company or site-specific repositories, or even local storage.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;&lt;b&gt;Ravel&lt;/b&gt;에서 설치할 수 있는 항목:&lt;ol&gt;  &lt;li&gt;전체 소프트웨어 이미지&lt;/li&gt;  &lt;li&gt;소프트웨어를 묶은 서비스 팩&lt;/li&gt;  &lt;li&gt;개별 패키지 업데이트&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;Ravel은 사용자 지정할 수 있습니다. 저장소 위치로 CV의 표준 업데이트 사이트, 회사나 사업장의 저장소 또는 로컬 저장 장치를 지정할 수 있습니다.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>RVProxies</name>
+    <message>
+        <source>All</source>
+        <comment>All connection types (short word)</comment>
+        <translation>모두</translation>
+    </message>
+    <message>
+        <source>Network Proxies</source>
+        <translation>네트워크 프록시</translation>
+    </message>
+    <message>
+        <source>Options for selecting networking proxies</source>
+        <translation>네트워크 프록시 선택 옵션</translation>
+    </message>
+    <message>
+        <source>No proxies</source>
+        <translation>프록시 없음</translation>
+    </message>
+    <message>
+        <source>Manual Proxy Configuration:</source>
+        <translation>수동 프록시 구성:</translation>
+    </message>
+    <message>
+        <source>Use same proxy for all</source>
+        <translation>모두 같은 프록시 사용</translation>
+    </message>
+    <message>
+        <source>Scheme</source>
+        <translation>스킴</translation>
+    </message>
+    <message>
+        <source>Type of connection, e.g. HTTP, FTP</source>
+        <translation>연결 유형(예: HTTP, FTP)</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>서버</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>포트</translation>
+    </message>
+    <message>
+        <source>Networking port number</source>
+        <translation>네트워크 포트 번호</translation>
+    </message>
+    <message>
+        <source>The port for %1 must be a number from 1 to 65535.</source>
+        <comment>The argument is a connection type, e.g. HTTP, or the word for all.</comment>
+        <translation>%1의 포트는 1에서 65535 사이의 숫자여야 합니다.</translation>
+    </message>
+</context>
+<context>
+    <name>RepURLFrame</name>
+    <message>
+        <source>Repository URIs</source>
+        <translation>저장소 URI</translation>
+    </message>
+    <message>
+        <source>Options to change update repository locations</source>
+        <translation>업데이트 저장소 위치를 변경하는 옵션</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid URI.</source>
+        <translation>&apos;%1&apos;은(는) 올바른 URI가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a supported URI scheme.</source>
+        <translation>&apos;%1&apos;은(는) 지원되는 URI 스킴이 아닙니다.</translation>
+    </message>
+</context>
+<context>
+    <name>SelectionTable</name>
+    <message>
+        <source>%1, selected</source>
+        <comment>accessible text; the argument is an update</comment>
+        <translation>%1, 선택됨</translation>
+    </message>
+    <message>
+        <source>%1, not selected</source>
+        <comment>accessible text; the argument is an update</comment>
+        <translation>%1, 선택되지 않음</translation>
+    </message>
+    <message>
+        <source>Retrieving updates...</source>
+        <translation>업데이트를 가져오는 중...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>업데이트</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <comment>Short column header -- the noun, not the verb, e.g. &apos;Title&apos;</comment>
+        <translation>업데이트</translation>
+    </message>
+    <message>
+        <source>Installed
+Version</source>
+        <comment>Short column header --Version currently installed on the system</comment>
+        <translation>설치된
+버전</translation>
+    </message>
+    <message>
+        <source>Update
+Version</source>
+        <comment>Short column header -- the version available from the repository</comment>
+        <translation>업데이트
+버전</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <comment>accessible text of the column of check boxes</comment>
+        <translation>선택</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>small word for &apos;cannot determine version installed&apos;</comment>
+        <translation>알 수 없음</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>small word for &apos;not currently installed&apos;</comment>
+        <translation>없음</translation>
+    </message>
+</context>
+<context>
+    <name>XFtp</name>
+    <message>
+        <source>Aborted</source>
+        <translation>중단됨</translation>
+    </message>
+    <message>
+        <source>A name or password with a line break or a NUL cannot be sent to an FTP server</source>
+        <translation>줄 바꿈이나 NUL이 포함된 이름 또는 암호는 FTP 서버로 보낼 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Not connected to an FTP server</source>
+        <translation>FTP 서버에 연결되어 있지 않습니다</translation>
+    </message>
+    <message>
+        <source>The server names no port for the data connection</source>
+        <translation>서버가 데이터 연결용 포트를 알려 주지 않았습니다</translation>
+    </message>
+    <message>
+        <source>The data connection cannot be opened: %1</source>
+        <translation>데이터 연결을 열 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>The directory is too large to be listed</source>
+        <translation>디렉터리가 너무 커서 목록을 만들 수 없습니다</translation>
+    </message>
+    <message>
+        <source>The data connection failed: %1</source>
+        <translation>데이터 연결에 실패했습니다: %1</translation>
+    </message>
+    <message>
+        <source>The transfer ended early, after %1 of %2 bytes</source>
+        <translation>전송이 일찍 끝났습니다(%2바이트 중 %1바이트)</translation>
+    </message>
+    <message>
+        <source>The server&apos;s answer is too long</source>
+        <translation>서버의 응답이 너무 깁니다</translation>
+    </message>
+    <message>
+        <source>The server closed the connection</source>
+        <translation>서버가 연결을 닫았습니다</translation>
+    </message>
+    <message>
+        <source>Host %1 not found</source>
+        <translation>호스트 %1을(를) 찾을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Connection timed out to host %1</source>
+        <translation>호스트 %1 연결 시간이 초과되었습니다</translation>
+    </message>
+    <message>
+        <source>Connection refused to host %1</source>
+        <translation>호스트 %1이(가) 연결을 거부했습니다</translation>
+    </message>
+    <message>
+        <source>The server does not speak FTP</source>
+        <translation>서버가 FTP를 지원하지 않습니다</translation>
+    </message>
+    <message>
+        <source>The server&apos;s answer is out of place: %1</source>
+        <translation>서버의 응답이 올바르지 않습니다: %1</translation>
+    </message>
+    <message>
+        <source>The server asks for an account, which is not supported</source>
+        <translation>서버가 계정을 요구하지만 지원되지 않습니다</translation>
+    </message>
+    <message>
+        <source>The server answers %1</source>
+        <translation>서버 응답: %1</translation>
+    </message>
+</context>
+</TS>
