@@ -4,6 +4,8 @@
 
 #include "network/XNetworkAccessManager.h"
 
+#include <QPointer>
+
 XNetworkReply::XNetworkReply(QObject *parent)
     : QNetworkReply(parent)
 {
@@ -46,8 +48,12 @@ void XNetworkReply::finish()
 {
     finished = true;
     setFinished(true);
+    // A receiver may delete it outright, with the object that owns it.
+    const QPointer<XNetworkReply> self(this);
     Q_EMIT finishedReply(this);
-    Q_EMIT QNetworkReply::finished();
+    if (self) {
+        Q_EMIT QNetworkReply::finished();
+    }
 }
 
 void XNetworkReply::abort()
