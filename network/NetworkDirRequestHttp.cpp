@@ -10,11 +10,13 @@
 #include <QNetworkProxyFactory>
 #include <QSet>
 
+#include <algorithm>
+#include <array>
 #include <csetjmp>
+#include <cstddef>
 #include <cstdlib>
 #include <ctime>
 #include <gumbo.h>
-#include <malloc.h>
 #include <vector>
 
 namespace
@@ -34,6 +36,8 @@ public:
         m_options.userdata = this;
         // Each error keeps a copy of all open elements.
         m_options.max_errors = 0;
+        // Grown while the parser runs, it might throw through it.
+        m_chunks.reserve(maximumMemory / chunk);
         // Several times what an ordinary page takes.
         m_endOfTime = cpuTime() + 2 + static_cast<double>(page.size()) / (4 * 1024 * 1024);
         parse(page);
@@ -42,10 +46,8 @@ public:
     ~PageTree()
     {
         // The parser's own way to free a tree is recursive.
-        for (Block *block = m_blocks.next; block != &m_blocks;) {
-            Block *next = block->next;
-            std::free(block);
-            block = next;
+        for (void *memory : m_chunks) {
+            std::free(memory);
         }
     }
 
@@ -55,13 +57,15 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(PageTree)
 
-    /// In front of each piece of memory, and the list of them all.
+    /// In front of each piece of memory.
     struct alignas(std::max_align_t) Block {
-        Block *previous;
-        Block *next;
+        size_t sizeClass;
+        Block *nextFree;
     };
 
     static constexpr size_t maximumMemory = size_t(384) * 1024 * 1024;
+    static constexpr size_t chunk = size_t(1024) * 1024;
+    static constexpr size_t smallClasses = 32;
 
     /// Seconds that this thread has worked: those of a busy machine do not count.
     static double cpuTime()
@@ -80,42 +84,69 @@ private:
         }
     }
 
-    static size_t memoryOf(Block *block) { return malloc_usable_size(block) + sizeof(size_t); }
-
     static void *allocate(void *tree, size_t size)
     {
         auto *self = static_cast<PageTree *>(tree);
         const bool isLate = ++self->m_allocations % 256 == 0 && cpuTime() > self->m_endOfTime;
-        const bool fits = self->m_memory < maximumMemory && size < maximumMemory - self->m_memory;
-        auto *block =
-            fits && !isLate ? static_cast<Block *>(std::malloc(sizeof(Block) + size)) : nullptr;
-        if (!block) {
+        if (isLate || size > maximumMemory) {
             std::longjmp(self->m_giveUp, 1);
         }
-        self->m_memory += memoryOf(block);
-        block->previous = &self->m_blocks;
-        block->next = self->m_blocks.next;
-        block->next->previous = block;
-        self->m_blocks.next = block;
+        // Small pieces in steps of 16 bytes, the others in powers of two.
+        size_t whole = (size + sizeof(Block) + 15) / 16 * 16;
+        size_t sizeClass = whole / 16;
+        if (sizeClass >= smallClasses) {
+            sizeClass = smallClasses;
+            for (whole = smallClasses * 16; whole < size + sizeof(Block); whole *= 2) {
+                ++sizeClass;
+            }
+        }
+        Block *block = self->m_free[sizeClass];
+        if (block) {
+            self->m_free[sizeClass] = block->nextFree;
+        } else {
+            block = static_cast<Block *>(self->cut(whole));
+            block->sizeClass = sizeClass;
+        }
         return block + 1;
     }
 
     static void release(void *tree, void *memory)
     {
-        if (!memory) {
-            return;
+        if (memory) {
+            auto *self = static_cast<PageTree *>(tree);
+            Block *block = static_cast<Block *>(memory) - 1;
+            block->nextFree = self->m_free[block->sizeClass];
+            self->m_free[block->sizeClass] = block;
         }
-        auto *self = static_cast<PageTree *>(tree);
-        Block *block = static_cast<Block *>(memory) - 1;
-        block->previous->next = block->next;
-        block->next->previous = block->previous;
-        self->m_memory -= memoryOf(block);
-        std::free(block);
+    }
+
+    /// New memory; does not return when there is no more.
+    void *cut(size_t size)
+    {
+        if (size > m_rest) {
+            const size_t chunkSize = std::max(size, chunk);
+            const bool fits = m_chunks.size() < m_chunks.capacity() && m_memory < maximumMemory
+                && chunkSize <= maximumMemory - m_memory;
+            m_next = fits ? static_cast<char *>(std::malloc(chunkSize)) : nullptr;
+            if (!m_next) {
+                std::longjmp(m_giveUp, 1);
+            }
+            m_chunks.push_back(m_next);
+            m_memory += chunkSize;
+            m_rest = chunkSize;
+        }
+        void *result = m_next;
+        m_next += size;
+        m_rest -= size;
+        return result;
     }
 
     GumboOptions m_options = kGumboDefaultOptions;
     GumboOutput *m_output = nullptr;
-    Block m_blocks = {&m_blocks, &m_blocks};
+    std::array<Block *, smallClasses + 32> m_free = {};
+    std::vector<void *> m_chunks;
+    char *m_next = nullptr;
+    size_t m_rest = 0;
     size_t m_memory = 0;
     size_t m_allocations = 0;
     double m_endOfTime = 0;
