@@ -244,6 +244,8 @@ RVCtlResult runCommand(const QStringList &arguments, RVCtlMessages *messages)
     deadline.catchSignals();
     RVCtlWorld world(paths);
     RVCtlResult result = command->run({parser, rest, world, deadline, *messages});
+    // A signal that came while no event loop ran.
+    QCoreApplication::processEvents();
     if (deadline.signal() != 0) {
         return RVCtlResult::failed(
             static_cast<RVCtlExit>(static_cast<int>(RVCtlExit::Interrupted) + deadline.signal()),

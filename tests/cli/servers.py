@@ -9,6 +9,7 @@ login   HTTP, for user "anna" with the password "secret"
 tls     HTTPS with CERTIFICATE, a PEM file with its key
 silent  takes connections and never answers
 part    HTTP, but no file whose name holds "tc-audio" and ends in ".xml"
+ftp     FTP, for the same user
 
 Every request's first line goes to LOG.
 """
@@ -20,6 +21,10 @@ import socket
 import ssl
 import sys
 import threading
+
+from pyftpdlib.authorizers import DummyAuthorizer
+from pyftpdlib.handlers import FTPHandler
+from pyftpdlib.servers import FTPServer
 
 DIRECTORY, CERTIFICATE, LOG = sys.argv[1:4]
 SECRET = "Basic " + base64.b64encode(b"anna:secret").decode()
@@ -63,6 +68,12 @@ serve("plain")
 serve("login")
 serve("part")
 serve("tls", CERTIFICATE)
+FTPHandler.authorizer = DummyAuthorizer()
+FTPHandler.authorizer.add_user("anna", "secret", DIRECTORY)
+FTPHandler.auth_failed_timeout = 0
+ftp = FTPServer(("127.0.0.1", 0), FTPHandler)
+threading.Thread(target=ftp.serve_forever, daemon=True).start()
+print(f"ftp={ftp.address[1]}", flush=True)
 silent = socket.create_server(("127.0.0.1", 0))
 print(f"silent={silent.getsockname()[1]}", flush=True)
 sys.stdin.read()

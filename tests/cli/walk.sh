@@ -80,6 +80,7 @@ mkdir -p -- "$work/hostile"
 printf '<update_data><name>bad%sname</name><title>t\xe2\x80\xaeegral\xc2\x9b1m&#27;[31m\nsecond line</title><version>1</version><thin_client>all</thin_client><notes>n &#7; \xe2\x80\xae</notes></update_data>' \
   '&#27;]0;owned&#7;' > "$work/hostile/a.xml"
 define k_hostile "file://$work/hostile"
+define l_ftp "ftp://127.0.0.1:$(port ftp)/packages/"
 printf 'secret\n' > "$work/password"
 printf 'wrong\n' > "$work/wrong"
 : > "$work/empty"
@@ -209,6 +210,9 @@ remote_run 0 '.repositories[0] | .error == null and (.entries | length) == 5' li
 remote_run 0 '.repositories[0].entries | length == 5' list b_login --user anna --password-file "$work/password"
 remote_run 3 '.repositories[0].error.code == 204' list b_login --user anna --password-file "$work/wrong"
 remote_run 3 '.repositories[0].error.code == 204' list b_login
+remote_run 0 '.repositories[0] | .error == null and ([.entries[].name] | length == 5)' list l_ftp --user anna --password-file "$work/password"
+remote_run 3 '.repositories[0].error.code == 204' list l_ftp --user anna --password-file "$work/wrong"
+check "the password is nowhere" sh -c '! grep -q wrong "$@"' sh "$work/out" "$work/err"
 remote_run 3 '.repositories[0].error.certificate | .subject == "updates.example, Example Works" and (.sha256 | length) == 64 and (.errors | length) > 0' list c_tls
 fingerprint=$(jq -r '.repositories[0].error.certificate.sha256' "$work/out")
 check "the certificate is described" grep -q "SHA-256: $fingerprint" "$work/err"
@@ -228,6 +232,39 @@ remote_run 3 '.repositories[0].archives | length == 1 and .[0].reason == "unread
 remote_run 0 '.repositories[0].entries[0].name | contains("\u001b")' list k_hostile
 remote_run 3 '.error.code == 3' plan f_missing
 remote_run 3 '.error.code == 3' details g_gone tc-audio
+
+### Asked on a terminal
+ask()
+{
+  local expected=$1 answer=$2 status=0
+  shift 2
+  timeout --kill-after=5 60 /usr/bin/python3 "$here/ask.py" "$answer" "$ravelctl" --root "$root" \
+    --definitions "$definitions" --json list b_login --user anna "$@" >"$work/out" 2>"$work/err" \
+    || status=$?
+  [ "$status" -eq "$expected" ] || { cat "$work/out" "$work/err"; return 1; }
+}
+check "the password is typed, and not shown" ask 0 secret
+check "a wrong one is refused" ask 3 mistake
+check "none is an error" ask 2 ''
+check "the interrupt key leaves the terminal as it was" ask 130 ^C
+check "nobody is asked where there is no terminal" sh -c \
+  'setsid -w "$@" </dev/null >/dev/null 2>&1; [ $? -eq 2 ]' sh "$ravelctl" --root "$root" \
+  --definitions "$definitions" list b_login --user anna
+check "a password comes from a pipe" sh -c \
+  'echo secret | "$@" --password-file /dev/stdin >/dev/null 2>&1' sh "$ravelctl" --root "$root" \
+  --definitions "$definitions" list b_login --user anna
+
+### Ended from outside
+"$ravelctl" --root "$root" --definitions "$definitions" --json list d_silent >"$work/out" 2>"$work/err" &
+silent_run=$!
+for ((i = 0; i < 100; ++i)); do
+  ! grep -q Retrieving "$work/err" || break
+  sleep 0.1
+done
+kill -TERM "$silent_run"
+status=0
+wait "$silent_run" || status=$?
+check "SIGTERM ends it, with a document" sh -c '[ "$0" -eq 143 ] && jq -e ".error.code == 143" "$1" >/dev/null' "$status" "$work/out"
 
 ### What makes no sense
 run 2 '.error.code == 2' frobnicate
