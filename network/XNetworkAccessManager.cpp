@@ -4,9 +4,46 @@
 
 #include "core/RVLogger.h"
 #include "network/NetworkDirRequest.h"
+#include "network/XHttpReply.h"
 #include "network/XNetworkReply.h"
 
 #include <QAuthenticator>
+
+namespace
+{
+
+QNetworkRequest withPolicy(const QNetworkRequest &request)
+{
+    QNetworkRequest result = request;
+    result.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                        QNetworkRequest::ManualRedirectPolicy);
+    result.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
+    result.setAttribute(QNetworkRequest::HttpPipeliningAllowedAttribute, false);
+    // A compressed body may unpack to a thousand times what the limits see.
+    result.setRawHeader("Accept-Encoding", "identity");
+    return result;
+}
+
+/// The proxies that Qt takes where none is set: the application's or the environment's. Where that
+/// is none, it is said in another way, which makes Qt use a socket with a buffer: on one without,
+/// it takes a connection that is cut inside a chunk for the end of the body, if the end comes
+/// together with the last bytes.
+class UsualProxies : public QNetworkProxyFactory
+{
+public:
+    QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery &query) override
+    {
+        QList<QNetworkProxy> proxies = QNetworkProxyFactory::proxyForQuery(query);
+        for (QNetworkProxy &proxy : proxies) {
+            if (proxy.type() == QNetworkProxy::NoProxy) {
+                proxy = QNetworkProxy(QNetworkProxy::DefaultProxy);
+            }
+        }
+        return proxies;
+    }
+};
+
+} // namespace
 
 XNetworkAccessManager::XNetworkAccessManager(QObject *parent)
     : QNetworkAccessManager(parent)
@@ -81,6 +118,28 @@ void XNetworkAccessManager::relayFinished(QNetworkReply *reply)
 void XNetworkAccessManager::relaySslErrors(QNetworkReply *reply, const QList<QSslError> &errors)
 {
     Q_EMIT sslErrors(reply, errors);
+}
+
+QNetworkReply *XNetworkAccessManager::createRequest(Operation operation,
+                                                    const QNetworkRequest &request,
+                                                    QIODevice *outgoingData)
+{
+    const QString scheme = request.url().scheme();
+    if (scheme != QLatin1String("http") && scheme != QLatin1String("https")) {
+        return QNetworkAccessManager::createRequest(operation, request, outgoingData);
+    }
+    if (!proxyFactory() && proxy().type() == QNetworkProxy::DefaultProxy) {
+        setProxyFactory(new UsualProxies);
+    }
+    const QNetworkRequest own = withPolicy(request);
+    QNetworkReply *reply = QNetworkAccessManager::createRequest(operation, own, outgoingData);
+    if (operation != GetOperation) {
+        return reply;
+    }
+    auto *wrapper = new XHttpReply(own, reply, this);
+    wrapper->setInactivityLimit(inactivityLimit);
+    wrapper->setBodyLimit(bodyLimit);
+    return wrapper;
 }
 
 void XNetworkAccessManager::emitDirectoryFinished(XNetworkReply *reply)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "network/RVKeyring.h"
+#include "network/XSpooledReply.h"
 
 #include <QHash>
 #include <QList>
@@ -18,8 +19,9 @@
 class NetworkDirRequest;
 class XNetworkReply;
 
-/// Qt's network access manager with one more operation, the listing of a directory. Redirects are
-/// not followed and HTTP/2 is off.
+/// Qt's network access manager with one more operation, the listing of a directory, and the one
+/// place of policy for transfers: over http and https, redirects are not followed, HTTP/2 and
+/// pipelining are off, no compression is asked for, and what get() returns is an XHttpReply.
 class XNetworkAccessManager : public QNetworkAccessManager
 {
     Q_OBJECT
@@ -32,6 +34,10 @@ public:
     /// From whose logins for proxies the receiver of proxyAuthenticationRequired() answers. What a
     /// proxy refuses is forgotten there before it asks for another.
     void setKeyring(const QSharedPointer<RVKeyring> &keyring);
+    /// For the replies made from now on: XSpooledReply::setInactivityLimit().
+    int inactivityLimit = XSpooledReply::defaultInactivityMs;
+    /// As XSpooledReply::setBodyLimit().
+    qint64 bodyLimit = XSpooledReply::defaultBodyLimit;
 
     /// Starts a listing; never null. A backend may finish inside the call, so connect to
     /// directoryFinished() before it.
@@ -48,6 +54,10 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Once for each getDirectory(); the receiver releases the reply.
     void directoryFinished(XNetworkReply *reply);
+
+protected:
+    QNetworkReply *createRequest(Operation operation, const QNetworkRequest &request,
+                                 QIODevice *outgoingData) override;
 
 private Q_SLOTS:
     void emitDirectoryFinished(XNetworkReply *reply);

@@ -17,3 +17,13 @@ QNetworkReply::NetworkError qt4Error(QNetworkReply::NetworkError error)
         return error;
     }
 }
+
+QNetworkReply::NetworkError qt4Error(QNetworkReply::NetworkError error, int httpStatus)
+{
+    // For 400 and 418, Qt 5 blames the request.
+    if (error == QNetworkReply::ProtocolInvalidOperationError && httpStatus >= 400
+        && httpStatus < 500) {
+        return QNetworkReply::UnknownContentError;
+    }
+    return qt4Error(error);
+}

@@ -7,3 +7,6 @@
 /// The code that Qt 4 gave for the same failure. Qt 5 tells some HTTP statuses apart that were one
 /// code before; the system's messages know the old codes only. Every other code stays as it is.
 QNetworkReply::NetworkError qt4Error(QNetworkReply::NetworkError error);
+
+/// The same for the answer to an HTTP request, with its status (0 for none).
+QNetworkReply::NetworkError qt4Error(QNetworkReply::NetworkError error, int httpStatus);

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "network/NetworkDirRequest.h"
+#include "network/XHttpReply.h"
 #include "network/XNetworkAccessManager.h"
 #include "network/XNetworkReply.h"
+#include "tests/support/HttpServer.h"
 #include "tests/support/LogFile.h"
 
 #include <QAuthenticator>
@@ -31,6 +33,11 @@ private Q_SLOTS:
     void replyOutlivesTheManager();
     void laterFinalSignalIsPassedOn();
     void relaysQtSignals();
+    void policyOfTransfers_data();
+    void policyOfTransfers();
+    void otherSchemesAreQts();
+    void usualProxies_data();
+    void usualProxies();
 };
 
 void tst_XNetworkAccessManager::initTestCase()
@@ -204,6 +211,105 @@ void tst_XNetworkAccessManager::relaysQtSignals()
     QCOMPARE(calls, 3);
     manager.relaySslErrors(&reply, {QSslError(QSslError::HostNameMismatch)});
     QCOMPARE(calls, 4);
+}
+
+void tst_XNetworkAccessManager::policyOfTransfers_data()
+{
+    QTest::addColumn<bool>("get");
+    QTest::newRow("get") << true;
+    QTest::newRow("head") << false;
+}
+
+void tst_XNetworkAccessManager::policyOfTransfers()
+{
+    QFETCH(bool, get);
+    HttpServer server;
+    server.serve(QStringLiteral("/x"), "moved", 302, "Location: /y\r\n");
+    XNetworkAccessManager manager;
+    // Whatever a caller asks for.
+    QNetworkRequest request(server.url(QStringLiteral("/x")));
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                         QNetworkRequest::NoLessSafeRedirectPolicy);
+    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, true);
+    request.setAttribute(QNetworkRequest::HttpPipeliningAllowedAttribute, true);
+    request.setRawHeader("Accept-Encoding", "gzip");
+    const std::unique_ptr<QNetworkReply> reply(get ? manager.get(request) : manager.head(request));
+    QCOMPARE(qobject_cast<XHttpReply *>(reply.get()) != nullptr, get);
+    const QNetworkRequest sent = reply->request();
+    QCOMPARE(sent.attribute(QNetworkRequest::RedirectPolicyAttribute).toInt(),
+             static_cast<int>(QNetworkRequest::ManualRedirectPolicy));
+    QCOMPARE(sent.attribute(QNetworkRequest::Http2AllowedAttribute), QVariant(false));
+    QCOMPARE(sent.attribute(QNetworkRequest::HttpPipeliningAllowedAttribute), QVariant(false));
+    QTRY_VERIFY_WITH_TIMEOUT(reply->isFinished(), 5000);
+    QCOMPARE(server.requests().size(), 1);
+    QVERIFY(server.requests().first().contains("\r\nAccept-Encoding: identity\r\n"));
+    QVERIFY(!server.requests().first().contains("HTTP2-Settings"));
+}
+
+void tst_XNetworkAccessManager::otherSchemesAreQts()
+{
+    XNetworkAccessManager manager;
+    const std::unique_ptr<QNetworkReply> reply(
+        manager.get(QNetworkRequest(QUrl(QStringLiteral("data:,hello")))));
+    QVERIFY(!qobject_cast<XSpooledReply *>(reply.get()));
+    QTRY_VERIFY_WITH_TIMEOUT(reply->isFinished(), 5000);
+    QCOMPARE(reply->readAll(), QByteArray("hello"));
+    const std::unique_ptr<QNetworkReply> file(
+        manager.get(QNetworkRequest(QUrl(QStringLiteral("file:///does/not/exist")))));
+    QVERIFY(!qobject_cast<XSpooledReply *>(file.get()));
+    QCOMPARE(file->error(), QNetworkReply::ContentNotFoundError);
+}
+
+void tst_XNetworkAccessManager::usualProxies_data()
+{
+    QTest::addColumn<QString>("host");
+    QTest::addColumn<QByteArray>("exceptions");
+    QTest::addColumn<bool>("ownProxy");
+    QTest::addColumn<QString>("through");
+    QTest::newRow("the environment's") << QStringLiteral("repository.invalid") << QByteArray()
+                                       << false << QStringLiteral("environment");
+    QTest::newRow("one of its own")
+        << QStringLiteral("repository.invalid") << QByteArray() << true << QStringLiteral("own");
+    QTest::newRow("none for this machine")
+        << QString() << QByteArray() << false << QStringLiteral("direct");
+    QTest::newRow("none for an exception")
+        << QStringLiteral("localhost") << QByteArray("localhost,127.0.0.1") << false
+        << QStringLiteral("direct");
+}
+
+void tst_XNetworkAccessManager::usualProxies()
+{
+    QFETCH(QString, host);
+    QFETCH(QByteArray, exceptions);
+    QFETCH(bool, ownProxy);
+    QFETCH(QString, through);
+    HttpServer direct;
+    HttpServer environment;
+    HttpServer own;
+    QUrl url = direct.url(QStringLiteral("/x"));
+    if (!host.isEmpty()) {
+        url.setHost(host);
+    }
+    for (HttpServer *server : {&direct, &environment, &own}) {
+        server->serve(QStringLiteral("/x"), "hello");
+        server->serve(url.toString(), "hello");
+    }
+    qputenv("http_proxy", environment.url(QString()).toEncoded());
+    qputenv("no_proxy", exceptions);
+    XNetworkAccessManager manager;
+    if (ownProxy) {
+        manager.setProxy(QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"),
+                                       static_cast<quint16>(own.url(QString()).port())));
+    }
+    const std::unique_ptr<QNetworkReply> reply(manager.get(QNetworkRequest(url)));
+    QTRY_VERIFY_WITH_TIMEOUT(reply->isFinished(), 5000);
+    qunsetenv("http_proxy");
+    qunsetenv("no_proxy");
+    QCOMPARE(reply->error(), QNetworkReply::NoError);
+    QCOMPARE(reply->readAll(), QByteArray("hello"));
+    QCOMPARE(direct.requests().size(), through == QLatin1String("direct") ? 1 : 0);
+    QCOMPARE(environment.requests().size(), through == QLatin1String("environment") ? 1 : 0);
+    QCOMPARE(own.requests().size(), through == QLatin1String("own") ? 1 : 0);
 }
 
 QTEST_GUILESS_MAIN(tst_XNetworkAccessManager)

@@ -31,6 +31,25 @@ private Q_SLOTS:
         QTEST(static_cast<int>(qt4Error(static_cast<QNetworkReply::NetworkError>(code))),
               "expected");
     }
+    void codesWithStatus_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("bad request") << 302 << 400 << 299;
+        QTest::newRow("teapot") << 302 << 418 << 299;
+        QTest::newRow("no answer") << 302 << 0 << 302;
+        QTest::newRow("not an error of the request") << 302 << 500 << 302;
+        QTest::newRow("not found") << 203 << 404 << 203;
+        QTest::newRow("unavailable") << 403 << 503 << 301;
+    }
+    void codesWithStatus()
+    {
+        QFETCH(int, code);
+        QFETCH(int, status);
+        QTEST(static_cast<int>(qt4Error(static_cast<QNetworkReply::NetworkError>(code), status)),
+              "expected");
+    }
 };
 
 QTEST_APPLESS_MAIN(tst_XNetworkError)

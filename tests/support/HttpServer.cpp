@@ -3,7 +3,10 @@
 #include "tests/support/HttpServer.h"
 
 #include <QTcpSocket>
+#include <QTimer>
 
+#include <linux/sockios.h>
+#include <sys/ioctl.h>
 #include <sys/socket.h>
 
 namespace
@@ -13,6 +16,24 @@ QByteArray response(int status, const QByteArray &headers, const QByteArray &bod
 {
     return "HTTP/1.1 " + QByteArray::number(status) + " Status\r\n" + headers + "Content-Length: "
         + QByteArray::number(body.size()) + "\r\nConnection: close\r\n\r\n" + body;
+}
+
+/// Breaks the connection when the other side has what was written: a reset overtakes what is not
+/// read yet.
+void reset(QTcpSocket *socket)
+{
+    auto *timer = new QTimer(socket);
+    QObject::connect(timer, &QTimer::timeout, socket, [socket] {
+        int unsent = 0;
+        const int handle = static_cast<int>(socket->socketDescriptor());
+        if (socket->bytesToWrite() > 0 || ::ioctl(handle, SIOCOUTQ, &unsent) != 0 || unsent > 0) {
+            return;
+        }
+        const linger now{1, 0};
+        ::setsockopt(handle, SOL_SOCKET, SO_LINGER, &now, sizeof now);
+        socket->abort();
+    });
+    timer->start(50);
 }
 
 } // namespace
@@ -49,9 +70,9 @@ void HttpServer::serve(const QString &path, const QByteArray &body, int status,
     serveRaw(path, response(status, headers, body));
 }
 
-void HttpServer::serveRaw(const QString &path, const QByteArray &answer)
+void HttpServer::serveRaw(const QString &path, const QByteArray &answer, After after)
 {
-    m_answers.insert(path.toUtf8(), answer);
+    m_answers.insert(path.toUtf8(), {answer, after});
 }
 
 void HttpServer::protect(const QString &user, const QString &password)
@@ -66,6 +87,11 @@ void HttpServer::release()
     for (auto it = waiting.cbegin(); it != waiting.cend(); ++it) {
         answer(it.key(), it.value());
     }
+}
+
+int HttpServer::connections() const
+{
+    return m_server.findChildren<QTcpSocket *>().size();
 }
 
 void HttpServer::accept()
@@ -103,7 +129,23 @@ void HttpServer::answer(QTcpSocket *socket, const QByteArray &head)
     if (!m_credentials.isEmpty() && !head.contains("Authorization: Basic " + m_credentials)) {
         socket->write(response(401, "WWW-Authenticate: Basic realm=\"test\"\r\n", "who?"));
     } else {
-        socket->write(m_answers.value(path, response(404, {}, "not here")));
+        const Answer answer = m_answers.value(path, {response(404, {}, "not here")});
+        socket->write(answer.bytes);
+        if (answer.after == After::Stay) {
+            return;
+        }
+        if (answer.after == After::Reset) {
+            reset(socket);
+            return;
+        }
+        if (answer.after == After::Drip) {
+            auto *timer = new QTimer(socket);
+            connect(timer, &QTimer::timeout, socket, [socket] {
+                socket->write(".");
+            });
+            timer->start(20);
+            return;
+        }
     }
     socket->disconnectFromHost();
 }

@@ -15,6 +15,14 @@ class HttpServer : public QObject
     Q_OBJECT
 
 public:
+    /// What follows the bytes of a raw answer.
+    enum class After {
+        Close,
+        Stay, ///< nothing, for ever
+        Reset, ///< once they are read: the connection breaks
+        Drip, ///< a byte every 20 ms, for ever
+    };
+
     explicit HttpServer(QObject *parent = nullptr);
     ~HttpServer() override;
 
@@ -22,13 +30,15 @@ public:
 
     void serve(const QString &path, const QByteArray &body, int status = 200,
                const QByteArray &headers = {});
-    /// Sends exactly these bytes and closes the connection.
-    void serveRaw(const QString &path, const QByteArray &answer);
+    /// Sends exactly these bytes.
+    void serveRaw(const QString &path, const QByteArray &answer, After after = After::Close);
     /// Asks for these credentials, by the basic scheme, before it answers anything.
     void protect(const QString &user, const QString &password);
     /// Keeps requests unanswered until release().
     void hold() { m_held = true; }
     void release();
+    /// Connections that are open now.
+    int connections() const;
 
     /// The heads of all requests so far, in the order in which they came.
     const QList<QByteArray> &requests() const { return m_requests; }
@@ -41,8 +51,13 @@ private:
     void receive(QTcpSocket *socket);
     void answer(QTcpSocket *socket, const QByteArray &head);
 
+    struct Answer {
+        QByteArray bytes;
+        After after = After::Close;
+    };
+
     QTcpServer m_server;
-    QHash<QByteArray, QByteArray> m_answers;
+    QHash<QByteArray, Answer> m_answers;
     QList<QByteArray> m_requests;
     QHash<QTcpSocket *, QByteArray> m_waiting;
     QByteArray m_credentials;
