@@ -6,12 +6,13 @@
 #include "core/RVLogger.h"
 #include "core/SpecialFile.h"
 #include "descriptor/DescriptorGeneric.h"
+#include "network/XHttpReply.h"
+#include "network/XNetworkAccessManager.h"
 
 #include <plume/TemporaryDir.h>
 
 #include <QAuthenticator>
 #include <QDir>
-#include <QNetworkAccessManager>
 #include <QNetworkRequest>
 #include <QPointer>
 #include <QProcessEnvironment>
@@ -192,8 +193,8 @@ void RVInstallProc::startDownload(int index)
         return;
     }
 
-    auto *manager = new QNetworkAccessManager(this);
-    manager->setRedirectPolicy(QNetworkRequest::ManualRedirectPolicy);
+    auto *manager = new XNetworkAccessManager(this);
+    manager->inactivityLimit = inactivityLimit;
     if (!proxyHost.isEmpty() && proxyPort > 0) {
         manager->setProxy(
             QNetworkProxy(isFtp(url) ? QNetworkProxy::FtpCachingProxy : QNetworkProxy::HttpProxy,
@@ -215,9 +216,7 @@ void RVInstallProc::startDownload(int index)
         // Opening it would block the event loop; opening it as a directory fails at once.
         url.setPath(url.path() + QLatin1Char('/'));
     }
-    QNetworkRequest request(url);
-    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    QNetworkReply *reply = manager->get(request);
+    QNetworkReply *reply = manager->get(QNetworkRequest(url));
     if (reply->error() != QNetworkReply::NoError) {
         Q_EMIT networkError(reply);
         reply->abort();
@@ -347,7 +346,7 @@ void RVInstallProc::relayNetworkError(QNetworkReply::NetworkError err)
 
 void RVInstallProc::relayAuthenticationRequired(QNetworkReply *reply, QAuthenticator *auth)
 {
-    Q_EMIT authenticationRequired(reply, auth);
+    Q_EMIT authenticationRequired(XHttpReply::outer(reply), auth);
 }
 
 void RVInstallProc::relayProxyAuthenticationRequired(const QNetworkProxy &proxy,

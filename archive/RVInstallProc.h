@@ -4,6 +4,7 @@
 
 #include "core/RVLimits.h"
 #include "core/RVPaths.h"
+#include "network/XSpooledReply.h"
 #include "repository/RVData.h"
 
 #include <QList>
@@ -46,6 +47,8 @@ public:
     /// Written before start(); a port of 0 or less means no proxy.
     QString proxyHost;
     int proxyPort = -2;
+    /// Milliseconds; see XSpooledReply::setInactivityLimit().
+    int inactivityLimit = XSpooledReply::defaultInactivityMs;
     /// Written before start(); not owned, and alive until the installation has begun. Without one a
     /// full image is never installed.
     ImageQuestion *imageQuestion = nullptr;

@@ -6,9 +6,10 @@
 #include "core/SpecialFile.h"
 #include "descriptor/DescriptorXML.h"
 #include "descriptor/XmlCheck.h"
+#include "network/XHttpReply.h"
+#include "network/XNetworkAccessManager.h"
 
 #include <QAuthenticator>
-#include <QNetworkAccessManager>
 
 #include <algorithm>
 #include <utility>
@@ -21,21 +22,8 @@ QByteArray forLog(const QUrl &url)
     return url.toString(QUrl::RemovePassword).toUtf8();
 }
 
-QNetworkRequest requestFor(const QUrl &url)
-{
-    QNetworkRequest request(url);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::ManualRedirectPolicy);
-    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    // A compressed body may unpack to a thousand times what the bound below sees.
-    request.setRawHeader("Accept-Encoding", "identity");
-    return request;
-}
-
 void boundXmlBody(QNetworkReply *reply)
 {
-    constexpr qint64 room = 64 * 1024;
-    reply->setReadBufferSize(XmlCheck::maxBytes + room);
     QObject::connect(reply, &QNetworkReply::readyRead, reply, [reply] {
         if (reply->bytesAvailable() > XmlCheck::maxBytes) {
             RVLogger().log(4, "Descriptor larger than %d bytes, aborting %s", XmlCheck::maxBytes,
@@ -134,7 +122,8 @@ void RVDescFetch::start(const RVData &entry)
         url.setPassword(m_ftpPassword, QUrl::DecodedMode);
     }
 
-    auto *manager = new QNetworkAccessManager(this);
+    auto *manager = new XNetworkAccessManager(this);
+    manager->inactivityLimit = inactivityLimit;
     if (!proxyHost.isEmpty() && proxyPort > 0) {
         manager->setProxy(
             QNetworkProxy(isFtp ? QNetworkProxy::FtpCachingProxy : QNetworkProxy::HttpProxy,
@@ -150,7 +139,7 @@ void RVDescFetch::start(const RVData &entry)
             &RVDescFetch::relayProxyAuthenticationRequired);
     connect(manager, &QNetworkAccessManager::sslErrors, this, &RVDescFetch::relaySslErrors);
 
-    QNetworkReply *reply = manager->get(requestFor(url));
+    QNetworkReply *reply = manager->get(QNetworkRequest(url));
     if (reply->error() == QNetworkReply::NoError) {
         m_fetches.insert(descriptor, reply);
         connect(reply, &QNetworkReply::errorOccurred, this, &RVDescFetch::relayNetworkError);
@@ -216,7 +205,7 @@ void RVDescFetch::relayNetworkError(QNetworkReply::NetworkError /*err*/)
 
 void RVDescFetch::relayAuthenticationRequired(QNetworkReply *reply, QAuthenticator *auth)
 {
-    Q_EMIT authenticationRequired(reply, auth);
+    Q_EMIT authenticationRequired(XHttpReply::outer(reply), auth);
 }
 
 void RVDescFetch::relayProxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *auth)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/RVLimits.h"
+#include "network/XSpooledReply.h"
 #include "repository/RVData.h"
 
 #include <QList>
@@ -29,6 +30,8 @@ public:
     /// Written before fetchAll(); a port of 0 or less means no proxy.
     QString proxyHost;
     int proxyPort = -2;
+    /// Milliseconds; see XSpooledReply::setInactivityLimit().
+    int inactivityLimit = XSpooledReply::defaultInactivityMs;
 
     /// True between fetchAll() and finished(). False right after fetchAll() means that finished()
     /// has been emitted, or, where every entry failed at once, that it will not be.

@@ -876,9 +876,9 @@ void TestRVDescFetch::replyDeletedByAnotherObject()
     fetch.fetchAll();
     QTRY_COMPARE_WITH_TIMEOUT(m_server->waiting(), 2, patience);
     const auto managers = fetch.findChildren<QNetworkAccessManager *>();
-    delete managers.at(0)->findChild<QNetworkReply *>();
+    delete managers.at(0)->findChild<XSpooledReply *>();
     QCOMPARE(spies.finished.count(), 0);
-    delete managers.at(1)->findChild<QNetworkReply *>();
+    delete managers.at(1)->findChild<XSpooledReply *>();
     QCOMPARE(spies.finished.count(), 1);
     QVERIFY(!fetch.isActive());
 }
