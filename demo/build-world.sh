@@ -2,10 +2,12 @@
 # SPDX-FileCopyrightText: 2026 Ravel developers
 # SPDX-License-Identifier: GPL-2.0-or-later
 #
-# build-world.sh DIR: makes the little world that `ravel-host --root DIR/root` runs on, afresh.
+# build-world.sh DIR [HTTPS HTTP FTP]: makes the little world that `ravel-host --root DIR/root` runs
+# on, afresh.
 #
 #   DIR/root/   a thin client: its image, service packs, package database, definition files, tools
-#   DIR/repos/  four local repositories: images, service packs, packages, applications
+#   DIR/repos/  four local repositories: images, service packs, packages, applications; and what
+#               servers at the three URLs, if they are given, have to serve: https, http, ftp
 #
 # Needs dpkg, dpkg-deb, bsdtar and python3; works for root and for ordinary users and touches nothing else.
 # shellcheck disable=SC1112  # the French texts have their apostrophes
@@ -13,10 +15,11 @@ set -euo pipefail
 umask 022
 export LC_ALL=C SOURCE_DATE_EPOCH=1767225600
 
-if [ $# -ne 1 ] || [ -z "$1" ]; then
-  echo "usage: ${0##*/} DIR" >&2
+if { [ $# -ne 1 ] && [ $# -ne 4 ]; } || [ -z "$1" ]; then
+  echo "usage: ${0##*/} DIR [HTTPS HTTP FTP]" >&2
   exit 2
 fi
+servers=("${@:2}")
 mkdir -p -- "$1"
 world=$(cd -- "$1" && pwd -P)
 demo=$(cd -- "$(dirname -- "$(readlink -f -- "$0")")" && pwd -P)
@@ -92,7 +95,13 @@ title_en[tc-viewer]='Document viewer'
 title_de[tc-viewer]='Dokumentbetrachter'
 title_fr[tc-viewer]='Visionneuse de documents'
 
+title_en[tc-vault]='Smart cards and keys'
+title_de[tc-vault]='Chipkarten und Schlüssel'
+title_fr[tc-vault]='Cartes à puce et clés'
+
 # These describe themselves, in one language.
+title_en[tc-planner]='Shift planner'
+title_en[tc-label-printer]='Label printers of the warehouse'
 title_en[tc-calculator]='Desk calculator'
 extended[tc-calculator]=' Prints its paper roll to the default printer.
  .
@@ -145,16 +154,17 @@ elements()
   done
 }
 
-# offer_package NAME VERSION KIB BASE_RELEASES ARCHITECTURES CLIENTS: package and descriptor.
+# offer_package NAME VERSION KIB BASE_RELEASES ARCHITECTURES CLIENTS [REPOSITORY]: package and
+# descriptor.
 offer_package()
 {
-  local name=$1 version=$2 kib=$3 size
+  local name=$1 version=$2 kib=$3 repository=$repos/${7:-packages} size
   local -a releases architectures clients
   read -ra releases <<<"$4"
   read -ra architectures <<<"$5"
   read -ra clients <<<"$6"
-  make_package "$name" "$version" "$kib" "$repos/packages"
-  size=$(stat -c %s "$repos/packages/${name}_${version}_all.deb")
+  make_package "$name" "$version" "$kib" "$repository"
+  size=$(stat -c %s "$repository/${name}_${version}_all.deb")
   {
     echo '<?xml version="1.0" encoding="UTF-8"?>'
     echo '<update_data>'
@@ -169,7 +179,7 @@ offer_package()
     elements architecture "${architectures[@]}"
     elements thin_client "${clients[@]}"
     echo '</update_data>'
-  } > "$repos/packages/${name}_${version}_all.xml"
+  } > "$repository/${name}_${version}_all.xml"
 }
 
 mkdir -p "$repos"/{images,service-packs,packages,applications}
@@ -195,6 +205,13 @@ make_package tc-viewer 2.2-1 200 "$repos/packages"
 make_package tc-calculator 2.1-1 90 "$repos/applications" all xz
 make_package tc-clock 1:1.0-2 40 "$repos/applications" all zstd
 make_package tc-emulator 0.9-1 60 "$repos/applications" i386 gzip
+
+### What servers serve ##########################################################################
+
+mkdir "$repos"/{https,http,ftp}
+offer_package tc-vault 1.4-1 700 '6\.1.*' 'armel' 'all' https
+make_package tc-planner 3.2-1 450 "$repos/http" all xz
+make_package tc-label-printer 5.0-2 330 "$repos/ftp" all xz
 
 ### Service packs ###############################################################################
 
@@ -371,18 +388,19 @@ url()
   echo "file://$encoded"
 }
 
-# define FILE KEY SELECTOR ICON DIRECTORY FILTER_SPS FILTER..., the texts on standard input. A filter
-# is a pattern for archives and one for descriptors; an archive that describes itself has no other.
+# define FILE KEY SELECTOR ICON LOCATION FILTER_SPS FILTER..., the texts on standard input. The
+# location is a URL or a directory of this world. A filter is a pattern for archives and one for descriptors; an archive that describes itself has no other.
 define()
 {
-  local archives descriptors
+  local archives descriptors location=$5
+  [[ $location == *://* ]] || location=$(url "$repos/$location")
   {
     echo '<?xml version="1.0" encoding="UTF-8"?>'
     echo '<repository_list>'
     echo '<repository>'
     cat
     elements settings_key "$2"
-    elements default_uri "$(url "$repos/$5")"
+    elements default_uri "$location"
     elements selector_type "$3"
     elements icon "$4"
     elements filter_sps "$6"
@@ -430,5 +448,32 @@ define()
     'Les applications sont de simples paquets Debian, qui se décrivent eux-mêmes.'
   texts uri_description 'Application location' 'Ort der Anwendungen' 'Emplacement des applications'
 } | define 40-applications.xml application_uri PickAny PackageRepository applications no '\.deb$'
+
+if [ ${#servers[@]} -gt 0 ]; then
+  {
+    texts title 'Security' 'Sicherheit' 'Sécurité'
+    texts description \
+      'Security tools come from a server with a certificate of its own, which has to be accepted.' \
+      'Sicherheitsprogramme kommen von einem Server, dessen Zertifikat anzunehmen ist.' \
+      'Les outils de sécurité viennent d’un serveur dont il faut accepter le certificat.'
+    texts uri_description 'Security location' 'Ort der Sicherheit' 'Emplacement de la sécurité'
+  } | define 50-security.xml security_uri PickAny PackageRepository "${servers[0]}" no '\.deb$ \.xml$'
+  {
+    texts title 'Site software' 'Software des Standorts' 'Logiciels du site'
+    texts description \
+      'The software of this site is on a web server that asks for a login: demo, demo.' \
+      'Die Software dieses Standorts liegt auf einem Webserver mit Anmeldung: demo, demo.' \
+      'Les logiciels de ce site sont sur un serveur web qui demande une connexion : demo, demo.'
+    texts uri_description 'Site location' 'Ort des Standorts' 'Emplacement du site'
+  } | define 60-site.xml site_uri PickAny PackageRepository "${servers[1]}" no '\.deb$'
+  {
+    texts title 'Drivers' 'Treiber' 'Pilotes'
+    texts description \
+      'Drivers are on an FTP server.' \
+      'Treiber liegen auf einem FTP-Server.' \
+      'Les pilotes sont sur un serveur FTP.'
+    texts uri_description 'Driver location' 'Ort der Treiber' 'Emplacement des pilotes'
+  } | define 70-drivers.xml driver_uri PickAny PackageRepository "${servers[2]}" no '\.deb$'
+fi
 
 echo "Demo world: $world"

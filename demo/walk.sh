@@ -17,12 +17,10 @@ demo=$(cd -- "$(dirname -- "$(readlink -f -- "$0")")" && pwd -P)
 appearance=${2:-normal}
 world=$build/demo/walk-$appearance
 screenshots=$build/screenshots/$appearance
-"$demo/build-world.sh" "$world"
-
 rm -rf -- "$screenshots"
 mkdir -p -- "$screenshots"
 status=0
-"$demo/on-display.sh" "$world/home" timeout --kill-after=5 120 \
+"$demo/serve.sh" "$world" "$demo/on-display.sh" "$world/home" timeout --kill-after=5 120 \
   "$build/tests/e2e/ravel-walk" "$world/root" "$screenshots" "$appearance" || status=$?
 [ "$status" -ne 124 ] || echo "walk: stopped after two minutes" >&2
 exit "$status"

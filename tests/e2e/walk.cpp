@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
@@ -156,6 +157,11 @@ private:
     void installApplications();
     void checkInstalledApplications();
     void checkImages();
+    void refuseCertificate();
+    void acceptCertificate();
+    void logInWrongly();
+    void logIn();
+    void installDriver();
     void declineImage();
     void installImage();
     void openOptions();
@@ -174,6 +180,12 @@ private:
     void clickCell(int row, int column);
     void startInstallation();
     void finishInstallation(const QStringList &lines, const QString &name);
+    void refresh(const QString &buttonText);
+    void whenAsked(const char *className, const std::function<void(QDialog *)> &act);
+    QList<QLineEdit *> loginFields() const;
+    void answerLogin(const QString &user, const QString &password);
+    void installOnly(const QString &row, const QString &line, const QString &package,
+                     const QString &picture);
     QByteArray contents(const QString &path) const;
     QStringList installedPackages() const;
     void chooseLanguage(const QString &code);
@@ -190,12 +202,15 @@ private:
     QWidget *m_section = nullptr;
     QTcpServer m_proxy;
     QByteArray m_proxyRequest;
+    /// Why an answer of whenAsked() failed.
+    QString m_aside;
 };
 
 void Walk::step(const char *what, const std::function<void()> &body)
 {
     try {
         body();
+        require(m_aside.isEmpty(), m_aside);
     } catch (const Failure &failure) {
         picture(QStringLiteral("failure"));
         std::printf("FAIL %s: %s\n", what, qUtf8Printable(failure.reason));
@@ -214,7 +229,7 @@ bool Walk::run()
         step("the keyboard goes from page to page", [this] {
             changePages();
         });
-        step("four sections are there", [this] {
+        step("the sections are there", [this] {
             checkSections();
         });
         step("the packages are refreshed", [this] {
@@ -261,6 +276,21 @@ bool Walk::run()
         });
         step("the table and the database have their versions", [this] {
             checkInstalledApplications();
+        });
+        step("an unknown certificate is refused, and nothing is listed", [this] {
+            refuseCertificate();
+        });
+        step("it is accepted, and a package comes over HTTPS", [this] {
+            acceptCertificate();
+        });
+        step("a wrong login is asked for again", [this] {
+            logInWrongly();
+        });
+        step("with the right one a package comes over HTTP", [this] {
+            logIn();
+        });
+        step("a package comes over FTP", [this] {
+            installDriver();
         });
         step("one of the images can be chosen", [this] {
             checkImages();
@@ -445,7 +475,9 @@ void Walk::checkSections()
     }
     requireEqual(titles,
                  {QStringLiteral("Software images"), QStringLiteral("Service packs"),
-                  QStringLiteral("Packages"), QStringLiteral("Applications")});
+                  QStringLiteral("Packages"), QStringLiteral("Applications"),
+                  QStringLiteral("Security"), QStringLiteral("Site software"),
+                  QStringLiteral("Drivers")});
 }
 
 void Walk::refreshPackages()
@@ -754,6 +786,153 @@ void Walk::checkImages()
     screenshot(QStringLiteral("images"));
 }
 
+void Walk::refresh(const QString &buttonText)
+{
+    click(button(m_section, buttonText));
+}
+
+/// Acts once the dialog is there: whoever shows it waits in an event loop of its own, inside of
+/// which nothing may be thrown.
+void Walk::whenAsked(const char *className, const std::function<void(QDialog *)> &act)
+{
+    auto *timer = new QTimer(m_window.get());
+    QObject::connect(timer, &QTimer::timeout, timer, [this, timer, className, act] {
+        const QPointer<QDialog> asking = dialog(className);
+        if (!asking) {
+            return;
+        }
+        timer->stop();
+        timer->deleteLater();
+        try {
+            act(asking);
+        } catch (const Failure &failure) {
+            m_aside = failure.reason;
+            if (asking) {
+                asking->reject();
+            }
+        }
+    });
+    timer->start(10);
+}
+
+void Walk::refuseCertificate()
+{
+    openSection(QStringLiteral("Security"));
+    whenAsked("CertDialog", [this](QDialog *certificate) {
+        auto *details = certificate->findChild<QGroupBox *>();
+        details->setFocus();
+        QTest::keyClick(details, Qt::Key_Space);
+        const auto *view = certificate->findChild<QTextEdit *>();
+        waitFor(
+            [view] {
+                return view->isVisible();
+            },
+            QStringLiteral("details of the certificate"));
+        require(view->toPlainText().contains(
+                    QLatin1String("The certificate is self-signed, and untrusted.")),
+                view->toPlainText());
+        screenshot(QStringLiteral("certificate"));
+        click(button(certificate, QStringLiteral("Reject Certificate")));
+    });
+    refresh(QStringLiteral("Refresh"));
+    waitFor(
+        [] {
+            return dialog("RVErrorDialog");
+        },
+        QStringLiteral("message"));
+    screenshot(QStringLiteral("refused"));
+    QTest::keyClick(dialog("RVErrorDialog"), Qt::Key_Escape);
+    waitFor(
+        [] {
+            return !dialog("RVErrorDialog");
+        },
+        QStringLiteral("end of the message"));
+    button(m_section, QStringLiteral("Retry"));
+}
+
+void Walk::acceptCertificate()
+{
+    whenAsked("CertDialog", [](const QDialog *certificate) {
+        click(button(certificate, QStringLiteral("Accept Certificate")));
+    });
+    refresh(QStringLiteral("Retry"));
+    installOnly(QStringLiteral("tc-vault none 1.4-1"),
+                QStringLiteral("Setting up tc-vault (1.4-1)"),
+                QStringLiteral("tc-vault 1.4-1 installed"), QStringLiteral("https"));
+}
+
+QList<QLineEdit *> Walk::loginFields() const
+{
+    QList<QLineEdit *> shown;
+    const QList<QLineEdit *> fields = m_section->findChildren<QLineEdit *>();
+    for (QLineEdit *field : fields) {
+        if (field->isVisible()) {
+            shown.append(field);
+        }
+    }
+    return shown;
+}
+
+void Walk::answerLogin(const QString &user, const QString &password)
+{
+    waitFor(
+        [this] {
+            return loginFields().size() == 2;
+        },
+        QStringLiteral("login"));
+    const QList<QLineEdit *> fields = loginFields();
+    for (QLineEdit *field : fields) {
+        field->clear();
+        QTest::keyClicks(field, field->echoMode() == QLineEdit::Password ? password : user);
+    }
+    click(button(m_section, QStringLiteral("OK")));
+}
+
+void Walk::logInWrongly()
+{
+    openSection(QStringLiteral("Site software"));
+    refresh(QStringLiteral("Refresh"));
+    answerLogin(QStringLiteral("demo"), QStringLiteral("wrong"));
+    waitFor(
+        [this] {
+            return loginFields().size() == 2;
+        },
+        QStringLiteral("second question"));
+    screenshot(QStringLiteral("login"));
+}
+
+void Walk::logIn()
+{
+    answerLogin(QStringLiteral("demo"), QStringLiteral("demo"));
+    installOnly(QStringLiteral("tc-planner none 3.2-1"),
+                QStringLiteral("Setting up tc-planner (3.2-1)"),
+                QStringLiteral("tc-planner 3.2-1 installed"), QStringLiteral("http"));
+}
+
+void Walk::installDriver()
+{
+    openSection(QStringLiteral("Drivers"));
+    refresh(QStringLiteral("Refresh"));
+    installOnly(QStringLiteral("tc-label-printer none 5.0-2"),
+                QStringLiteral("Setting up tc-label-printer (5.0-2)"),
+                QStringLiteral("tc-label-printer 5.0-2 installed"), QStringLiteral("ftp"));
+}
+
+/// Waits for the one update of the section and installs it.
+void Walk::installOnly(const QString &row, const QString &line, const QString &package,
+                       const QString &picture)
+{
+    waitFor(
+        [this] {
+            return table() && table()->isVisible() && table()->rowCount() > 0;
+        },
+        QStringLiteral("list"));
+    requireEqual(rows(), {QLatin1String("x ") + row});
+    startInstallation();
+    finishInstallation({line}, picture);
+    require(installedPackages().contains(package), QStringLiteral("no \"%1\"").arg(package));
+}
+
 QByteArray Walk::contents(const QString &path) const
 {
     QFile file(m_root + path);
@@ -761,21 +940,13 @@ QByteArray Walk::contents(const QString &path) const
     return file.readAll();
 }
 
-/// Once the question is there: whoever asks it waits in an event loop of its own.
+/// The question before an image.
 void Walk::answer(const QString &buttonText, const QString &screenshotName)
 {
-    auto *timer = new QTimer(m_window.get());
-    QObject::connect(timer, &QTimer::timeout, timer, [this, timer, buttonText, screenshotName] {
-        QDialog *box = dialog("QMessageBox");
-        if (!box) {
-            return;
-        }
-        timer->stop();
-        timer->deleteLater();
+    whenAsked("QMessageBox", [this, buttonText, screenshotName](const QDialog *box) {
         screenshot(screenshotName);
         click(button(box, buttonText));
     });
-    timer->start(10);
 }
 
 void Walk::declineImage()
@@ -904,7 +1075,7 @@ void Walk::changeLocation()
             field = candidate;
         }
     }
-    require(fields.size() == 4 && field, QStringLiteral("no such field"));
+    require(fields.size() == 7 && field, QStringLiteral("no such field"));
     field->setFocus();
     QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
     type(QStringLiteral("http://updates.example/applications/"));
