@@ -4,6 +4,7 @@
 
 #include "core/RVLogger.h"
 #include "network/NetworkDirRequest.h"
+#include "network/XFtpReply.h"
 #include "network/XHttpReply.h"
 #include "network/XNetworkReply.h"
 
@@ -125,6 +126,12 @@ QNetworkReply *XNetworkAccessManager::createRequest(Operation operation,
                                                     QIODevice *outgoingData)
 {
     const QString scheme = request.url().scheme();
+    if (scheme == QLatin1String("ftp") && operation == GetOperation) {
+        auto *reply = new XFtpReply(this, request);
+        reply->setInactivityLimit(inactivityLimit);
+        reply->setBodyLimit(bodyLimit);
+        return reply;
+    }
     if (scheme != QLatin1String("http") && scheme != QLatin1String("https")) {
         return QNetworkAccessManager::createRequest(operation, request, outgoingData);
     }

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "network/NetworkDirRequest.h"
-#include "network/XFtpReply.h"
 #include "network/XNetworkAccessManager.h"
 #include "network/XNetworkReply.h"
 #include "tests/support/FtpServers.h"
@@ -190,7 +189,7 @@ void tst_RealFtpServers::sameAsOnDisk()
 
         XNetworkAccessManager fetcher;
         useProxy(&fetcher, server);
-        const std::unique_ptr<QNetworkReply> reply(new XFtpReply(&fetcher, QNetworkRequest(url)));
+        const std::unique_ptr<QNetworkReply> reply(fetcher.get(QNetworkRequest(url)));
         QVERIFY(waitForEnd(reply.get()));
         QVERIFY2(reply->error() == QNetworkReply::NoError,
                  qPrintable(entry.name() + QLatin1String(": ") + reply->errorString()));
@@ -261,7 +260,7 @@ void tst_RealFtpServers::vsftpdAsksForALogin()
     QCOMPARE(listing->entries.size(), 1);
     // What was answered for the listing is good for the files of the same host.
     const std::unique_ptr<QNetworkReply> reply(
-        new XFtpReply(&manager, QNetworkRequest(QUrl(listing->entries.at(0).name()))));
+        manager.get(QNetworkRequest(QUrl(listing->entries.at(0).name()))));
     QVERIFY(waitForEnd(reply.get()));
     QCOMPARE(reply->readAll(), QByteArray("abc"));
     QCOMPARE(questions, 1);

@@ -102,6 +102,7 @@ class tst_XFtpReply : public QObject
 private Q_SLOTS:
     void fetchesBytes_data();
     void fetchesBytes();
+    void comesFromTheManager();
     void tellsProgress();
     void progressWithoutASize();
     void pathIsSentAsItStands_data();
@@ -148,6 +149,23 @@ void tst_XFtpReply::fetchesBytes()
     QVERIFY(download.reply->readAll() == content);
     QCOMPARE(download.reply->operation(), QNetworkAccessManager::GetOperation);
     QVERIFY2(guard.isClean(), guard.report());
+}
+
+void tst_XFtpReply::comesFromTheManager()
+{
+    FtpScriptServer server;
+    QVERIFY(server.write("a.deb", "abc"));
+    QVERIFY2(server.start(), server.report());
+    XNetworkAccessManager manager;
+    QNetworkReply *finished = nullptr;
+    connect(&manager, &QNetworkAccessManager::finished, this, [&](QNetworkReply *reply) {
+        finished = reply;
+    });
+    QNetworkReply *reply = manager.get(QNetworkRequest(server.url(QStringLiteral("/a.deb"))));
+    QVERIFY(qobject_cast<XFtpReply *>(reply));
+    QCOMPARE(reply->manager(), &manager);
+    QTRY_COMPARE_WITH_TIMEOUT(finished, reply, waitMs);
+    QCOMPARE(reply->readAll(), QByteArray("abc"));
 }
 
 void tst_XFtpReply::tellsProgress()
