@@ -4,6 +4,7 @@
 
 #include "core/RVLimits.h"
 #include "core/RVLogger.h"
+#include "core/RVOrigin.h"
 #include "core/SpecialFile.h"
 #include "descriptor/DescriptorGeneric.h"
 #include "network/XHttpReply.h"
@@ -194,6 +195,7 @@ void RVInstallProc::startDownload(int index)
     }
 
     auto *manager = new XNetworkAccessManager(this);
+    manager->setKeyring(keyring);
     manager->inactivityLimit = inactivityLimit;
     if (!proxyHost.isEmpty() && proxyPort > 0) {
         manager->setProxy(
@@ -208,7 +210,8 @@ void RVInstallProc::startDownload(int index)
     connect(manager, &QNetworkAccessManager::sslErrors, this, &RVInstallProc::relaySslErrors);
 
     // Other schemes ask for credentials when the server wants them; ftp cannot.
-    if (isFtp(url) && !m_user.isEmpty() && !m_password.isEmpty()) {
+    const bool isOurs = credentialsFor.isEmpty() || isSameOrigin(url, credentialsFor);
+    if (isFtp(url) && isOurs && !m_user.isEmpty() && !m_password.isEmpty()) {
         url.setUserName(m_user);
         url.setPassword(m_password);
     }

@@ -12,12 +12,15 @@
 #include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QProcess>
+#include <QSharedPointer>
 #include <QSslError>
+#include <QUrl>
 #include <QVector>
 
 #include <memory>
 
 class ImageQuestion;
+class RVKeyring;
 class TemporaryDir;
 
 /// Downloads and unpacks a batch of updates and is itself the process in which their installer
@@ -47,6 +50,10 @@ public:
     /// Written before start(); a port of 0 or less means no proxy.
     QString proxyHost;
     int proxyPort = -2;
+    /// Written before start(): the server that the credentials are for, any if it is empty, and
+    /// where logins for proxies are kept.
+    QUrl credentialsFor;
+    QSharedPointer<RVKeyring> keyring;
     /// Milliseconds; see XSpooledReply::setInactivityLimit().
     int inactivityLimit = XSpooledReply::defaultInactivityMs;
     /// Written before start(); not owned, and alive until the installation has begun. Without one a

@@ -3,6 +3,7 @@
 #include "descriptor/RVDescFetch.h"
 
 #include "core/RVLogger.h"
+#include "core/RVOrigin.h"
 #include "core/SpecialFile.h"
 #include "descriptor/DescriptorXML.h"
 #include "descriptor/XmlCheck.h"
@@ -117,12 +118,14 @@ void RVDescFetch::start(const RVData &entry)
         return;
     }
     const bool isFtp = url.scheme() == QLatin1String("ftp");
-    if (isFtp && !m_ftpUser.isEmpty() && !m_ftpPassword.isEmpty()) {
+    const bool isOurs = credentialsFor.isEmpty() || isSameOrigin(url, credentialsFor);
+    if (isFtp && isOurs && !m_ftpUser.isEmpty() && !m_ftpPassword.isEmpty()) {
         url.setUserName(m_ftpUser, QUrl::DecodedMode);
         url.setPassword(m_ftpPassword, QUrl::DecodedMode);
     }
 
     auto *manager = new XNetworkAccessManager(this);
+    manager->setKeyring(keyring);
     manager->inactivityLimit = inactivityLimit;
     if (!proxyHost.isEmpty() && proxyPort > 0) {
         manager->setProxy(

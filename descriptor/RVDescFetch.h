@@ -11,7 +11,11 @@
 #include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QPointer>
+#include <QSharedPointer>
 #include <QSslError>
+#include <QUrl>
+
+class RVKeyring;
 
 /// Downloads and reads the descriptors of one repository's entries. Owned by its repository.
 /// Its final signal is finished(), once for each fetchAll() that leaves something to wait for and
@@ -30,6 +34,10 @@ public:
     /// Written before fetchAll(); a port of 0 or less means no proxy.
     QString proxyHost;
     int proxyPort = -2;
+    /// Written before fetchAll(): the server that the credentials are for, any if it is empty, and
+    /// where logins for proxies are kept.
+    QUrl credentialsFor;
+    QSharedPointer<RVKeyring> keyring;
     /// Milliseconds; see XSpooledReply::setInactivityLimit().
     int inactivityLimit = XSpooledReply::defaultInactivityMs;
 

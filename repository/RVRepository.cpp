@@ -288,6 +288,8 @@ void RVRepository::fetchDescriptors()
     m_descFetch = new RVDescFetch(m_entries, m_user, m_password, this);
     m_descFetch->proxyHost = m_proxyHost;
     m_descFetch->proxyPort = m_proxyPort;
+    m_descFetch->credentialsFor = m_url;
+    m_descFetch->keyring = m_keyring;
     connect(m_descFetch, &RVDescFetch::finished, this, &RVRepository::descFetchFinished);
     connect(m_descFetch, &RVDescFetch::authenticationRequired, this,
             &RVRepository::attemptAuthentication);

@@ -255,6 +255,8 @@ void SelectionTable::install()
     m_procedure = new RVInstallProc(batch, m_user, m_password, this, m_paths);
     m_procedure->proxyHost = m_proxyHost;
     m_procedure->proxyPort = m_proxyPort;
+    m_procedure->credentialsFor = m_repositoryUrl;
+    m_procedure->keyring = m_keyring;
     m_procedure->imageQuestion = &m_imageQuestion;
     connect(m_procedure, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
             &SelectionTable::incInstallFinished);

@@ -1232,17 +1232,27 @@ void tst_RVInstallProc::credentials_data()
     QTest::addColumn<QString>("user");
     QTest::addColumn<QString>("password");
     QTest::addColumn<QString>("expected");
+    QTest::addColumn<QString>("credentialsFor");
 
     const QString ftp = QStringLiteral("ftp");
     const QString name = QStringLiteral("us%er");
     const QString secret = QStringLiteral("p@ss:w/rd");
-    QTest::newRow("ftp with both") << ftp << name << secret << (name + QLatin1Char(':') + secret);
+    const QString both = name + QLatin1Char(':') + secret;
+    QTest::newRow("ftp with both") << ftp << name << secret << both << QString();
     QTest::newRow("ftp in capitals")
-        << QStringLiteral("FTP") << name << secret << (name + QLatin1Char(':') + secret);
-    QTest::newRow("ftp without password") << ftp << name << QString() << QString();
-    QTest::newRow("ftp without user") << ftp << QString() << secret << QString();
-    QTest::newRow("http") << QStringLiteral("http") << name << secret << QString();
-    QTest::newRow("https") << QStringLiteral("https") << name << secret << QString();
+        << QStringLiteral("FTP") << name << secret << both << QString();
+    QTest::newRow("ftp without password") << ftp << name << QString() << QString() << QString();
+    QTest::newRow("ftp without user") << ftp << QString() << secret << QString() << QString();
+    QTest::newRow("http") << QStringLiteral("http") << name << secret << QString() << QString();
+    QTest::newRow("https") << QStringLiteral("https") << name << secret << QString() << QString();
+    QTest::newRow("ftp, for that server")
+        << ftp << name << secret << both << QStringLiteral("ftp://127.0.0.1:1/dir/");
+    QTest::newRow("ftp, for another port")
+        << ftp << name << secret << QString() << QStringLiteral("ftp://127.0.0.1/");
+    QTest::newRow("ftp, for another host")
+        << ftp << name << secret << QString() << QStringLiteral("ftp://updates.example:1/");
+    QTest::newRow("ftp, for a web server")
+        << ftp << name << secret << QString() << QStringLiteral("http://127.0.0.1:1/");
 }
 
 void tst_RVInstallProc::credentials()
@@ -1251,12 +1261,14 @@ void tst_RVInstallProc::credentials()
     QFETCH(QString, user);
     QFETCH(QString, password);
     QFETCH(QString, expected);
+    QFETCH(QString, credentialsFor);
 
     // Nobody listens there: the failed reply shows the URL that was asked for.
     const QUrl url(QStringLiteral("%1://127.0.0.1:1/a.deb").arg(scheme));
     const RVPaths paths = installer("exit 0");
     const RVData update = entry(url, paths);
     RVInstallProc procedure({update}, user, password, nullptr, paths);
+    procedure.credentialsFor = QUrl(credentialsFor);
     Report report(&procedure);
     QString asked;
     connect(&procedure, &RVInstallProc::networkError, this, [&](const QNetworkReply *reply) {

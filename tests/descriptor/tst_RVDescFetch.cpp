@@ -118,6 +118,8 @@ private Q_SLOTS:
     void relaysCertificateErrors();
     void ftpCredentials_data();
     void ftpCredentials();
+    void ftpCredentialsOfAnotherServer_data();
+    void ftpCredentialsOfAnotherServer();
     void proxy_data();
     void proxy();
     void noProxy_data();
@@ -522,6 +524,33 @@ void TestRVDescFetch::ftpCredentials_data()
                                  << QByteArray("PASS anonymous@");
     QTest::newRow("no user") << ftp << QString() << password << QByteArray("USER anonymous")
                              << QByteArray("PASS anonymous@");
+}
+
+void TestRVDescFetch::ftpCredentialsOfAnotherServer_data()
+{
+    QTest::addColumn<QString>("credentialsFor");
+    QTest::addColumn<bool>("ours");
+    QTest::newRow("the server itself") << QStringLiteral("ftp://127.0.0.1:%1/dir/") << true;
+    QTest::newRow("another port") << QStringLiteral("ftp://127.0.0.1/%1") << false;
+    QTest::newRow("another host") << QStringLiteral("ftp://updates.example:%1/") << false;
+    QTest::newRow("a web server") << QStringLiteral("http://127.0.0.1:%1/") << false;
+}
+
+void TestRVDescFetch::ftpCredentialsOfAnotherServer()
+{
+    QFETCH(QString, credentialsFor);
+    QFETCH(bool, ours);
+    RefusingFtpServer server;
+    QList<RVData> entries = {
+        entry(QUrl(QStringLiteral("ftp://127.0.0.1:%1/a.xml").arg(server.serverPort())))};
+    RVDescFetch fetch(entries, QStringLiteral("user"), QStringLiteral("secret"));
+    fetch.credentialsFor = QUrl(credentialsFor.arg(server.serverPort()));
+    const Spies spies(fetch);
+    fetch.fetchAll();
+    QTRY_COMPARE_WITH_TIMEOUT(spies.finished.count(), 1, patience);
+    QVERIFY(!server.commands.isEmpty());
+    QCOMPARE(server.commands.contains("USER user"), ours);
+    QCOMPARE(server.commands.contains("PASS secret"), ours);
 }
 
 void TestRVDescFetch::ftpCredentials()
