@@ -521,9 +521,9 @@ void TestRVDescFetch::ftpCredentials_data()
         << ftp << QStringLiteral("u@h:1") << QStringLiteral("%41/secret?#")
         << QByteArray("USER u@h:1") << QByteArray("PASS %41/secret?#");
     QTest::newRow("no password") << ftp << user << QString() << QByteArray("USER anonymous")
-                                 << QByteArray("PASS anonymous@");
+                                 << QByteArray("PASS anonymous@example.org");
     QTest::newRow("no user") << ftp << QString() << password << QByteArray("USER anonymous")
-                             << QByteArray("PASS anonymous@");
+                             << QByteArray("PASS anonymous@example.org");
 }
 
 void TestRVDescFetch::ftpCredentialsOfAnotherServer_data()
