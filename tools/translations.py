@@ -30,6 +30,9 @@ RIGHT_TO_LEFT = ("ar", "he")
 # Scripts in which no key of the keyboard is a letter of the text: "(&A)" stands behind it.
 APPENDED_MNEMONIC = ("ja", "ko", "zh_CN", "zh_TW")
 FSI, PDI = "\u2068", "\u2069"
+# Behind a blank that would else hang over the line's end.
+RLM = "\u200f"
+ITALICS = ("<i>", "</i>")
 
 ARGUMENT = re.compile(r"%(?:L?\d+|n)|%[pvm]\b")
 # What an argument is put into decides whether it has a direction of its own.
@@ -140,7 +143,7 @@ def is_balanced(text):
 
 def ending(text, kinds=ENDS):
     """Which kind of end a text has: the first of ENDS that fits, or none."""
-    text = TAG.sub("", text).rstrip().rstrip("".join((FSI, PDI)))
+    text = TAG.sub("", text).rstrip(RLM).rstrip().rstrip("".join((FSI, PDI)))
     for kind, marks in kinds:
         if text.endswith(tuple(marks)):
             return kind
@@ -148,6 +151,7 @@ def ending(text, kinds=ENDS):
 
 
 def blanks(text):
+    text = text.rstrip(RLM)
     return text[:len(text) - len(text.lstrip(" \n"))], text[len(text.rstrip(" \n")):]
 
 
@@ -167,7 +171,9 @@ def faults(message, text, code):
             yield "has a mnemonic that is no letter or digit"
         elif code in APPENDED_MNEMONIC and f"(&{key})" not in text:
             yield "has its mnemonic inside the text instead of behind it"
-    if tags(source) != tags(text):
+    # No italics in scripts that have none.
+    dropped = ITALICS if code in RIGHT_TO_LEFT and not set(tags(text)) & set(ITALICS) else ()
+    if [tag for tag in tags(source) if tag not in dropped] != tags(text):
         yield "has other markup than the source"
     if not is_balanced(text):
         yield "has markup that is not closed"

@@ -3,6 +3,7 @@
 #include "ui/CertDialog.h"
 
 #include "ui/RVDetailsBox.h"
+#include "ui/RVItalics.h"
 #include "ui/RVStyle.h"
 
 #include <QCoreApplication>
@@ -21,6 +22,9 @@
 
 namespace
 {
+
+constexpr QChar firstStrongIsolate(0x2068);
+constexpr QChar popDirectionalIsolate(0x2069);
 
 /// Of the place, in average characters: a longer one is shortened in the middle.
 constexpr int widestUrl = 80;
@@ -236,7 +240,9 @@ void CertDialog::retranslateUi()
     for (const QSslError &error : qAsConst(m_errors)) {
         const QString message = messageFor(error.error());
         if (!message.isEmpty()) {
-            insertTransHtml(QStringLiteral("<i>%1.</i><br />").arg(message.toHtmlEscaped()));
+            const QString sentence = takesItalics(message) ? QStringLiteral("<i>%1.</i><br />")
+                                                           : QStringLiteral("%1.<br />");
+            insertTransHtml(sentence.arg(message.toHtmlEscaped()));
         }
     }
     insertTransHtml(QStringLiteral("<br />"));
@@ -286,7 +292,11 @@ void CertDialog::addHeading(const QString &text)
 void CertDialog::addDetail(const QString &label, const QString &value)
 {
     if (!value.isEmpty()) {
-        insertTransHtml(QStringLiteral("  %1%2<br />").arg(label, value.toHtmlEscaped()));
+        // In a line from right to left, "18:e7" would else be shown as "e7:18".
+        const QString shown = label.isRightToLeft()
+            ? firstStrongIsolate + value.toHtmlEscaped() + popDirectionalIsolate
+            : value.toHtmlEscaped();
+        insertTransHtml(QStringLiteral("  %1%2<br />").arg(label, shown));
     }
 }
 

@@ -10,6 +10,7 @@
 #include "ui/BusyDialog.h"
 #include "ui/ItemDetailsDialog.h"
 #include "ui/RVChoiceItem.h"
+#include "ui/RVItalics.h"
 #include "ui/TableLabelItem.h"
 #include "ui/TableRadioButtonItem.h"
 
@@ -419,9 +420,10 @@ void SelectionTable::retranslateUi()
         update->setData(Qt::AccessibleDescriptionRole, title);
         if (m_rows.at(row).current != VersionKnown) {
             QTableWidgetItem *installed = item(row, InstalledColumn);
-            setVersion(installed, m_rows.at(row).current == NotInstalled ? none : unknown);
+            const QString &word = m_rows.at(row).current == NotInstalled ? none : unknown;
+            setVersion(installed, word);
             QFont font = installed->font();
-            font.setItalic(italic);
+            font.setItalic(italic && takesItalics(word));
             installed->setFont(font);
         }
     }

@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>Service Pack Contents: </source>
-        <translation>محتويات حزمة الخدمة: </translation>
+        <translation>محتويات حزمة الخدمة: ‏</translation>
     </message>
     <message>
         <source>%1 KiB</source>
@@ -337,7 +337,7 @@
     <name>RVControlFrame</name>
     <message>
         <source>&lt;i&gt;No updates of this type are available.&lt;/i&gt;</source>
-        <translation>&lt;i&gt;لا تتوفر تحديثات من هذا النوع.&lt;/i&gt;</translation>
+        <translation>لا تتوفر تحديثات من هذا النوع.</translation>
     </message>
     <message>
         <source>&amp;Install</source>
@@ -384,7 +384,7 @@
     </message>
     <message>
         <source>Authentication is required to access &lt;br /&gt;&lt;i&gt;%1&lt;/i&gt;</source>
-        <translation>المصادقة مطلوبة للوصول إلى &lt;br /&gt;&lt;i&gt;⁨%1⁩&lt;/i&gt;</translation>
+        <translation>المصادقة مطلوبة للوصول إلى&lt;br /&gt;&lt;i&gt;⁨%1⁩&lt;/i&gt;</translation>
     </message>
     <message>
         <source>Could not retrieve data from repository&lt;br /&gt; &lt;i&gt;%1&lt;/i&gt;</source>
@@ -392,7 +392,7 @@
     </message>
     <message>
         <source>Authentication is required to use the proxy &lt;br /&gt;&lt;i&gt;%1&lt;/i&gt;</source>
-        <translation>المصادقة مطلوبة لاستخدام الوكيل &lt;br /&gt;&lt;i&gt;⁨%1⁩&lt;/i&gt;</translation>
+        <translation>المصادقة مطلوبة لاستخدام الوكيل&lt;br /&gt;&lt;i&gt;⁨%1⁩&lt;/i&gt;</translation>
     </message>
 </context>
 <context>

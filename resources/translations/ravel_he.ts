@@ -209,7 +209,7 @@
     </message>
     <message>
         <source>Service Pack Contents: </source>
-        <translation>תוכן ערכת השירות: </translation>
+        <translation>תוכן ערכת השירות: ‏</translation>
     </message>
     <message>
         <source>%1 KiB</source>
@@ -333,7 +333,7 @@
     <name>RVControlFrame</name>
     <message>
         <source>&lt;i&gt;No updates of this type are available.&lt;/i&gt;</source>
-        <translation>&lt;i&gt;אין עדכונים זמינים מסוג זה.&lt;/i&gt;</translation>
+        <translation>אין עדכונים זמינים מסוג זה.</translation>
     </message>
     <message>
         <source>&amp;Install</source>
@@ -380,7 +380,7 @@
     </message>
     <message>
         <source>Authentication is required to access &lt;br /&gt;&lt;i&gt;%1&lt;/i&gt;</source>
-        <translation>נדרש אימות לצורך גישה אל &lt;br /&gt;&lt;i&gt;⁨%1⁩&lt;/i&gt;</translation>
+        <translation>נדרש אימות לצורך גישה אל&lt;br /&gt;&lt;i&gt;⁨%1⁩&lt;/i&gt;</translation>
     </message>
     <message>
         <source>Could not retrieve data from repository&lt;br /&gt; &lt;i&gt;%1&lt;/i&gt;</source>
@@ -388,7 +388,7 @@
     </message>
     <message>
         <source>Authentication is required to use the proxy &lt;br /&gt;&lt;i&gt;%1&lt;/i&gt;</source>
-        <translation>נדרש אימות לצורך שימוש במתווך &lt;br /&gt;&lt;i&gt;⁨%1⁩&lt;/i&gt;</translation>
+        <translation>נדרש אימות לצורך שימוש במתווך&lt;br /&gt;&lt;i&gt;⁨%1⁩&lt;/i&gt;</translation>
     </message>
 </context>
 <context>

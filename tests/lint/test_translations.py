@@ -125,6 +125,8 @@ class Faults(unittest.TestCase):
         ("tag lost", "de", "<b>Title</b>", "Titel", "other markup"),
         ("tag changed", "de", "<b>Title</b>", "<i>Titel</i>", "other markup"),
         ("tag added", "de", "Title", "<b>Titel</b>", "other markup"),
+        ("italics lost", "de", "<i>None.</i>", "Keine.", "other markup"),
+        ("half of the italics lost", "ar", "<i>None.</i>", "<i>لا شيء.", "other markup"),
         ("tag not closed", "de", "<b><i>T</i></b>", "<b><i>T</b></i>", "not closed"),
         ("blank at the end lost", "de", "Name:  ", "Name:", "other blanks"),
         ("blank at the end added", "de", "Name", "Name ", "other blanks"),
@@ -152,6 +154,8 @@ class Faults(unittest.TestCase):
         ("wide question mark", "zh_CN", "Valid?", "是否有效？"),
         ("Arabic question mark", "ar", "Valid?", "صالح؟"),
         ("isolated address", "ar", "For '%1'.", "«\u2068%1\u2069»."),
+        ("no italics in Arabic", "ar", "<i>None.</i>", "لا شيء."),
+        ("mark behind the last blank", "ar", "Name: ", "الاسم: \u200f"),
         ("number as it is", "ar", "%1 KiB", "%1 ك.بايت"),
         ("list of another script", "ja", ", ", "、"),
     )

@@ -6,6 +6,7 @@
 #include "tests/ui/Gallery.h"
 #include "ui/ImageInstallBox.h"
 #include "ui/RVErrorDialog.h"
+#include "ui/RVItalics.h"
 #include "ui/RVTranslator.h"
 #include "ui/SelectionTable.h"
 
@@ -19,6 +20,9 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextEdit>
 #include <QTextLayout>
 #include <QTimer>
 #include <QTranslator>
@@ -126,6 +130,24 @@ void languageRows()
     }
 }
 
+/// Whether a part of a line that runs from right to left is drawn as one run from left to right.
+bool isDrawnAsOne(const QString &text, int begin, int length)
+{
+    QTextLayout layout(text);
+    QTextOption option;
+    option.setTextDirection(Qt::RightToLeft);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    for (int i = begin; i + 1 < begin + length; ++i) {
+        if (line.cursorToX(i + 1) <= line.cursorToX(i)) {
+            return false;
+        }
+    }
+    return begin >= 0;
+}
+
 QChar mnemonicOf(const QString &text)
 {
     const QString key = QKeySequence::mnemonic(text).toString();
@@ -154,8 +176,12 @@ private Q_SLOTS:
     void nothingIsCut();
     void mirrorsRightToLeft_data();
     void mirrorsRightToLeft();
+    void nothingIsSlanted_data() { mirrorsRightToLeft_data(); }
+    void nothingIsSlanted();
     void addressesStayReadable_data();
     void addressesStayReadable();
+    void fingerprintsStayReadable_data() { mirrorsRightToLeft_data(); }
+    void fingerprintsStayReadable();
 
 private:
     static QList<QList<Gallery::Text>> textsOf(const Gallery &gallery)
@@ -448,6 +474,49 @@ void TestTranslations::mirrorsRightToLeft()
     QCOMPARE(QApplication::layoutDirection(), Qt::LeftToRight);
 }
 
+// These scripts have no italics; fonts without them show boxes.
+void TestTranslations::nothingIsSlanted()
+{
+    QFETCH(QString, code);
+    speak(code);
+    QStringList slanted;
+    int upright = 0;
+    const auto look = [&](const QTextDocument &document) {
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+            for (auto part = block.begin(); !part.atEnd(); ++part) {
+                const QTextFragment fragment = part.fragment();
+                if (takesItalics(fragment.text())) {
+                    continue;
+                }
+                ++upright;
+                if (fragment.charFormat().fontItalic()) {
+                    slanted.append(fragment.text());
+                }
+            }
+        }
+    };
+    for (const Gallery::View &view : m_gallery->views()) {
+        for (const QLabel *label : view.window->findChildren<QLabel *>()) {
+            QTextDocument document;
+            document.setHtml(label->text());
+            look(document);
+        }
+        for (const QTextEdit *edit : view.window->findChildren<QTextEdit *>()) {
+            look(*edit->document());
+        }
+        for (const SelectionTable *table : view.window->findChildren<SelectionTable *>()) {
+            for (int row = 0; row < table->rowCount(); ++row) {
+                const QTableWidgetItem *installed = table->item(row, 2);
+                if (!takesItalics(installed->text()) && installed->font().italic()) {
+                    slanted.append(installed->text());
+                }
+            }
+        }
+    }
+    QVERIFY2(slanted.isEmpty(), qPrintable(slanted.join(QLatin1Char('\n'))));
+    QVERIFY(upright > 20);
+}
+
 void TestTranslations::addressesStayReadable_data()
 {
     mirrorsRightToLeft_data();
@@ -462,19 +531,30 @@ void TestTranslations::addressesStayReadable()
     const QString url = QStringLiteral("https://updates.example/6.1/packages-2.0/");
     for (const int error : {1, 5, 19, 99, 203, 299, 399, 7}) {
         const QString text = RVErrorDialog::messageFor(error, url);
-        const int begin = text.indexOf(url);
-        QVERIFY(begin > 0);
-        QTextLayout layout(text);
-        QTextOption option;
-        option.setTextDirection(Qt::RightToLeft);
-        layout.setTextOption(option);
-        layout.beginLayout();
-        const QTextLine line = layout.createLine();
-        layout.endLayout();
-        for (int i = begin; i + 1 < begin + url.size(); ++i) {
-            QVERIFY2(line.cursorToX(i + 1) > line.cursorToX(i), qPrintable(text));
+        QVERIFY2(isDrawnAsOne(text, text.indexOf(url), url.size()), qPrintable(text));
+    }
+}
+
+// So are the number and the fingerprints of a certificate, whatever digits they begin with.
+void TestTranslations::fingerprintsStayReadable()
+{
+    QFETCH(QString, code);
+    speak(code);
+    static const QRegularExpression pairs(QStringLiteral("([0-9a-f]{2}:){7,}[0-9a-f]{2}"));
+    int count = 0;
+    const QTextEdit *details = view(QStringLiteral("CertDialog")).window->findChild<QTextEdit *>();
+    for (QTextBlock block = details->document()->begin(); block.isValid(); block = block.next()) {
+        const QStringList lines = block.text().split(QChar::LineSeparator);
+        for (const QString &line : lines) {
+            const QRegularExpressionMatch match = pairs.match(line);
+            if (match.hasMatch()) {
+                ++count;
+                QVERIFY2(isDrawnAsOne(line, match.capturedStart(), match.capturedLength()),
+                         qPrintable(line));
+            }
         }
     }
+    QVERIFY(count >= 3);
 }
 
 QTEST_MAIN(TestTranslations)
