@@ -13,6 +13,7 @@
 
 #include <csignal>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/prctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -81,6 +82,9 @@ FtpServer::FtpServer()
 FtpServer::~FtpServer()
 {
     stop();
+    // Qt cannot remove a file whose name is no UTF-8.
+    std::error_code ignored;
+    std::filesystem::remove_all(QFile::encodeName(root()).toStdString(), ignored);
 }
 
 bool FtpServer::start()
