@@ -2,12 +2,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlAccess.h"
 
+#include "network/XServerCertificate.h"
+
 #include <QCommandLineOption>
 #include <QCommandLineParser>
 #include <QCryptographicHash>
 #include <QJsonArray>
 #include <QSslCertificate>
-#include <QSslConfiguration>
 
 #include "cli/RVCtlDeadline.h"
 #include "cli/RVCtlMessages.h"
@@ -17,21 +18,6 @@ namespace
 {
 
 constexpr int fingerprintBytes = 32;
-
-/// What the server showed; errors may concern one of its issuers instead.
-QSslCertificate serverCertificate(const QNetworkReply *reply, const QList<QSslError> &errors)
-{
-    const QSslCertificate shown = reply->sslConfiguration().peerCertificate();
-    if (!shown.isNull()) {
-        return shown;
-    }
-    for (const QSslError &error : errors) {
-        if (!error.certificate().isNull()) {
-            return error.certificate();
-        }
-    }
-    return QSslCertificate();
-}
 
 QByteArray fingerprintOf(const QSslCertificate &certificate)
 {

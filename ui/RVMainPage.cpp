@@ -7,6 +7,7 @@
 #include "descriptor/DataXML.h"
 #include "network/RVKeyring.h"
 #include "network/XNetworkError.h"
+#include "network/XServerCertificate.h"
 #include "repository/RVRepDesc.h"
 #include "repository/RVRepository.h"
 #include "ui/CertDialog.h"
@@ -22,7 +23,6 @@
 #include <QEventLoop>
 #include <QPointer>
 #include <QSslCertificate>
-#include <QSslConfiguration>
 #include <QVBoxLayout>
 
 #include <set>
@@ -48,17 +48,6 @@ QString certificateQuestion(const QSslCertificate &certificate, const QList<QSsl
         question += QLatin1Char(' ') + QString::number(code);
     }
     return question;
-}
-
-/// The server's own. The errors carry that of the authority as well, which stands for every server
-/// under it; they are asked only where the connection is not known.
-QSslCertificate serverCertificate(const QNetworkReply *reply, const QList<QSslError> &errors)
-{
-    QSslCertificate certificate = reply->sslConfiguration().peerCertificate();
-    for (auto error = errors.cbegin(); certificate.isNull() && error != errors.cend(); ++error) {
-        certificate = error->certificate();
-    }
-    return certificate;
 }
 
 bool isProxy(const QString &host, int port)
