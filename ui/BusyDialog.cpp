@@ -86,6 +86,8 @@ void BusyDialog::setup(const QString &labelText, const QString &cancelText, int 
     m_label->setWordWrap(true);
 
     m_progressBar = new QProgressBar;
+    // Qt's own style draws the text of a bar from right to left in the colour of its ground.
+    m_progressBar->setLayoutDirection(Qt::LeftToRight);
     m_progressBar->setObjectName(QStringLiteral("progressBar"));
     m_progressBar->setRange(minimum, maximum);
     m_progressBar->setValue(minimum);

@@ -17,6 +17,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
@@ -176,6 +177,8 @@ private Q_SLOTS:
     void nothingIsCut();
     void mirrorsRightToLeft_data();
     void mirrorsRightToLeft();
+    void amountsAreSeen_data() { mirrorsRightToLeft_data(); }
+    void amountsAreSeen();
     void nothingIsSlanted_data() { mirrorsRightToLeft_data(); }
     void nothingIsSlanted();
     void addressesStayReadable_data();
@@ -472,6 +475,29 @@ void TestTranslations::mirrorsRightToLeft()
     QCOMPARE(buttons(), order);
     speak({});
     QCOMPARE(QApplication::layoutDirection(), Qt::LeftToRight);
+}
+
+// The text of a progress bar stands out from what is filled and from what is not.
+void TestTranslations::amountsAreSeen()
+{
+    QFETCH(QString, code);
+    speak(code);
+    auto *bar = view(QStringLiteral("BusyDialog download")).window->findChild<QProgressBar *>();
+    bar->resize(400, 30);
+    const QImage with = bar->grab().toImage();
+    const QString format = bar->format();
+    bar->setFormat(QString(QLatin1Char(' ')));
+    const QImage without = bar->grab().toImage();
+    bar->setFormat(format);
+    int different = 0;
+    for (int x = 0; x < with.width(); ++x) {
+        for (int y = 0; y < with.height(); ++y) {
+            if (qAbs(qGray(with.pixel(x, y)) - qGray(without.pixel(x, y))) > 100) {
+                ++different;
+            }
+        }
+    }
+    QVERIFY2(different > 50, qPrintable(QString::number(different)));
 }
 
 // These scripts have no italics; fonts without them show boxes.
