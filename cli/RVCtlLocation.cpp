@@ -11,6 +11,7 @@
 #include <QSettings>
 
 #include "cli/RVCtlMessages.h"
+#include "cli/RVCtlPassword.h"
 #include "cli/RVCtlText.h"
 #include "cli/RVCtlWorld.h"
 
@@ -90,7 +91,20 @@ RVCtlResult RVCtlLocation::run(const RVCtlCall &call)
     }
     RVRepository *repository = section->repository;
     if (call.arguments.size() > 1) {
-        const QString &text = call.arguments.at(1);
+        QString text = call.arguments.at(1);
+        if (text == QLatin1String("-")) {
+            if (!RVCtlPassword::fromFile(QStringLiteral("/dev/stdin"), call.deadline, &text,
+                                         &error)) {
+                return RVCtlResult::failed(
+                    RVCtlExit::Usage, QStringLiteral("There is no location on standard input."));
+            }
+        } else if (!QUrl(text).password().isEmpty()) {
+            return RVCtlResult::failed(
+                RVCtlExit::Usage,
+                QStringLiteral(
+                    "A location with a password is no argument, which every user can "
+                    "read: `ravelctl location SECTION -` takes it from standard input."));
+        }
         const bool isStandard = text == QLatin1String("default");
         const QUrl url = isStandard ? repository->defaultUrl() : QUrl(text);
         error = isStandard ? QString() : refusal(text, url);

@@ -9,7 +9,7 @@ class RVCtlLocation : public RVCtlCommand
 {
 public:
     QString name() const override { return QStringLiteral("location"); }
-    QString syntax() const override { return QStringLiteral("SECTION [URL | default]"); }
+    QString syntax() const override { return QStringLiteral("SECTION [URL | - | default]"); }
     QString summary() const override
     {
         return QStringLiteral("Show or store the location of a section.");

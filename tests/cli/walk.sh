@@ -315,6 +315,12 @@ check "what is refused stores nothing" test ! -e "$settings"
 local_run 0 '.location == "http://mirror.example/p" and (.isDefault | not)' location package_uri http://mirror.example/p
 check "the settings are their owner's alone" test "$(stat -c %a "$settings")" = 600
 local_run 0 '.repositories[2].location == "http://mirror.example/p"' repos
+local_run 2 '.error.text | contains("standard input")' location package_uri ftp://u:geheim@h/p
+check "nor is it repeated" sh -c '! grep -q geheim "$@"' sh "$work/out" "$work/err"
+local_run 2 '.error.code == 2' location package_uri - </dev/null
+local_run 0 '.location == "ftp://u@h/p"' location package_uri - <<<'ftp://u:geheim@h/p'
+check "the password is in the settings" grep -q 'ftp://u:geheim@h/p' "$settings"
+check "and nowhere else" sh -c '! grep -rq geheim "$1/var/log" "$2" "$3"' sh "$root" "$work/out" "$work/err"
 local_run 0 '.isDefault' location package_uri default
 check "the default leaves no key" sh -c '! grep -q package_uri "$0"' "$settings"
 local_run 0 '.location == ""' location package_uri ''
