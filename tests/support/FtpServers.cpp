@@ -2,45 +2,19 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/support/FtpServers.h"
 
-#include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QNetworkProxy>
-#include <QTcpServer>
 #include <QTcpSocket>
 
-#include <csignal>
 #include <fcntl.h>
 #include <filesystem>
-#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace
 {
-
-constexpr int startTimeout = 20000;
-
-/// In a process group of its own, and ending with its parent.
-class ServerProcess : public QProcess
-{
-protected:
-    void setupChildProcess() override
-    {
-        ::setpgid(0, 0);
-        if (::prctl(PR_SET_PDEATHSIG, SIGTERM) != 0) {
-            ::_exit(126);
-        }
-    }
-};
-
-quint16 freePort(const QString &address)
-{
-    QTcpServer probe;
-    return probe.listen(QHostAddress(address)) ? probe.serverPort() : quint16(0);
-}
 
 QString nextAddress()
 {
@@ -70,12 +44,9 @@ FtpServer::FtpServer()
     // Not below the test's own folder: nobody but its owner may be able to reach that one.
     , m_dir(QStringLiteral("/tmp/ravel-ftp-XXXXXX"))
 {
-    const auto open = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup
-        | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
     for (const QString &folder :
          {m_dir.path(), runFile({}), runFile(QStringLiteral("empty")), root()}) {
-        QDir().mkpath(folder);
-        QFile::setPermissions(folder, open);
+        ServerProcess::makeOpenFolder(folder);
     }
 }
 
@@ -94,7 +65,7 @@ bool FtpServer::start()
     // Somebody else may take the port between the search and the start.
     for (int attempt = 0; attempt < (keepsPort ? 1 : 3); ++attempt) {
         if (!keepsPort) {
-            m_port = freePort(m_address);
+            m_port = ServerProcess::freePort(QHostAddress(m_address));
         }
         if (launch()) {
             return true;
@@ -118,21 +89,11 @@ bool FtpServer::launch()
     if (!configure()) {
         return false;
     }
-    m_process = std::make_unique<ServerProcess>();
-    m_process->setProcessChannelMode(QProcess::MergedChannels);
-    m_process->setStandardOutputFile(runFile(QStringLiteral("output")));
-    m_process->setStandardInputFile(QProcess::nullDevice());
-    m_process->setWorkingDirectory(runFile({}));
+    m_process = std::make_unique<ServerProcess>(ServerProcess::AllRights);
     m_process->setProcessEnvironment(environment());
-    m_process->start(program(), arguments());
-    QElapsedTimer timer;
-    timer.start();
-    while (timer.elapsed() < startTimeout && !m_process->waitForFinished(20)) {
-        if (isReady()) {
-            return true;
-        }
-    }
-    return false;
+    return m_process->launch(runFile({}), program(), arguments(), [this] {
+        return isReady();
+    });
 }
 
 bool FtpServer::isReady() const
@@ -148,16 +109,11 @@ bool FtpServer::isReady() const
 
 void FtpServer::stop()
 {
-    if (!m_process) {
-        return;
+    if (m_process) {
+        // The sessions are children of the server.
+        m_process->killGroup();
+        m_process.reset();
     }
-    const auto group = static_cast<pid_t>(m_process->processId());
-    if (group > 0) {
-        // The sessions are children of the server, in its group.
-        ::kill(-group, SIGKILL);
-        m_process->waitForFinished(5000);
-    }
-    m_process.reset();
 }
 
 const char *FtpServer::report()

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "tests/support/ServerProcess.h"
+
 #include <QJsonObject>
-#include <QProcess>
+#include <QProcessEnvironment>
 #include <QTemporaryDir>
 #include <QUrl>
 
@@ -61,7 +63,7 @@ private:
     bool launch();
 
     QTemporaryDir m_dir;
-    std::unique_ptr<QProcess> m_process;
+    std::unique_ptr<ServerProcess> m_process;
     QByteArray m_report;
 };
 

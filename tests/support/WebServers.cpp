@@ -5,41 +5,14 @@
 #include "tests/support/OrdinaryUser.h"
 
 #include <QCryptographicHash>
-#include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QNetworkProxy>
-#include <QTcpServer>
 #include <QTcpSocket>
-#include <QThread>
 
-#include <csignal>
-#include <grp.h>
-#include <sys/prctl.h>
 #include <unistd.h>
 
 namespace
 {
-
-constexpr int startTimeout = 20000;
-
-/// In a process group of its own, with an ordinary user's rights, and ending with its parent.
-class ServerProcess : public QProcess
-{
-protected:
-    void setupChildProcess() override
-    {
-        ::setpgid(0, 0);
-        const bool mayRun = ::geteuid() != 0
-            || (::setgroups(0, nullptr) == 0
-                && ::setresgid(OrdinaryUser::id, OrdinaryUser::id, OrdinaryUser::id) == 0
-                && ::setresuid(OrdinaryUser::id, OrdinaryUser::id, OrdinaryUser::id) == 0);
-        // Only now: a change of user takes it back.
-        if (!mayRun || ::prctl(PR_SET_PDEATHSIG, SIGTERM) != 0) {
-            ::_exit(126);
-        }
-    }
-};
 
 QByteArray contentOf(const QString &fileName)
 {
@@ -53,12 +26,6 @@ QByteArray quoted(const QString &text)
     return '"' + text.toUtf8().replace('\\', "\\\\").replace('"', "\\\"") + '"';
 }
 
-quint16 freePort()
-{
-    QTcpServer probe;
-    return probe.listen(QHostAddress::LocalHost) ? probe.serverPort() : quint16(0);
-}
-
 QByteArray listenAddress(quint16 port)
 {
     return "127.0.0.1:" + QByteArray::number(port);
@@ -70,11 +37,8 @@ WebServer::WebServer()
     // Not below the test's own folder: nobody but its owner may be able to reach that one.
     : m_dir(QStringLiteral("/tmp/ravel-web-XXXXXX"))
 {
-    const auto open = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup
-        | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
     for (const QString &folder : {m_dir.path(), runFile({}), root()}) {
-        QDir().mkpath(folder);
-        QFile::setPermissions(folder, open);
+        ServerProcess::makeOpenFolder(folder);
     }
     if (::geteuid() == 0
         && ::chown(QFile::encodeName(runFile({})).constData(), OrdinaryUser::id, OrdinaryUser::id)
@@ -95,8 +59,8 @@ bool WebServer::start()
     // Somebody else may take a port between the search and the start.
     for (int attempt = 0; attempt < 5; ++attempt) {
         if (!keepsPorts) {
-            m_port = freePort();
-            m_tlsPort = freePort();
+            m_port = ServerProcess::freePort(QHostAddress::LocalHost);
+            m_tlsPort = ServerProcess::freePort(QHostAddress::LocalHost);
         }
         if (launch()) {
             return true;
@@ -122,20 +86,10 @@ bool WebServer::launch()
     if (!configure()) {
         return false;
     }
-    m_process = std::make_unique<ServerProcess>();
-    m_process->setProcessChannelMode(QProcess::MergedChannels);
-    m_process->setStandardOutputFile(runFile(QStringLiteral("output")));
-    m_process->setStandardInputFile(QProcess::nullDevice());
-    m_process->setWorkingDirectory(runFile({}));
-    m_process->start(program(), arguments());
-    QElapsedTimer timer;
-    timer.start();
-    while (timer.elapsed() < startTimeout && !m_process->waitForFinished(20)) {
-        if (answers()) {
-            return true;
-        }
-    }
-    return false;
+    m_process = std::make_unique<ServerProcess>(ServerProcess::OrdinaryRights);
+    return m_process->launch(runFile({}), program(), arguments(), [this] {
+        return answers();
+    });
 }
 
 /// The PID file tells it from a stranger on the same port: it is written once the port is ours.
@@ -157,12 +111,10 @@ void WebServer::stop()
     if (!m_process) {
         return;
     }
-    const qint64 group = m_process->processId();
-    if (group > 0) {
+    if (m_process->processId() > 0) {
         m_process->terminate();
         if (!m_process->waitForFinished(5000)) {
-            ::kill(static_cast<pid_t>(-group), SIGKILL);
-            m_process->waitForFinished(5000);
+            m_process->killGroup();
         }
     }
     m_process.reset();

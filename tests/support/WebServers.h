@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "tests/support/ServerProcess.h"
 #include "tests/support/TestAuthority.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QUrl>
 
@@ -68,7 +68,7 @@ private:
     bool answers() const;
 
     QTemporaryDir m_dir;
-    std::unique_ptr<QProcess> m_process;
+    std::unique_ptr<ServerProcess> m_process;
     QByteArray m_report;
 };
 
