@@ -3,7 +3,10 @@
 #include "archive/RVInstallProc.h"
 #include "core/RVLimits.h"
 #include "tests/support/DpkgRoot.h"
+#include "tests/support/HttpServer.h"
+#include "tests/support/InlineFtpServer.h"
 #include "tests/support/LogFile.h"
+#include "tests/support/TestAuthority.h"
 #include "tests/support/WarningGuard.h"
 
 #include <QAuthenticator>
@@ -11,8 +14,6 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
-#include <QHash>
-#include <QPointer>
 #include <QSslCertificate>
 #include <QSslKey>
 #include <QSslSocket>
@@ -24,7 +25,6 @@
 
 #include <limits>
 #include <memory>
-#include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -32,155 +32,28 @@ namespace
 {
 
 constexpr int limitMs = 20000;
+constexpr qint64 twoGiB = qint64(1) << 31;
+using After = HttpServer::After;
 
-/// Answers each GET by its path, one request for each connection; an unknown path is a 404.
-class Server : public QObject
+/// The head of an answer with a body of `size` bytes, and the first of them.
+QByteArray beginning(const QByteArray &bytes, qint64 size)
 {
-    Q_OBJECT
+    return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(size) + "\r\n\r\n" + bytes;
+}
 
-public:
-    struct Answer {
-        QByteArray body = {};
-        QByteArray status = "200 OK";
-        QByteArray headers = {};
-        /// This many bytes that are announced do not come: either the connection ends, or the body
-        /// comes in drips and never ends.
-        int missing = 0;
-        bool close = true;
-    };
-
-    Server()
-    {
-        m_server.listen(QHostAddress::LocalHost);
-        // Qt's queue of 50 makes the clients behind it try again a second later.
-        ::listen(static_cast<int>(m_server.socketDescriptor()), 2 * RVLimits::transfersInFlight);
-        connect(&m_server, &QTcpServer::newConnection, this, [this] {
-            while (QTcpSocket *socket = m_server.nextPendingConnection()) {
-                connect(socket, &QTcpSocket::readyRead, this, [this, socket] {
-                    serve(socket);
-                });
-                connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-            }
-        });
-    }
-
-    QUrl url(const QString &path) const
-    {
-        return QUrl(QStringLiteral("http://127.0.0.1:%1%2").arg(m_server.serverPort()).arg(path));
-    }
-    quint16 port() const { return m_server.serverPort(); }
-
-    QHash<QString, Answer> answers;
-    /// Request lines and headers in the order of their arrival.
-    QList<QByteArray> requests;
-    /// Answers that wait until release().
-    bool hold = false;
-    int held() const { return m_held.size(); }
-    void releaseOne() { answer(m_held.takeFirst()); }
-
-private:
-    struct Request {
-        QPointer<QTcpSocket> socket;
-        QString path;
-    };
-
-    void serve(QTcpSocket *socket)
-    {
-        const QByteArray request = socket->peek(65536);
-        if (!request.contains("\r\n\r\n")) {
-            return;
-        }
-        socket->readAll();
-        requests.append(request);
-        const Request arrived{socket, QString::fromLatin1(request.split(' ').value(1))};
-        if (hold) {
-            m_held.append(arrived);
-        } else {
-            answer(arrived);
-        }
-    }
-
-    void answer(const Request &request)
-    {
-        if (!request.socket) {
-            return;
-        }
-        Answer answer;
-        answer.status = "404 Not Found";
-        answer = answers.value(request.path, answer);
-        request.socket->write("HTTP/1.1 " + answer.status + "\r\nContent-Length: "
-                              + QByteArray::number(answer.body.size() + answer.missing) + "\r\n"
-                              + answer.headers + "Connection: close\r\n\r\n" + answer.body);
-        if (answer.close) {
-            request.socket->disconnectFromHost();
-            return;
-        }
-        // Progress is reported a few times a second, and only when something comes.
-        auto *timer = new QTimer(request.socket);
-        connect(timer, &QTimer::timeout, request.socket, [socket = request.socket] {
-            socket->write(".");
-        });
-        timer->start(20);
-    }
-
-    QTcpServer m_server;
-    QList<Request> m_held;
-};
-
-/// A server of a line protocol that greets, refuses every command and remembers them.
-class RefusingFtpServer : public QObject
-{
-    Q_OBJECT
-
-public:
-    RefusingFtpServer()
-    {
-        m_server.listen(QHostAddress::LocalHost);
-        connect(&m_server, &QTcpServer::newConnection, this, [this] {
-            QTcpSocket *socket = m_server.nextPendingConnection();
-            connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-            connect(socket, &QTcpSocket::readyRead, this, [this, socket] {
-                while (socket->canReadLine()) {
-                    commands.append(socket->readLine().trimmed());
-                    socket->write("530 No.\r\n");
-                }
-            });
-            socket->write("220 Ready.\r\n");
-        });
-    }
-
-    quint16 port() const { return m_server.serverPort(); }
-
-    QList<QByteArray> commands;
-
-private:
-    QTcpServer m_server;
-};
-
-/// Gives a package over TLS, with a certificate that nobody has signed.
+/// Gives a package over TLS.
 class TlsServer : public QTcpServer
 {
     Q_OBJECT
 
 public:
-    /// Keeps the key and the certificate in `directory`.
-    explicit TlsServer(const QString &directory)
+    explicit TlsServer(const TestAuthority::Pair &pair)
+        : m_certificate(TestAuthority::read(pair.certificate))
     {
-        const QString key = directory + QStringLiteral("/key.pem");
-        const QString certificate = directory + QStringLiteral("/certificate.pem");
-        QProcess openssl;
-        openssl.start(QStringLiteral("openssl"),
-                      {QStringLiteral("req"), QStringLiteral("-x509"), QStringLiteral("-newkey"),
-                       QStringLiteral("ec"), QStringLiteral("-pkeyopt"),
-                       QStringLiteral("ec_paramgen_curve:prime256v1"), QStringLiteral("-nodes"),
-                       QStringLiteral("-subj"), QStringLiteral("/CN=127.0.0.1"),
-                       QStringLiteral("-keyout"), key, QStringLiteral("-out"), certificate});
-        openssl.waitForFinished(limitMs);
-        QFile keyFile(key);
+        QFile keyFile(pair.key);
         if (keyFile.open(QIODevice::ReadOnly)) {
             m_key = QSslKey(&keyFile, QSsl::Ec);
         }
-        m_certificate = QSslCertificate::fromPath(certificate).value(0);
         listen(QHostAddress::LocalHost);
     }
 
@@ -336,6 +209,8 @@ private Q_SLOTS:
     void failsWithoutInstaller();
     void failedDownloadDoesNotStopTheBatch_data();
     void failedDownloadDoesNotStopTheBatch();
+    void failedFtpDownload_data();
+    void failedFtpDownload();
     void immediateFailures();
     void allFailImmediately();
     void specialFilesAreNotOpened();
@@ -381,6 +256,8 @@ private:
     /// Paths whose shell prints what the script would work on, then runs `lines`.
     RVPaths installer(const QByteArray &lines);
     QUrl pool(const DpkgRoot::Package &package);
+    /// A batch whose one download fails with this error, which is told once.
+    void installsTheGoodOne(const QUrl &bad, int error);
     /// Starts and waits for the final signal.
     void run(RVInstallProc *procedure, Report *report);
 
@@ -584,7 +461,7 @@ void tst_RVInstallProc::failsWithoutAnyPackage()
 void tst_RVInstallProc::startsTheInstallerAtOnce()
 {
     // A full image is never downloaded. Nobody agrees to it here, so its process ends at once.
-    Server server;
+    HttpServer server;
     RVPaths paths;
     const QList<RVData> batch{entry(server.url(QStringLiteral("/image.dd.gz")), paths, 1000),
                               entry(server.url(QStringLiteral("/a.deb")), paths, 1000)};
@@ -595,7 +472,7 @@ void tst_RVInstallProc::startsTheInstallerAtOnce()
     QVERIFY(m_log->contains(QStringLiteral("  Starting installation.")));
     QVERIFY(report.waitForEnd());
     QCOMPARE(report.events.last(), QStringLiteral("finished 0 normal"));
-    QVERIFY(server.requests.isEmpty());
+    QVERIFY(server.requests().isEmpty());
     QVERIFY(report.progress.isEmpty());
 }
 
@@ -614,21 +491,21 @@ void tst_RVInstallProc::startsNothingForAnEmptyBatch()
 
 void tst_RVInstallProc::singleEntryWithoutCredentials()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "package");
     const RVPaths paths = installer("/bin/ls");
     RVInstallProc procedure(entry(server.url(QStringLiteral("/a.deb")), paths), nullptr, paths);
     Report report(&procedure);
     run(&procedure, &report);
     QCOMPARE(procedure.readAllStandardOutput(), QByteArray("RVinstall.sh\na.deb\n"));
-    QVERIFY(!server.requests.first().contains("Authorization"));
+    QVERIFY(!server.requests().first().contains("Authorization"));
 }
 
 void tst_RVInstallProc::reportsInOrder()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"), {"aaa"});
-    server.answers.insert(QStringLiteral("/b.deb"), {"bbb"});
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "aaa");
+    server.serve(QStringLiteral("/b.deb"), "bbb");
     const RVPaths paths = installer("/bin/cat ./*.deb; echo problem >&2; exit 3");
     const QList<RVData> batch{entry(server.url(QStringLiteral("/a.deb")), paths),
                               entry(server.url(QStringLiteral("/b.deb")), paths)};
@@ -636,7 +513,7 @@ void tst_RVInstallProc::reportsInOrder()
     QCOMPARE(procedure.proxyHost, QString());
     QCOMPARE(procedure.proxyPort, -2);
     Report report(&procedure);
-    QVERIFY(server.requests.isEmpty());
+    QVERIFY(server.requests().isEmpty());
     run(&procedure, &report);
     QCOMPARE(report.events,
              QStringList({QStringLiteral("extractFinished"), QStringLiteral("installStarted"),
@@ -669,8 +546,8 @@ void tst_RVInstallProc::logsProgress()
 
 void tst_RVInstallProc::installerThatCannotStart()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "package");
     RVPaths paths;
     paths.shell = m_dir->filePath(QStringLiteral("missing"));
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
@@ -700,36 +577,88 @@ void tst_RVInstallProc::failsWithoutInstaller()
 
 void tst_RVInstallProc::failedDownloadDoesNotStopTheBatch_data()
 {
-    QTest::addColumn<QByteArray>("status");
-    QTest::addColumn<int>("missing");
+    QTest::addColumn<QByteArray>("answer");
+    QTest::addColumn<After>("after");
     QTest::addColumn<int>("error");
 
-    QTest::newRow("not found") << QByteArray("404 Not Found") << 0
+    const auto status = [](const QByteArray &line) {
+        return "HTTP/1.1 " + line + "\r\nContent-Length: 10\r\n\r\npart of it";
+    };
+    QTest::newRow("not found") << status("404 Not Found") << After::Close
                                << int(QNetworkReply::ContentNotFoundError);
-    QTest::newRow("server error") << QByteArray("500 Internal Server Error") << 0
+    QTest::newRow("server error") << status("500 Internal Server Error") << After::Close
                                   << int(QNetworkReply::UnknownContentError);
-    QTest::newRow("cut off in the middle")
-        << QByteArray("200 OK") << 100 << int(QNetworkReply::RemoteHostClosedError);
+    QTest::newRow("cut off in the middle") << beginning("part of it", 110) << After::Close
+                                           << int(QNetworkReply::RemoteHostClosedError);
+    QTest::newRow("broken off in the middle") << beginning("part of it", 110) << After::Reset
+                                              << int(QNetworkReply::RemoteHostClosedError);
+    QTest::newRow("silent") << QByteArray() << After::Stay << int(QNetworkReply::TimeoutError);
+    QTest::newRow("silent in the middle")
+        << beginning("part of it", 110) << After::Stay << int(QNetworkReply::TimeoutError);
+    QTest::newRow("2 GiB announced")
+        << beginning("part of it", twoGiB) << After::Stay << int(QNetworkReply::ProtocolFailure);
 }
 
 void tst_RVInstallProc::failedDownloadDoesNotStopTheBatch()
 {
-    QFETCH(QByteArray, status);
-    QFETCH(int, missing);
+    QFETCH(QByteArray, answer);
+    QFETCH(After, after);
     QFETCH(int, error);
 
-    Server server;
-    server.answers.insert(QStringLiteral("/bad.deb"), {"part of it", status, {}, missing});
-    server.answers.insert(QStringLiteral("/good.deb"), {"package"});
+    HttpServer server;
+    server.serveRaw(QStringLiteral("/bad.deb"), answer, after);
+    installsTheGoodOne(server.url(QStringLiteral("/bad.deb")), error);
+}
+
+void tst_RVInstallProc::failedFtpDownload_data()
+{
+    QTest::addColumn<QByteArray>("step");
+    QTest::addColumn<QByteArray>("answer");
+    QTest::addColumn<int>("error");
+
+    QTest::newRow("not found") << QByteArray("RETR") << QByteArray("550 No such file\r\n")
+                               << int(QNetworkReply::ContentNotFoundError);
+    QTest::newRow("shorter than announced") << QByteArray("SIZE") << QByteArray("213 110\r\n")
+                                            << int(QNetworkReply::RemoteHostClosedError);
+    QTest::newRow("silent") << QByteArray() << QByteArray() << int(QNetworkReply::TimeoutError);
+    QTest::newRow("silent in the middle")
+        << QByteArray("RETR") << QByteArray("150 Here it comes\r\n")
+        << int(QNetworkReply::TimeoutError);
+    QTest::newRow("2 GiB announced") << QByteArray("SIZE") << QByteArray("213 2147483648\r\n")
+                                     << int(QNetworkReply::ProtocolFailure);
+}
+
+void tst_RVInstallProc::failedFtpDownload()
+{
+    QFETCH(QByteArray, step);
+    QFETCH(QByteArray, answer);
+    QFETCH(int, error);
+
+    InlineFtpServer server;
+    server.answer(step, answer);
+    installsTheGoodOne(QUrl(QStringLiteral("ftp://127.0.0.1:%1/bad.deb").arg(server.port())),
+                       error);
+}
+
+void tst_RVInstallProc::installsTheGoodOne(const QUrl &bad, int error)
+{
+    HttpServer server;
+    server.serve(QStringLiteral("/good.deb"), "package");
     const RVPaths paths = installer("/bin/ls");
-    const QList<RVData> batch{entry(server.url(QStringLiteral("/bad.deb")), paths),
-                              entry(server.url(QStringLiteral("/good.deb")), paths)};
-    RVInstallProc procedure(batch, QString(), QString(), nullptr, paths);
-    Report report(&procedure);
-    run(&procedure, &report);
-    QCOMPARE(report.events.count(QStringLiteral("networkError %1").arg(error)), 1);
-    QCOMPARE(report.events.last(), QStringLiteral("finished 0 normal"));
-    QCOMPARE(procedure.readAllStandardOutput(), QByteArray("RVinstall.sh\ngood.deb\n"));
+    for (const bool isFirst : {true, false}) {
+        QList<RVData> batch{entry(server.url(QStringLiteral("/good.deb")), paths)};
+        batch.insert(isFirst ? 0 : 1, entry(bad, paths));
+        RVInstallProc procedure(batch, QString(), QString(), nullptr, paths);
+        procedure.inactivityLimit = 500;
+        Report report(&procedure);
+        run(&procedure, &report);
+        QCOMPARE(report.events,
+                 QStringList({QStringLiteral("networkError %1").arg(error),
+                              QStringLiteral("extractFinished"), QStringLiteral("installStarted"),
+                              QStringLiteral("finished 0 normal")}));
+        QCOMPARE(procedure.readAllStandardOutput(), QByteArray("RVinstall.sh\ngood.deb\n"));
+        QTRY_VERIFY(procedure.findChildren<QNetworkAccessManager *>().isEmpty());
+    }
 }
 
 void tst_RVInstallProc::immediateFailures()
@@ -796,16 +725,15 @@ void tst_RVInstallProc::specialFilesAreNotOpened()
 
 void tst_RVInstallProc::neverFollowsARedirect()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"),
-                          {"moved", "302 Found", "Location: /other.deb\r\n"});
-    server.answers.insert(QStringLiteral("/other.deb"), {"package"});
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "moved", 302, "Location: /other.deb\r\n");
+    server.serve(QStringLiteral("/other.deb"), "package");
     const RVPaths paths = installer("/bin/cat ./*.deb");
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
                             QString(), nullptr, paths);
     Report report(&procedure);
     run(&procedure, &report);
-    QCOMPARE(server.requests.size(), 1);
+    QCOMPARE(server.requests().size(), 1);
     // What came instead goes to the installer, which refuses it for all to see.
     QCOMPARE(procedure.readAllStandardOutput(), QByteArray("moved"));
 }
@@ -813,31 +741,28 @@ void tst_RVInstallProc::neverFollowsARedirect()
 void tst_RVInstallProc::keepsTransfersWithinTheLimit()
 {
     constexpr int count = RVLimits::transfersInFlight + 20;
-    Server server;
-    server.hold = true;
+    HttpServer server;
+    server.hold();
     const RVPaths paths = installer("set -- ./*.deb; echo $#");
     QList<RVData> batch;
     for (int i = 0; i < count; ++i) {
         const QString path = QStringLiteral("/%1.deb").arg(i, 3, 10, QLatin1Char('0'));
-        server.answers.insert(path, {"package"});
+        server.serve(path, "package");
         batch.append(entry(server.url(path), paths));
     }
     RVInstallProc procedure(batch, QString(), QString(), nullptr, paths);
     Report report(&procedure);
     procedure.start();
-    QTRY_COMPARE(server.held(), RVLimits::transfersInFlight);
+    QTRY_COMPARE(server.waiting(), RVLimits::transfersInFlight);
     // One ends, the next in order begins.
     server.releaseOne();
-    QTRY_COMPARE(server.requests.size(), RVLimits::transfersInFlight + 1);
-    QVERIFY(server.requests.last().startsWith("GET /100.deb "));
+    QTRY_COMPARE(server.requests().size(), RVLimits::transfersInFlight + 1);
+    QVERIFY(server.requests().last().startsWith("GET /100.deb "));
     server.releaseOne();
-    QTRY_COMPARE(server.requests.size(), RVLimits::transfersInFlight + 2);
-    QVERIFY(server.requests.last().startsWith("GET /101.deb "));
+    QTRY_COMPARE(server.requests().size(), RVLimits::transfersInFlight + 2);
+    QVERIFY(server.requests().last().startsWith("GET /101.deb "));
     QVERIFY(!report.ended());
-    server.hold = false;
-    while (server.held() > 0) {
-        server.releaseOne();
-    }
+    server.release();
     QVERIFY(report.waitForEnd());
     QCOMPARE(procedure.readAllStandardOutput(), QByteArray::number(count) + '\n');
 }
@@ -845,23 +770,21 @@ void tst_RVInstallProc::keepsTransfersWithinTheLimit()
 void tst_RVInstallProc::waitingDownloadsAfterFailures()
 {
     // The last entries wait for a place, and the one that gets it cannot even be started.
-    Server server;
-    server.hold = true;
+    HttpServer server;
+    server.hold();
     const RVPaths paths = installer("set -- ./*.deb; echo $#");
     QList<RVData> batch;
     for (int i = 0; i < RVLimits::transfersInFlight; ++i) {
         const QString path = QStringLiteral("/%1.deb").arg(i);
-        server.answers.insert(path, {"package"});
+        server.serve(path, "package");
         batch.append(entry(server.url(path), paths));
     }
     batch.append(entry(QUrl::fromLocalFile(m_dir->filePath(QStringLiteral("missing.deb"))), paths));
     RVInstallProc procedure(batch, QString(), QString(), nullptr, paths);
     Report report(&procedure);
     procedure.start();
-    QTRY_COMPARE(server.held(), RVLimits::transfersInFlight);
-    while (server.held() > 0) {
-        server.releaseOne();
-    }
+    QTRY_COMPARE(server.waiting(), RVLimits::transfersInFlight);
+    server.release();
     QVERIFY(report.waitForEnd());
     QCOMPARE(report.events,
              QStringList({QStringLiteral("networkError 203"), QStringLiteral("extractFinished"),
@@ -887,8 +810,8 @@ void tst_RVInstallProc::cancels()
     QFETCH(int, downloads);
     QFETCH(int, pending);
 
-    Server server;
-    server.hold = true;
+    HttpServer server;
+    server.hold();
     const RVPaths paths = installer("echo started");
     QList<RVData> batch;
     for (int i = 0; i < downloads; ++i) {
@@ -901,7 +824,7 @@ void tst_RVInstallProc::cancels()
     Report report(&procedure);
     if (downloads > 0) {
         procedure.start();
-        QTRY_COMPARE(server.held(), pending);
+        QTRY_COMPARE(server.waiting(), pending);
     }
     procedure.cancel();
     QCOMPARE(report.events.last(), QStringLiteral("finished 1 crash"));
@@ -910,14 +833,14 @@ void tst_RVInstallProc::cancels()
     QTRY_VERIFY(procedure.findChildren<QNetworkAccessManager *>().isEmpty());
     QCOMPARE(report.finals(), 1);
     QVERIFY(!report.events.contains(QStringLiteral("extractFinished")));
-    QCOMPARE(server.requests.size(), pending);
+    QCOMPARE(server.requests().size(), pending);
     QCOMPARE(procedure.state(), QProcess::NotRunning);
 }
 
 void tst_RVInstallProc::cancelDropsWhatIsStillArriving()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"), {"part of it", "200 OK", {}, 1000, false});
+    HttpServer server;
+    server.serveRaw(QStringLiteral("/a.deb"), beginning("part of it", 1000), After::Drip);
     const RVPaths paths = installer("echo started");
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths, 2000)}, QString(),
                             QString(), nullptr, paths);
@@ -950,8 +873,8 @@ void tst_RVInstallProc::cancelDropsWhatHasArrived()
 
 void tst_RVInstallProc::cancelLeavesTheInstallerRunning()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "package");
     const QString gate = m_dir->filePath(QStringLiteral("gate"));
     QCOMPARE(::mkfifo(QFile::encodeName(gate).constData(), 0600), 0);
     const RVPaths paths =
@@ -974,8 +897,8 @@ void tst_RVInstallProc::cancelLeavesTheInstallerRunning()
 
 void tst_RVInstallProc::cancelTwiceReportsOnce()
 {
-    Server server;
-    server.hold = true;
+    HttpServer server;
+    server.hold();
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), {})}, QString(),
                             QString());
     Report report(&procedure);
@@ -989,8 +912,8 @@ void tst_RVInstallProc::cancelTwiceReportsOnce()
 
 void tst_RVInstallProc::cancelAfterTheEnd()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "package");
     const RVPaths paths = installer("exit 0");
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
                             QString(), nullptr, paths);
@@ -1006,17 +929,17 @@ void tst_RVInstallProc::cancelAfterTheEnd()
 
 void tst_RVInstallProc::startsAgainAfterCancel()
 {
-    Server server;
-    server.hold = true;
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+    HttpServer server;
+    server.hold();
+    server.serve(QStringLiteral("/a.deb"), "package");
     const RVPaths paths = installer("/bin/ls");
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
                             QString(), nullptr, paths);
     Report report(&procedure);
     procedure.start();
-    QTRY_COMPARE(server.held(), 1);
+    QTRY_COMPARE(server.waiting(), 1);
     procedure.cancel();
-    server.hold = false;
+    server.release();
     report.events.clear();
     run(&procedure, &report);
     QCOMPARE(report.events,
@@ -1027,9 +950,9 @@ void tst_RVInstallProc::startsAgainAfterCancel()
 
 void tst_RVInstallProc::startWhileUnderWay()
 {
-    Server server;
-    server.hold = true;
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+    HttpServer server;
+    server.hold();
+    server.serve(QStringLiteral("/a.deb"), "package");
     const RVPaths paths = installer("/bin/ls");
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
                             QString(), nullptr, paths);
@@ -1037,10 +960,10 @@ void tst_RVInstallProc::startWhileUnderWay()
     connect(&procedure, &RVInstallProc::installStarted, &procedure, &RVInstallProc::start);
     procedure.start();
     procedure.start();
-    QTRY_COMPARE(server.held(), 1);
+    QTRY_COMPARE(server.waiting(), 1);
     server.releaseOne();
     QVERIFY(report.waitForEnd());
-    QCOMPARE(server.requests.size(), 1);
+    QCOMPARE(server.requests().size(), 1);
     QCOMPARE(report.events,
              QStringList({QStringLiteral("extractFinished"), QStringLiteral("installStarted"),
                           QStringLiteral("finished 0 normal")}));
@@ -1070,12 +993,12 @@ void tst_RVInstallProc::measuresProgress()
     QFETCH(QList<qint64>, sizes);
     QFETCH(qint64, total);
 
-    Server server;
+    HttpServer server;
     const RVPaths paths = installer("exit 0");
     QList<RVData> batch;
     for (int i = 0; i < sizes.size(); ++i) {
         const QString path = QStringLiteral("/%1.deb").arg(i);
-        server.answers.insert(path, {QByteArray(1000, 'x')});
+        server.serve(path, QByteArray(1000, 'x'));
         batch.append(entry(server.url(path), paths, sizes.at(i)));
     }
     RVInstallProc procedure(batch, QString(), QString(), nullptr, paths);
@@ -1095,10 +1018,9 @@ void tst_RVInstallProc::measuresProgress()
 
 void tst_RVInstallProc::sumsOverTheBatch()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"),
-                          {QByteArray(300, 'a'), "200 OK", {}, 700, false});
-    server.answers.insert(QStringLiteral("/b.deb"), {QByteArray(1000, 'b')});
+    HttpServer server;
+    server.serveRaw(QStringLiteral("/a.deb"), beginning(QByteArray(300, 'a'), 1000), After::Drip);
+    server.serve(QStringLiteral("/b.deb"), QByteArray(1000, 'b'));
     const RVPaths paths = installer("exit 0");
     const QList<RVData> batch{entry(server.url(QStringLiteral("/a.deb")), paths, 1000),
                               entry(server.url(QStringLiteral("/b.deb")), paths, 1500)};
@@ -1113,8 +1035,8 @@ void tst_RVInstallProc::sumsOverTheBatch()
 
 void tst_RVInstallProc::nullDescriptor()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "package");
     const RVPaths paths = installer("exit 0");
     RVData lost = entry(server.url(QStringLiteral("/a.deb")), paths, 1000);
     lost.clearDescriptor();
@@ -1127,29 +1049,29 @@ void tst_RVInstallProc::nullDescriptor()
 
 void tst_RVInstallProc::sameEntryTwice()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "package");
     const RVPaths paths = installer("/bin/ls");
     const RVData update = entry(server.url(QStringLiteral("/a.deb")), paths);
     RVInstallProc procedure({update, update}, QString(), QString(), nullptr, paths);
     Report report(&procedure);
     run(&procedure, &report);
-    QCOMPARE(server.requests.size(), 1);
+    QCOMPARE(server.requests().size(), 1);
     QCOMPARE(report.events.last(), QStringLiteral("finished 0 normal"));
 }
 
 void tst_RVInstallProc::mixedBatch()
 {
     // An image behind a package is neither downloaded nor installed, and above all not thrown over.
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "package");
     const RVPaths paths = installer("/bin/ls");
     const QList<RVData> batch{entry(server.url(QStringLiteral("/a.deb")), paths),
                               entry(server.url(QStringLiteral("/image.dd.gz")), paths)};
     RVInstallProc procedure(batch, QString(), QString(), nullptr, paths);
     Report report(&procedure);
     run(&procedure, &report);
-    QCOMPARE(server.requests.size(), 1);
+    QCOMPARE(server.requests().size(), 1);
     QCOMPARE(procedure.readAllStandardOutput(), QByteArray("RVinstall.sh\na.deb\n"));
     QVERIFY(m_log->contains(QStringLiteral("'%1' cannot be installed together with other updates")
                                 .arg(server.url(QStringLiteral("/image.dd.gz")).toString())));
@@ -1170,10 +1092,10 @@ void tst_RVInstallProc::proxy()
     QFETCH(bool, isSet);
     QFETCH(int, port);
 
-    Server server;
+    HttpServer server;
     const QString far = QStringLiteral("http://updates.invalid/a.deb");
-    server.answers.insert(far, {"package"});
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+    server.serve(far, "package");
+    server.serve(QStringLiteral("/a.deb"), "package");
     const RVPaths paths = installer("/bin/cat ./*.deb");
     const QUrl url = isSet ? QUrl(far) : server.url(QStringLiteral("/a.deb"));
     RVInstallProc procedure({entry(url, paths)}, QString(), QString(), nullptr, paths);
@@ -1182,8 +1104,8 @@ void tst_RVInstallProc::proxy()
     Report report(&procedure);
     run(&procedure, &report);
     QCOMPARE(procedure.readAllStandardOutput(), QByteArray("package"));
-    QVERIFY(server.requests.first().startsWith(isSet ? "GET http://updates.invalid/a.deb "
-                                                     : "GET /a.deb "));
+    QVERIFY(server.requests().first().startsWith(isSet ? "GET http://updates.invalid/a.deb "
+                                                       : "GET /a.deb "));
 }
 
 void tst_RVInstallProc::ftpProxy_data()
@@ -1199,7 +1121,8 @@ void tst_RVInstallProc::ftpProxy()
     QFETCH(QString, scheme);
 
     // A caching proxy of ftp speaks ftp itself and takes the server's name with the user's.
-    RefusingFtpServer server;
+    InlineFtpServer server;
+    server.answer("USER", "530 No.\r\n");
     const RVPaths paths = installer("exit 0");
     RVInstallProc procedure(
         {entry(QUrl(QStringLiteral("%1://updates.invalid/a.deb").arg(scheme)), paths)},
@@ -1208,13 +1131,13 @@ void tst_RVInstallProc::ftpProxy()
     procedure.proxyPort = server.port();
     Report report(&procedure);
     run(&procedure, &report);
-    QCOMPARE(server.commands.value(0), QByteArray("USER user@updates.invalid"));
+    QCOMPARE(server.commands().value(0), QByteArray("USER user@updates.invalid"));
 }
 
 void tst_RVInstallProc::noProxyByDefault()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "package");
     const RVPaths paths = installer("exit 0");
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
                             QString(), nullptr, paths);
@@ -1223,7 +1146,7 @@ void tst_RVInstallProc::noProxyByDefault()
     Report report(&procedure);
     run(&procedure, &report);
     QCOMPARE(report.events.last(), QStringLiteral("finished 0 normal"));
-    QVERIFY(server.requests.first().startsWith("GET /a.deb "));
+    QVERIFY(server.requests().first().startsWith("GET /a.deb "));
 }
 
 void tst_RVInstallProc::credentials_data()
@@ -1286,9 +1209,8 @@ void tst_RVInstallProc::credentials()
 
 void tst_RVInstallProc::passesQuestionsOut()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"),
-                          {"who?", "401 Unauthorized", "WWW-Authenticate: Basic realm=\"x\"\r\n"});
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "who?", 401, "WWW-Authenticate: Basic realm=\"x\"\r\n");
     const RVPaths paths = installer("exit 0");
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)},
                             QStringLiteral("user"), QStringLiteral("password"), nullptr, paths);
@@ -1300,21 +1222,20 @@ void tst_RVInstallProc::passesQuestionsOut()
                 QCOMPARE(reply->url(), server.url(QStringLiteral("/a.deb")));
                 QCOMPARE(auth->realm(), QStringLiteral("x"));
                 if (asked == 1) {
-                    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+                    server.serve(QStringLiteral("/a.deb"), "package");
                     auth->setUser(QStringLiteral("u"));
                     auth->setPassword(QStringLiteral("p"));
                 }
             });
     run(&procedure, &report);
     QCOMPARE(asked, 1);
-    QVERIFY(!server.requests.first().contains("Authorization"));
-    QVERIFY(server.requests.last().contains("Authorization: Basic dTpw"));
+    QVERIFY(!server.requests().first().contains("Authorization"));
+    QVERIFY(server.requests().last().contains("Authorization: Basic dTpw"));
     QCOMPARE(report.events.last(), QStringLiteral("finished 0 normal"));
 
     // The same of a proxy.
-    server.answers.insert(
-        QStringLiteral("http://updates.invalid/a.deb"),
-        {"who?", "407 Proxy Authentication Required", "Proxy-Authenticate: Basic realm=\"y\"\r\n"});
+    server.serve(QStringLiteral("http://updates.invalid/a.deb"), "who?", 407,
+                 "Proxy-Authenticate: Basic realm=\"y\"\r\n");
     RVInstallProc other({entry(QUrl(QStringLiteral("http://updates.invalid/a.deb")), paths)},
                         QString(), QString(), nullptr, paths);
     other.proxyHost = QStringLiteral("127.0.0.1");
@@ -1324,13 +1245,13 @@ void tst_RVInstallProc::passesQuestionsOut()
     connect(&other, &RVInstallProc::proxyAuthenticationRequired, this,
             [&](const QNetworkProxy &proxy, QAuthenticator *auth) {
                 asking = proxy;
-                server.answers.insert(QStringLiteral("http://updates.invalid/a.deb"), {"package"});
+                server.serve(QStringLiteral("http://updates.invalid/a.deb"), "package");
                 auth->setUser(QStringLiteral("u"));
                 auth->setPassword(QStringLiteral("p"));
             });
     run(&other, &otherReport);
     QCOMPARE(asking.port(), server.port());
-    QVERIFY(server.requests.last().contains("Proxy-Authorization: Basic dTpw"));
+    QVERIFY(server.requests().last().contains("Proxy-Authorization: Basic dTpw"));
 }
 
 void tst_RVInstallProc::asksAboutCertificates_data()
@@ -1345,7 +1266,8 @@ void tst_RVInstallProc::asksAboutCertificates()
 {
     QFETCH(bool, accepted);
 
-    const TlsServer server(m_dir->path());
+    TestAuthority authority;
+    const TlsServer server(authority.issueSelfSigned());
     const RVPaths paths = installer("/bin/cat ./*.deb");
     RVInstallProc procedure({entry(server.url(), paths)}, QString(), QString(), nullptr, paths);
     Report report(&procedure);
@@ -1367,8 +1289,8 @@ void tst_RVInstallProc::asksAboutCertificates()
 
 void tst_RVInstallProc::directoryOfItsOwn()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "package");
     const RVPaths paths = installer("pwd");
     QString temporary;
     {
@@ -1404,11 +1326,11 @@ void tst_RVInstallProc::directoryOfItsOwn()
 
 void tst_RVInstallProc::twoProceduresAtOnce()
 {
-    Server server;
-    server.hold = true;
+    HttpServer server;
+    server.hold();
     const RVPaths paths = installer("/bin/ls");
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
-    server.answers.insert(QStringLiteral("/b.deb"), {"package"});
+    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/b.deb"), "package");
     auto first = std::make_unique<RVInstallProc>(entry(server.url(QStringLiteral("/a.deb")), paths),
                                                  nullptr, paths);
     auto second = std::make_unique<RVInstallProc>(
@@ -1417,7 +1339,7 @@ void tst_RVInstallProc::twoProceduresAtOnce()
     Report secondReport(second.get());
     first->start();
     second->start();
-    QTRY_COMPARE(server.held(), 2);
+    QTRY_COMPARE(server.waiting(), 2);
     server.releaseOne();
     server.releaseOne();
     QTRY_VERIFY(firstReport.ended() && secondReport.ended());
@@ -1431,8 +1353,8 @@ void tst_RVInstallProc::twoProceduresAtOnce()
 
 void tst_RVInstallProc::failsWithoutTemporaryDirectory()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "package");
     const RVPaths paths = installer("exit 0");
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
                             QString(), nullptr, paths);
@@ -1449,7 +1371,7 @@ void tst_RVInstallProc::failsWithoutTemporaryDirectory()
     QVERIFY(
         m_log->lines().last().startsWith(QLatin1String("Could not enter the temporary directory")));
     QCOMPARE(QDir::currentPath(), m_previousDir);
-    QVERIFY(server.requests.isEmpty());
+    QVERIFY(server.requests().isEmpty());
     // There is room again.
     report.events.clear();
     run(&procedure, &report);
@@ -1458,16 +1380,16 @@ void tst_RVInstallProc::failsWithoutTemporaryDirectory()
 
 void tst_RVInstallProc::replyThatGoesAway()
 {
-    Server server;
-    server.hold = true;
-    server.answers.insert(QStringLiteral("/b.deb"), {"package"});
+    HttpServer server;
+    server.hold();
+    server.serve(QStringLiteral("/b.deb"), "package");
     const RVPaths paths = installer("/bin/ls");
     const QList<RVData> batch{entry(server.url(QStringLiteral("/a.deb")), paths),
                               entry(server.url(QStringLiteral("/b.deb")), paths)};
     RVInstallProc procedure(batch, QString(), QString(), nullptr, paths);
     Report report(&procedure);
     procedure.start();
-    QTRY_COMPARE(server.held(), 2);
+    QTRY_COMPARE(server.waiting(), 2);
     delete procedure.findChild<XSpooledReply *>();
     QVERIFY(!report.ended());
     server.releaseOne();
@@ -1478,16 +1400,16 @@ void tst_RVInstallProc::replyThatGoesAway()
 
 void tst_RVInstallProc::entriesMayGo()
 {
-    Server server;
-    server.hold = true;
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+    HttpServer server;
+    server.hold();
+    server.serve(QStringLiteral("/a.deb"), "package");
     const RVPaths paths = installer("/bin/ls");
     QList<RVData> batch{entry(server.url(QStringLiteral("/a.deb")), paths, 100)};
     RVInstallProc procedure(batch, QString(), QString(), nullptr, paths);
     Report report(&procedure);
     procedure.start();
     batch.clear();
-    QTRY_COMPARE(server.held(), 1);
+    QTRY_COMPARE(server.waiting(), 1);
     server.releaseOne();
     QVERIFY(report.waitForEnd());
     QCOMPARE(procedure.readAllStandardOutput(), QByteArray("RVinstall.sh\na.deb\n"));
@@ -1495,8 +1417,8 @@ void tst_RVInstallProc::entriesMayGo()
 
 void tst_RVInstallProc::destructorWaitsForTheInstaller()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "package");
     const QString done = m_dir->filePath(QStringLiteral("done"));
     // It waits for its input to end, then says more than a pipe holds, and only then is done.
     const RVPaths paths = installer("echo running; read; printf 'x%.0s' {1..300000};"
@@ -1519,8 +1441,8 @@ void tst_RVInstallProc::destructorWaitsForTheInstaller()
 
 void tst_RVInstallProc::destructorDuringDownloads()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"), {"part", "200 OK", {}, 1000, false});
+    HttpServer server;
+    server.serveRaw(QStringLiteral("/a.deb"), beginning("part", 1000), After::Drip);
     const RVPaths paths = installer("exit 0");
     QString temporary;
     {
@@ -1537,8 +1459,8 @@ void tst_RVInstallProc::destructorDuringDownloads()
 
 void tst_RVInstallProc::passesEnvironment()
 {
-    Server server;
-    server.answers.insert(QStringLiteral("/a.deb"), {"package"});
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "package");
     RVPaths paths = installer("echo \"$RAVEL_TEST|$HOME\"");
     paths.installerEnvironment = QStringList{QStringLiteral("RAVEL_TEST=a=b c")};
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),

@@ -3,6 +3,7 @@
 #include "descriptor/RVDescFetch.h"
 #include "descriptor/XmlCheck.h"
 #include "tests/support/HttpServer.h"
+#include "tests/support/InlineFtpServer.h"
 #include "tests/support/LogFile.h"
 #include "tests/support/WarningGuard.h"
 
@@ -12,7 +13,6 @@
 #include <QNetworkAccessManager>
 #include <QSignalSpy>
 #include <QTcpServer>
-#include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -23,6 +23,7 @@ namespace
 {
 
 constexpr int patience = 10'000;
+using After = HttpServer::After;
 
 QByteArray update(int version)
 {
@@ -38,31 +39,6 @@ QString versionOf(const RVData &data)
 {
     return data.descriptor()->version().toString();
 }
-
-/// An FTP server that asks for a login and refuses it.
-class RefusingFtpServer : public QTcpServer
-{
-public:
-    RefusingFtpServer()
-    {
-        connect(this, &QTcpServer::newConnection, this, [this] {
-            QTcpSocket *socket = nextPendingConnection();
-            socket->write("220 ready\r\n");
-            connect(socket, &QTcpSocket::readyRead, this, [this, socket] {
-                while (socket->canReadLine()) {
-                    const QByteArray line = socket->readLine().trimmed();
-                    commands.append(line);
-                    socket->write(line.startsWith("USER") ? "331 password\r\n" : "530 no\r\n");
-                }
-            });
-        });
-        if (!listen(QHostAddress::LocalHost)) {
-            qFatal("no port for the test's FTP server");
-        }
-    }
-
-    QList<QByteArray> commands;
-};
 
 /// Counts a fetch's signals.
 struct Spies {
@@ -110,6 +86,10 @@ private Q_SLOTS:
     void severalDownloadsAtATime();
     void notFoundAmongOthers();
     void refusedConnection();
+    void brokenHttpDownload_data();
+    void brokenHttpDownload();
+    void brokenFtpDownload_data();
+    void brokenFtpDownload();
     void neverMoreThanTheLimit();
     void laterEntriesFailAtOnce();
     void sharedDescriptorIsFetchedOnce();
@@ -148,6 +128,8 @@ private:
     QUrl writeFile(const QString &name, const QByteArray &contents) const;
     QList<RVData> localEntries(int count) const;
     QList<RVData> remoteEntries(int count);
+    /// A fetch in which this one fails with this error, which is told once.
+    void readsTheOthers(const QUrl &bad, int error);
 
     std::unique_ptr<LogFile> m_log;
     std::unique_ptr<WarningGuard> m_guard;
@@ -385,6 +367,89 @@ void TestRVDescFetch::refusedConnection()
     QCOMPARE(spies.codes, QList<int>{QNetworkReply::ConnectionRefusedError});
 }
 
+void TestRVDescFetch::brokenHttpDownload_data()
+{
+    QTest::addColumn<QByteArray>("answer");
+    QTest::addColumn<After>("after");
+    QTest::addColumn<int>("error");
+
+    const auto announcing = [](const QByteArray &size) {
+        return "HTTP/1.1 200 OK\r\nContent-Length: " + size + "\r\n\r\n<update_data>";
+    };
+    QTest::newRow("shorter than announced")
+        << announcing("1000") << After::Close << int(QNetworkReply::RemoteHostClosedError);
+    QTest::newRow("broken off") << announcing("1000") << After::Reset
+                                << int(QNetworkReply::RemoteHostClosedError);
+    QTest::newRow("silent") << QByteArray() << After::Stay << int(QNetworkReply::TimeoutError);
+    QTest::newRow("silent in the middle")
+        << announcing("1000") << After::Stay << int(QNetworkReply::TimeoutError);
+    QTest::newRow("2 GiB announced")
+        << announcing("2147483648") << After::Stay << int(QNetworkReply::ProtocolFailure);
+}
+
+void TestRVDescFetch::brokenHttpDownload()
+{
+    QFETCH(QByteArray, answer);
+    QFETCH(After, after);
+    QFETCH(int, error);
+
+    const QString path = QStringLiteral("/broken.xml");
+    m_server->serveRaw(path, answer, after);
+    readsTheOthers(m_server->url(path), error);
+}
+
+void TestRVDescFetch::brokenFtpDownload_data()
+{
+    QTest::addColumn<QByteArray>("verb");
+    QTest::addColumn<QByteArray>("answer");
+    QTest::addColumn<int>("error");
+
+    QTest::newRow("shorter than announced") << QByteArray("SIZE") << QByteArray("213 1000\r\n")
+                                            << int(QNetworkReply::RemoteHostClosedError);
+    QTest::newRow("silent") << QByteArray() << QByteArray() << int(QNetworkReply::TimeoutError);
+    QTest::newRow("silent in the middle")
+        << QByteArray("RETR") << QByteArray("150 Here it comes\r\n")
+        << int(QNetworkReply::TimeoutError);
+    QTest::newRow("2 GiB announced") << QByteArray("SIZE") << QByteArray("213 2147483648\r\n")
+                                     << int(QNetworkReply::ProtocolFailure);
+}
+
+void TestRVDescFetch::brokenFtpDownload()
+{
+    QFETCH(QByteArray, verb);
+    QFETCH(QByteArray, answer);
+    QFETCH(int, error);
+
+    InlineFtpServer server;
+    server.setFile("<update_data>");
+    server.answer(verb, answer);
+    readsTheOthers(QUrl(QStringLiteral("ftp://127.0.0.1:%1/broken.xml").arg(server.port())), error);
+}
+
+void TestRVDescFetch::readsTheOthers(const QUrl &bad, int error)
+{
+    QList<RVData> entries = remoteEntries(2) + localEntries(1);
+    entries.insert(1, entry(bad));
+    RVDescFetch fetch(entries, {}, {});
+    fetch.inactivityLimit = 500;
+    const Spies spies(fetch);
+    fetch.fetchAll();
+    QTRY_COMPARE_WITH_TIMEOUT(spies.finished.count(), 1, patience);
+    QCOMPARE(spies.codes, QList<int>{error});
+    QCOMPARE(spies.urls, QList<QUrl>{bad});
+    QCOMPARE(m_log->lines(),
+             QStringList(QStringLiteral("Descriptor fetch error %1 from %2")
+                             .arg(QString::number(error), bad.toString())));
+    QCOMPARE(versionOf(entries.at(0)), QStringLiteral("0"));
+    QCOMPARE(versionOf(entries.at(1)), QString());
+    QCOMPARE(versionOf(entries.at(2)), QStringLiteral("1"));
+    QCOMPARE(versionOf(entries.at(3)), QStringLiteral("0"));
+    letEverythingArrive();
+    QCOMPARE(spies.finished.count(), 1);
+    QCOMPARE(spies.codes.size(), 1);
+    QVERIFY(fetch.children().isEmpty());
+}
+
 void TestRVDescFetch::neverMoreThanTheLimit()
 {
     constexpr int limit = RVLimits::transfersInFlight;
@@ -540,17 +605,18 @@ void TestRVDescFetch::ftpCredentialsOfAnotherServer()
 {
     QFETCH(QString, credentialsFor);
     QFETCH(bool, ours);
-    RefusingFtpServer server;
+    InlineFtpServer server;
+    server.answer("PASS", "530 no\r\n");
     QList<RVData> entries = {
-        entry(QUrl(QStringLiteral("ftp://127.0.0.1:%1/a.xml").arg(server.serverPort())))};
+        entry(QUrl(QStringLiteral("ftp://127.0.0.1:%1/a.xml").arg(server.port())))};
     RVDescFetch fetch(entries, QStringLiteral("user"), QStringLiteral("secret"));
-    fetch.credentialsFor = QUrl(credentialsFor.arg(server.serverPort()));
+    fetch.credentialsFor = QUrl(credentialsFor.arg(server.port()));
     const Spies spies(fetch);
     fetch.fetchAll();
     QTRY_COMPARE_WITH_TIMEOUT(spies.finished.count(), 1, patience);
-    QVERIFY(!server.commands.isEmpty());
-    QCOMPARE(server.commands.contains("USER user"), ours);
-    QCOMPARE(server.commands.contains("PASS secret"), ours);
+    QVERIFY(!server.commands().isEmpty());
+    QCOMPARE(server.commands().contains("USER user"), ours);
+    QCOMPARE(server.commands().contains("PASS secret"), ours);
 }
 
 void TestRVDescFetch::ftpCredentials()
@@ -561,15 +627,16 @@ void TestRVDescFetch::ftpCredentials()
     QFETCH(QByteArray, expectedUser);
     QFETCH(QByteArray, expectedPassword);
 
-    RefusingFtpServer server;
-    const QUrl url(QStringLiteral("%1://127.0.0.1:%2/a.xml").arg(scheme).arg(server.serverPort()));
+    InlineFtpServer server;
+    server.answer("PASS", "530 no\r\n");
+    const QUrl url(QStringLiteral("%1://127.0.0.1:%2/a.xml").arg(scheme).arg(server.port()));
     QList<RVData> entries = {entry(url)};
     RVDescFetch fetch(entries, user, password);
     const Spies spies(fetch);
     fetch.fetchAll();
     QTRY_COMPARE_WITH_TIMEOUT(spies.finished.count(), 1, patience);
-    QCOMPARE(server.commands.value(0), expectedUser);
-    QCOMPARE(server.commands.value(1), expectedPassword);
+    QCOMPARE(server.commands().value(0), expectedUser);
+    QCOMPARE(server.commands().value(1), expectedPassword);
     QCOMPARE(spies.codes, QList<int>{QNetworkReply::AuthenticationRequiredError});
     QCOMPARE(m_log->lines().size(), 1);
     QVERIFY(m_log->lines().first().startsWith(
@@ -631,18 +698,19 @@ void TestRVDescFetch::noProxy()
 
 void TestRVDescFetch::ftpProxy()
 {
-    RefusingFtpServer server;
+    InlineFtpServer server;
+    server.answer("PASS", "530 no\r\n");
     QList<RVData> entries = {entry(QUrl(QStringLiteral("ftp://repository.invalid/a.xml")))};
     RVDescFetch fetch(entries, QStringLiteral("user"), QStringLiteral("secret"));
     fetch.proxyHost = QStringLiteral("127.0.0.1");
-    fetch.proxyPort = server.serverPort();
+    fetch.proxyPort = server.port();
     const Spies spies(fetch);
     fetch.fetchAll();
     const QNetworkProxy proxy = fetch.findChild<QNetworkAccessManager *>()->proxy();
     QCOMPARE(proxy.type(), QNetworkProxy::FtpCachingProxy);
     QCOMPARE(proxy.user() + proxy.password(), QString());
     QTRY_COMPARE_WITH_TIMEOUT(spies.finished.count(), 1, patience);
-    QCOMPARE(server.commands.value(0), QByteArray("USER user@repository.invalid"));
+    QCOMPARE(server.commands().value(0), QByteArray("USER user@repository.invalid"));
 }
 
 void TestRVDescFetch::proxyCredentials()

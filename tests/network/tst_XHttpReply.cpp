@@ -17,8 +17,6 @@
 
 #include <memory>
 
-Q_DECLARE_METATYPE(HttpServer::After)
-
 namespace
 {
 

@@ -5,6 +5,7 @@
 #include <QTcpSocket>
 #include <QTimer>
 
+#include <algorithm>
 #include <linux/sockios.h>
 #include <sys/ioctl.h>
 #include <sys/socket.h>
@@ -83,10 +84,15 @@ void HttpServer::protect(const QString &user, const QString &password)
 void HttpServer::release()
 {
     m_held = false;
-    const QHash<QTcpSocket *, QByteArray> waiting = m_waiting;
-    for (auto it = waiting.cbegin(); it != waiting.cend(); ++it) {
-        answer(it.key(), it.value());
+    while (!m_waiting.isEmpty()) {
+        releaseOne();
     }
+}
+
+void HttpServer::releaseOne()
+{
+    const Request request = m_waiting.takeFirst();
+    answer(request.socket, request.head);
 }
 
 int HttpServer::connections() const
@@ -101,7 +107,11 @@ void HttpServer::accept()
             receive(socket);
         });
         connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
-            m_waiting.remove(socket);
+            const auto isOurs = [socket](const Request &request) {
+                return request.socket == socket;
+            };
+            m_waiting.erase(std::remove_if(m_waiting.begin(), m_waiting.end(), isOurs),
+                            m_waiting.end());
             socket->deleteLater();
         });
     }
@@ -115,16 +125,16 @@ void HttpServer::receive(QTcpSocket *socket)
     }
     socket->readAll();
     m_requests.append(head);
-    m_waiting.insert(socket, head);
+    m_waiting.append({socket, head});
     m_mostWaiting = qMax(m_mostWaiting, m_waiting.size());
     if (!m_held) {
+        m_waiting.removeLast();
         answer(socket, head);
     }
 }
 
 void HttpServer::answer(QTcpSocket *socket, const QByteArray &head)
 {
-    m_waiting.remove(socket);
     const QByteArray path = head.split(' ').value(1);
     if (!m_credentials.isEmpty() && !head.contains("Authorization: Basic " + m_credentials)) {
         socket->write(response(401, "WWW-Authenticate: Basic realm=\"test\"\r\n", "who?"));

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QHash>
+#include <QList>
 #include <QTcpServer>
 #include <QUrl>
 
@@ -27,6 +28,7 @@ public:
     ~HttpServer() override;
 
     QUrl url(const QString &path) const;
+    quint16 port() const { return m_server.serverPort(); }
 
     void serve(const QString &path, const QByteArray &body, int status = 200,
                const QByteArray &headers = {});
@@ -37,6 +39,8 @@ public:
     /// Keeps requests unanswered until release().
     void hold() { m_held = true; }
     void release();
+    /// Answers the request that waits the longest; the others wait on.
+    void releaseOne();
     /// Connections that are open now.
     int connections() const;
 
@@ -59,8 +63,15 @@ private:
     QTcpServer m_server;
     QHash<QByteArray, Answer> m_answers;
     QList<QByteArray> m_requests;
-    QHash<QTcpSocket *, QByteArray> m_waiting;
+    struct Request {
+        QTcpSocket *socket;
+        QByteArray head;
+    };
+
+    QList<Request> m_waiting;
     QByteArray m_credentials;
     int m_mostWaiting = 0;
     bool m_held = false;
 };
+
+Q_DECLARE_METATYPE(HttpServer::After)
