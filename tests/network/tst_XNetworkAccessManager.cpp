@@ -5,6 +5,7 @@
 #include "network/XNetworkAccessManager.h"
 #include "network/XNetworkReply.h"
 #include "tests/support/HttpServer.h"
+#include "tests/support/InlineFtpServer.h"
 #include "tests/support/LogFile.h"
 
 #include <QAuthenticator>
@@ -35,6 +36,8 @@ private Q_SLOTS:
     void relaysQtSignals();
     void policyOfTransfers_data();
     void policyOfTransfers();
+    void limitsOfTransfers_data();
+    void limitsOfTransfers();
     void otherSchemesAreQts();
     void usualProxies_data();
     void usualProxies();
@@ -244,6 +247,52 @@ void tst_XNetworkAccessManager::policyOfTransfers()
     QCOMPARE(server.requests().size(), 1);
     QVERIFY(server.requests().first().contains("\r\nAccept-Encoding: identity\r\n"));
     QVERIFY(!server.requests().first().contains("HTTP2-Settings"));
+}
+
+void tst_XNetworkAccessManager::limitsOfTransfers_data()
+{
+    QTest::addColumn<bool>("isFtp");
+    QTest::addColumn<bool>("isSilent");
+    QTest::addColumn<qint64>("bodyLimit");
+    QTest::addColumn<int>("error");
+    for (const bool isFtp : {false, true}) {
+        const QByteArray scheme = isFtp ? "ftp" : "http";
+        const auto row = [&](const char *name, bool isSilent, qint64 bodyLimit, int error) {
+            QTest::newRow((scheme + ", " + name).constData())
+                << isFtp << isSilent << bodyLimit << error;
+        };
+        row("within both", false, 8, QNetworkReply::NoError);
+        row("silence", true, 8, QNetworkReply::TimeoutError);
+        row("too large a body", false, 7, QNetworkReply::ProtocolFailure);
+    }
+}
+
+void tst_XNetworkAccessManager::limitsOfTransfers()
+{
+    QFETCH(bool, isFtp);
+    QFETCH(bool, isSilent);
+    QFETCH(qint64, bodyLimit);
+    QFETCH(int, error);
+    HttpServer http;
+    http.serve(QStringLiteral("/x"), "content");
+    InlineFtpServer ftp;
+    ftp.setFile("content");
+    if (isSilent) {
+        http.hold();
+        ftp.answer("RETR", "150 Here it comes\r\n");
+    }
+    XNetworkAccessManager manager;
+    QCOMPARE(manager.inactivityLimit, 120'000);
+    QCOMPARE(manager.bodyLimit, qint64(1) << 31);
+    manager.inactivityLimit = isSilent ? 300 : 10'000;
+    manager.bodyLimit = bodyLimit;
+    const QUrl url = isFtp ? QUrl(QStringLiteral("ftp://127.0.0.1:%1/x").arg(ftp.port()))
+                           : http.url(QStringLiteral("/x"));
+    const std::unique_ptr<QNetworkReply> reply(manager.get(QNetworkRequest(url)));
+    QSignalSpy finished(reply.get(), &QNetworkReply::finished);
+    QVERIFY(finished.wait(5000));
+    QCOMPARE(static_cast<int>(reply->error()), error);
+    QCOMPARE(finished.size(), 1);
 }
 
 void tst_XNetworkAccessManager::otherSchemesAreQts()
