@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "archive/RVInstallProc.h"
 #include "core/RVLimits.h"
+#include "tests/support/BrokenDownload.h"
 #include "tests/support/DpkgRoot.h"
 #include "tests/support/HttpServer.h"
 #include "tests/support/InlineFtpServer.h"
@@ -32,7 +33,6 @@ namespace
 {
 
 constexpr int limitMs = 20000;
-constexpr qint64 twoGiB = qint64(1) << 31;
 using After = HttpServer::After;
 
 /// The head of an answer with a body of `size` bytes, and the first of them.
@@ -207,10 +207,8 @@ private Q_SLOTS:
     void logsProgress();
     void installerThatCannotStart();
     void failsWithoutInstaller();
-    void failedDownloadDoesNotStopTheBatch_data();
+    void failedDownloadDoesNotStopTheBatch_data() { BrokenDownload::addRows(); }
     void failedDownloadDoesNotStopTheBatch();
-    void failedFtpDownload_data();
-    void failedFtpDownload();
     void immediateFailures();
     void allFailImmediately();
     void specialFilesAreNotOpened();
@@ -256,8 +254,6 @@ private:
     /// Paths whose shell prints what the script would work on, then runs `lines`.
     RVPaths installer(const QByteArray &lines);
     QUrl pool(const DpkgRoot::Package &package);
-    /// A batch whose one download fails with this error, which is told once.
-    void installsTheGoodOne(const QUrl &bad, int error);
     /// Starts and waits for the final signal.
     void run(RVInstallProc *procedure, Report *report);
 
@@ -575,73 +571,10 @@ void tst_RVInstallProc::failsWithoutInstaller()
         m_log->contains(QStringLiteral("There is no installer for 'http://user@127.0.0.1/a.zip'")));
 }
 
-void tst_RVInstallProc::failedDownloadDoesNotStopTheBatch_data()
-{
-    QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<After>("after");
-    QTest::addColumn<int>("error");
-
-    const auto status = [](const QByteArray &line) {
-        return "HTTP/1.1 " + line + "\r\nContent-Length: 10\r\n\r\npart of it";
-    };
-    QTest::newRow("not found") << status("404 Not Found") << After::Close
-                               << int(QNetworkReply::ContentNotFoundError);
-    QTest::newRow("server error") << status("500 Internal Server Error") << After::Close
-                                  << int(QNetworkReply::UnknownContentError);
-    QTest::newRow("cut off in the middle") << beginning("part of it", 110) << After::Close
-                                           << int(QNetworkReply::RemoteHostClosedError);
-    QTest::newRow("broken off in the middle") << beginning("part of it", 110) << After::Reset
-                                              << int(QNetworkReply::RemoteHostClosedError);
-    QTest::newRow("silent") << QByteArray() << After::Stay << int(QNetworkReply::TimeoutError);
-    QTest::newRow("silent in the middle")
-        << beginning("part of it", 110) << After::Stay << int(QNetworkReply::TimeoutError);
-    QTest::newRow("2 GiB announced")
-        << beginning("part of it", twoGiB) << After::Stay << int(QNetworkReply::ProtocolFailure);
-}
-
 void tst_RVInstallProc::failedDownloadDoesNotStopTheBatch()
 {
-    QFETCH(QByteArray, answer);
-    QFETCH(After, after);
-    QFETCH(int, error);
-
-    HttpServer server;
-    server.serveRaw(QStringLiteral("/bad.deb"), answer, after);
-    installsTheGoodOne(server.url(QStringLiteral("/bad.deb")), error);
-}
-
-void tst_RVInstallProc::failedFtpDownload_data()
-{
-    QTest::addColumn<QByteArray>("step");
-    QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<int>("error");
-
-    QTest::newRow("not found") << QByteArray("RETR") << QByteArray("550 No such file\r\n")
-                               << int(QNetworkReply::ContentNotFoundError);
-    QTest::newRow("shorter than announced") << QByteArray("SIZE") << QByteArray("213 110\r\n")
-                                            << int(QNetworkReply::RemoteHostClosedError);
-    QTest::newRow("silent") << QByteArray() << QByteArray() << int(QNetworkReply::TimeoutError);
-    QTest::newRow("silent in the middle")
-        << QByteArray("RETR") << QByteArray("150 Here it comes\r\n")
-        << int(QNetworkReply::TimeoutError);
-    QTest::newRow("2 GiB announced") << QByteArray("SIZE") << QByteArray("213 2147483648\r\n")
-                                     << int(QNetworkReply::ProtocolFailure);
-}
-
-void tst_RVInstallProc::failedFtpDownload()
-{
-    QFETCH(QByteArray, step);
-    QFETCH(QByteArray, answer);
-    QFETCH(int, error);
-
-    InlineFtpServer server;
-    server.answer(step, answer);
-    installsTheGoodOne(QUrl(QStringLiteral("ftp://127.0.0.1:%1/bad.deb").arg(server.port())),
-                       error);
-}
-
-void tst_RVInstallProc::installsTheGoodOne(const QUrl &bad, int error)
-{
+    BrokenDownload broken;
+    const QUrl bad = broken.serve(QStringLiteral("bad.deb"));
     HttpServer server;
     server.serve(QStringLiteral("/good.deb"), "package");
     const RVPaths paths = installer("/bin/ls");
@@ -649,11 +582,11 @@ void tst_RVInstallProc::installsTheGoodOne(const QUrl &bad, int error)
         QList<RVData> batch{entry(server.url(QStringLiteral("/good.deb")), paths)};
         batch.insert(isFirst ? 0 : 1, entry(bad, paths));
         RVInstallProc procedure(batch, QString(), QString(), nullptr, paths);
-        procedure.inactivityLimit = 500;
+        procedure.inactivityLimit = BrokenDownload::inactivityLimit;
         Report report(&procedure);
         run(&procedure, &report);
         QCOMPARE(report.events,
-                 QStringList({QStringLiteral("networkError %1").arg(error),
+                 QStringList({QStringLiteral("networkError %1").arg(broken.error()),
                               QStringLiteral("extractFinished"), QStringLiteral("installStarted"),
                               QStringLiteral("finished 0 normal")}));
         QCOMPARE(procedure.readAllStandardOutput(), QByteArray("RVinstall.sh\ngood.deb\n"));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "descriptor/RVDescFetch.h"
 #include "descriptor/XmlCheck.h"
+#include "tests/support/BrokenDownload.h"
 #include "tests/support/HttpServer.h"
 #include "tests/support/InlineFtpServer.h"
 #include "tests/support/LogFile.h"
@@ -23,7 +24,6 @@ namespace
 {
 
 constexpr int patience = 10'000;
-using After = HttpServer::After;
 
 QByteArray update(int version)
 {
@@ -86,10 +86,8 @@ private Q_SLOTS:
     void severalDownloadsAtATime();
     void notFoundAmongOthers();
     void refusedConnection();
-    void brokenHttpDownload_data();
-    void brokenHttpDownload();
-    void brokenFtpDownload_data();
-    void brokenFtpDownload();
+    void brokenDownload_data() { BrokenDownload::addRows(); }
+    void brokenDownload();
     void neverMoreThanTheLimit();
     void laterEntriesFailAtOnce();
     void sharedDescriptorIsFetchedOnce();
@@ -128,8 +126,6 @@ private:
     QUrl writeFile(const QString &name, const QByteArray &contents) const;
     QList<RVData> localEntries(int count) const;
     QList<RVData> remoteEntries(int count);
-    /// A fetch in which this one fails with this error, which is told once.
-    void readsTheOthers(const QUrl &bad, int error);
 
     std::unique_ptr<LogFile> m_log;
     std::unique_ptr<WarningGuard> m_guard;
@@ -367,79 +363,22 @@ void TestRVDescFetch::refusedConnection()
     QCOMPARE(spies.codes, QList<int>{QNetworkReply::ConnectionRefusedError});
 }
 
-void TestRVDescFetch::brokenHttpDownload_data()
+void TestRVDescFetch::brokenDownload()
 {
-    QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<After>("after");
-    QTest::addColumn<int>("error");
-
-    const auto announcing = [](const QByteArray &size) {
-        return "HTTP/1.1 200 OK\r\nContent-Length: " + size + "\r\n\r\n<update_data>";
-    };
-    QTest::newRow("shorter than announced")
-        << announcing("1000") << After::Close << int(QNetworkReply::RemoteHostClosedError);
-    QTest::newRow("broken off") << announcing("1000") << After::Reset
-                                << int(QNetworkReply::RemoteHostClosedError);
-    QTest::newRow("silent") << QByteArray() << After::Stay << int(QNetworkReply::TimeoutError);
-    QTest::newRow("silent in the middle")
-        << announcing("1000") << After::Stay << int(QNetworkReply::TimeoutError);
-    QTest::newRow("2 GiB announced")
-        << announcing("2147483648") << After::Stay << int(QNetworkReply::ProtocolFailure);
-}
-
-void TestRVDescFetch::brokenHttpDownload()
-{
-    QFETCH(QByteArray, answer);
-    QFETCH(After, after);
-    QFETCH(int, error);
-
-    const QString path = QStringLiteral("/broken.xml");
-    m_server->serveRaw(path, answer, after);
-    readsTheOthers(m_server->url(path), error);
-}
-
-void TestRVDescFetch::brokenFtpDownload_data()
-{
-    QTest::addColumn<QByteArray>("verb");
-    QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<int>("error");
-
-    QTest::newRow("shorter than announced") << QByteArray("SIZE") << QByteArray("213 1000\r\n")
-                                            << int(QNetworkReply::RemoteHostClosedError);
-    QTest::newRow("silent") << QByteArray() << QByteArray() << int(QNetworkReply::TimeoutError);
-    QTest::newRow("silent in the middle")
-        << QByteArray("RETR") << QByteArray("150 Here it comes\r\n")
-        << int(QNetworkReply::TimeoutError);
-    QTest::newRow("2 GiB announced") << QByteArray("SIZE") << QByteArray("213 2147483648\r\n")
-                                     << int(QNetworkReply::ProtocolFailure);
-}
-
-void TestRVDescFetch::brokenFtpDownload()
-{
-    QFETCH(QByteArray, verb);
-    QFETCH(QByteArray, answer);
-    QFETCH(int, error);
-
-    InlineFtpServer server;
-    server.setFile("<update_data>");
-    server.answer(verb, answer);
-    readsTheOthers(QUrl(QStringLiteral("ftp://127.0.0.1:%1/broken.xml").arg(server.port())), error);
-}
-
-void TestRVDescFetch::readsTheOthers(const QUrl &bad, int error)
-{
+    BrokenDownload broken;
+    const QUrl bad = broken.serve(QStringLiteral("broken.xml"));
     QList<RVData> entries = remoteEntries(2) + localEntries(1);
     entries.insert(1, entry(bad));
     RVDescFetch fetch(entries, {}, {});
-    fetch.inactivityLimit = 500;
+    fetch.inactivityLimit = BrokenDownload::inactivityLimit;
     const Spies spies(fetch);
     fetch.fetchAll();
     QTRY_COMPARE_WITH_TIMEOUT(spies.finished.count(), 1, patience);
-    QCOMPARE(spies.codes, QList<int>{error});
+    QCOMPARE(spies.codes, QList<int>{broken.error()});
     QCOMPARE(spies.urls, QList<QUrl>{bad});
     QCOMPARE(m_log->lines(),
              QStringList(QStringLiteral("Descriptor fetch error %1 from %2")
-                             .arg(QString::number(error), bad.toString())));
+                             .arg(QString::number(broken.error()), bad.toString())));
     QCOMPARE(versionOf(entries.at(0)), QStringLiteral("0"));
     QCOMPARE(versionOf(entries.at(1)), QString());
     QCOMPARE(versionOf(entries.at(2)), QStringLiteral("1"));
