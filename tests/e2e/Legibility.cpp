@@ -3,6 +3,7 @@
 #include "tests/e2e/Legibility.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemDelegate>
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QGroupBox>
@@ -14,6 +15,7 @@
 #include <QProgressBar>
 #include <QStringList>
 #include <QStyleFactory>
+#include <QStyleOptionViewItem>
 #include <QTableView>
 #include <QWidget>
 
@@ -161,9 +163,15 @@ private:
                     continue;
                 }
                 const QRect cell = table->visualRect(index);
+                QStyleOptionViewItem option;
+                option.initFrom(table);
+                option.font = table->font();
+                option.widget = table;
+                // Where it is: a delegate may break lines there.
+                option.rect = cell;
                 const QSize need = table->indexWidget(index)
                     ? table->indexWidget(index)->minimumSizeHint()
-                    : table->sizeHintForIndex(index);
+                    : table->itemDelegate(index)->sizeHint(option, index);
                 if (need.width() > cell.width() || need.height() > cell.height()) {
                     m_defects.append(QStringLiteral("cut: cell %1").arg(nameOf(table, text)));
                 }

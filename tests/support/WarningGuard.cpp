@@ -51,10 +51,14 @@ QStringList WarningGuard::unexpected() const
 
 void WarningGuard::handle(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    // Managers in two threads register the same type at once: Qt's own race, harmless.
-    if (text.startsWith(QLatin1String(
-            "Type conversion already registered from type QSharedPointer<QNetworkSession>"))) {
-        return;
+    // Qt's own races, harmless: managers in two threads register the same type at once, and a
+    // request is given up while its host is looked up.
+    for (const char *race :
+         {"Type conversion already registered from type QSharedPointer<QNetworkSession>",
+          "QHttpNetworkConnectionPrivate::_q_hostLookupFinished could not de-queue request"}) {
+        if (text.startsWith(QLatin1String(race))) {
+            return;
+        }
     }
     // The threads of network managers write, too.
     const QMutexLocker locker(&s_current->m_mutex);

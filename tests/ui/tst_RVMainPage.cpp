@@ -242,8 +242,6 @@ void TestRVMainPage::init()
 {
     m_guard = std::make_unique<WarningGuard>();
     m_guard->allow(QStringLiteral("propagateSizeHints"));
-    // A transfer that was aborted while the name of its server was looked up.
-    m_guard->allow(QStringLiteral("_q_hostLookupFinished could not de-queue request"));
     m_log = std::make_unique<LogFile>();
     m_world = std::make_unique<UpdateWorld>();
     QSettings(QStringLiteral("Corvane"), QStringLiteral("Ravel")).clear();
