@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "network/FtpCredentials.h"
 
+#include "core/RVOrigin.h"
 #include "network/XNetworkAccessManager.h"
 
 #include <QAuthenticator>
@@ -21,6 +22,7 @@ using Texts = QMap<QString, QString>;
 struct Remembered {
     Texts userByUrl;
     Texts passwordByUrl;
+    // A host with its port: another port of the same machine may be somebody else's server.
     Texts userByHost;
     Texts passwordByHost;
 };
@@ -41,7 +43,7 @@ QString firstOf(const QString &own, const Texts &byUrl, const Texts &byHost, con
     if (forUrl != byUrl.constEnd()) {
         return *forUrl;
     }
-    return byHost.value(url.host(), anonymous);
+    return byHost.value(originOf(url), anonymous);
 }
 
 void remember(const QUrl &url, const Login &login)
@@ -49,9 +51,10 @@ void remember(const QUrl &url, const Login &login)
     Remembered &all = remembered();
     all.userByUrl.insert(url.toString(), login.user);
     all.passwordByUrl.insert(url.toString(), login.password);
-    if (!all.userByHost.contains(url.host())) {
-        all.userByHost.insert(url.host(), login.user);
-        all.passwordByHost.insert(url.host(), login.password);
+    const QString host = originOf(url);
+    if (!all.userByHost.contains(host)) {
+        all.userByHost.insert(host, login.user);
+        all.passwordByHost.insert(host, login.password);
     }
 }
 

@@ -27,7 +27,7 @@ struct Login {
 };
 
 /// User and password are looked for apart, each in the URL itself, then among what was given for
-/// this URL, then for its host; else they are those of an anonymous login.
+/// this URL, then for its host and port; else they are those of an anonymous login.
 Login forUrl(const QUrl &url);
 
 enum Answer {
@@ -39,7 +39,8 @@ enum Answer {
     Given,
 };
 /// Asks for another login than the refused one, by the manager's authenticationRequired(), and
-/// remembers it: for exactly this URL in any case, for its host unless one is known for that.
+/// remembers it: for exactly this URL in any case, for its host and port unless one is known for
+/// those.
 /// Nobody is asked about a URL that brings user and password itself. The receivers of the signal
 /// may delete the reply, the manager and whoever called this.
 Answer ask(XNetworkAccessManager *manager, QNetworkReply *reply, const QUrl &url,

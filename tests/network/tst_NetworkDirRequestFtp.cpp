@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "network/FtpCredentials.h"
 #include "network/NetworkDirRequest.h"
 #include "network/NetworkDirRequestFtp.h"
 #include "network/XNetworkAccessManager.h"
@@ -476,6 +477,12 @@ void tst_NetworkDirRequestFtp::remembersTheLogin()
         QCOMPARE(again.code(), 0);
         QCOMPARE(again.offered, QStringList());
     }
+
+    // Another port of the machine is another server.
+    QUrl neighbour = server.url();
+    neighbour.setPort(neighbour.port() == 2121 ? 2122 : 2121);
+    QCOMPARE(FtpCredentials::forUrl(neighbour).user, QStringLiteral("anonymous"));
+    QCOMPARE(FtpCredentials::forUrl(server.url()).user, QStringLiteral("joe"));
 
     LoginServer other;
     QVERIFY2(other.start(), other.report());
