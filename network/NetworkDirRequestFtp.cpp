@@ -213,7 +213,8 @@ void NetworkDirRequestFtp::handleError(int id, XFtp::Error error)
         fail(QNetworkReply::HostNotFoundError, text);
     } else if (id == m_connectId) {
         m_isLookingUpHost = true;
-        m_hostLookup = QHostInfo::lookupHost(m_host, this, &NetworkDirRequestFtp::hostLookupDone);
+        // By its name: of a look-up that is aborted, Qt 5.15 does not release a pointer to member.
+        m_hostLookup = QHostInfo::lookupHost(m_host, this, SLOT(hostLookupDone(QHostInfo)));
     } else if (id == m_loginId) {
         if (m_isLoginGivenUp || !askForLogin()) {
             fail(QNetworkReply::AuthenticationRequiredError, QObject::tr("Authentication failed"));
