@@ -47,7 +47,7 @@ struct Piece {
 class Estimate
 {
 public:
-    enum Result { Bounded, TooComplex, Invalid };
+    using Result = RVPattern::Verdict;
 
     explicit Estimate(const QString &pattern)
         : m_pattern(pattern)
@@ -57,11 +57,11 @@ public:
     Result run()
     {
         if (m_pattern.size() > RVPattern::maxLength) {
-            return TooComplex;
+            return RVPattern::TooComplex;
         }
         const Piece whole = alternatives(0);
         if (!atEnd()) {
-            fail(Invalid);
+            fail(RVPattern::Invalid);
         }
         const Limits &limits = m_hasLookAhead ? lookAheadLimits
             : whole.anchors > 0               ? anchoredLimits
@@ -103,7 +103,7 @@ private:
     }
     QChar takeAny() { return atEnd() ? QChar() : m_pattern.at(m_pos++); }
 
-    bool failed() const { return m_result != Bounded; }
+    bool failed() const { return m_result != RVPattern::Bounded; }
     Piece fail(Result result)
     {
         if (!failed()) {
@@ -115,7 +115,7 @@ private:
     {
         if (piece.parts > limits.parts || piece.transitions > limits.transitions
             || piece.anchors > maxAnchors || piece.countProduct > RVPattern::maxCountProduct) {
-            fail(TooComplex);
+            fail(RVPattern::TooComplex);
         }
     }
     Piece checked(const Piece &piece)
@@ -228,7 +228,7 @@ private:
         const int least = count(0);
         const int most = take(',') ? count(unlimited) : least;
         if (!take('}') || (most != unlimited && most < least)) {
-            return fail(Invalid);
+            return fail(RVPattern::Invalid);
         }
         return repeated(piece, least, most);
     }
@@ -242,7 +242,7 @@ private:
         while (nextIsBetween('0', '9') && !failed()) {
             value = 10 * value + takeAny().digitValue();
             if (value > RVPattern::maxCountProduct) {
-                fail(TooComplex);
+                fail(RVPattern::TooComplex);
             }
         }
         return value;
@@ -267,7 +267,7 @@ private:
         case '{':
         case '}':
         case ']':
-            return fail(Invalid);
+            return fail(RVPattern::Invalid);
         default:
             return character();
         }
@@ -281,18 +281,18 @@ private:
         } else if (!take(':')) {
             lookAhead = take('=') || take('!');
             if (!lookAhead) {
-                return fail(Invalid);
+                return fail(RVPattern::Invalid);
             }
         }
         // A look-ahead within another would be tried at each place of each try of the outer one.
         if (depth == RVPattern::maxDepth || (lookAhead && m_inLookAhead)) {
-            return fail(TooComplex);
+            return fail(RVPattern::TooComplex);
         }
         m_inLookAhead = m_inLookAhead || lookAhead;
         m_hasLookAhead = m_hasLookAhead || lookAhead;
         Piece content = alternatives(depth + 1);
         if (!take(')')) {
-            return fail(Invalid);
+            return fail(RVPattern::Invalid);
         }
         ++content.parts;
         if (lookAhead) {
@@ -311,22 +311,22 @@ private:
         do {
             // The first character is one of the class even if it is a bracket.
             if (atEnd()) {
-                return fail(Invalid);
+                return fail(RVPattern::Invalid);
             }
             // An anchor or a back-reference means nothing here.
             if (!take('\\')) {
                 takeAny();
             } else if (escape().anchors > 0) {
-                return fail(Invalid);
+                return fail(RVPattern::Invalid);
             }
         } while (!atEnd() && !nextIs(']'));
-        return take(']') ? character() : fail(Invalid);
+        return take(']') ? character() : fail(RVPattern::Invalid);
     }
 
     Piece escape()
     {
         if (atEnd()) {
-            return fail(Invalid);
+            return fail(RVPattern::Invalid);
         }
         if (nextIsBetween('1', '9')) {
             int number = 0;
@@ -334,7 +334,7 @@ private:
                 number = 10 * number + takeAny().digitValue();
             }
             m_hasBackReference = true;
-            return number <= maxBackReference ? backReference() : fail(Invalid);
+            return number <= maxBackReference ? backReference() : fail(RVPattern::Invalid);
         }
         const QChar c = takeAny();
         if (c == QLatin1Char('0')) {
@@ -342,7 +342,7 @@ private:
             for (int i = 0; i < 3 && nextIsBetween('0', '7'); ++i) {
                 value = 8 * value + takeAny().digitValue();
             }
-            return value <= 0377 ? character() : fail(Invalid);
+            return value <= 0377 ? character() : fail(RVPattern::Invalid);
         }
         if (c == QLatin1Char('x')) {
             for (int i = 0; i < 4 && nextIsHexDigit(); ++i) {
@@ -354,7 +354,7 @@ private:
 
     const QString &m_pattern;
     int m_pos = 0;
-    Result m_result = Bounded;
+    Result m_result = RVPattern::Bounded;
     bool m_inLookAhead = false;
     bool m_hasLookAhead = false;
     bool m_hasBackReference = false;
@@ -370,23 +370,23 @@ QString shortened(const QString &pattern)
 
 } // namespace
 
-bool RVPattern::isBounded(const QString &pattern)
+RVPattern::Verdict RVPattern::judge(const QString &pattern)
 {
-    return Estimate(pattern).run() == Estimate::Bounded;
+    return Estimate(pattern).run();
 }
 
 bool RVPattern::exactMatch(const QString &pattern, const QString &text)
 {
     Estimate estimate(pattern);
     switch (estimate.run()) {
-    case Estimate::Bounded:
+    case Bounded:
         return QRegExp(estimate.withoutCaptures(), Qt::CaseSensitive, QRegExp::RegExp)
             .exactMatch(text);
-    case Estimate::TooComplex:
+    case TooComplex:
         RVLogger().log(4, "Regular expression is too complex: '%s'",
                        RVLogger::oneLine(shortened(pattern)).constData());
         return false;
-    case Estimate::Invalid:
+    case Invalid:
         return false;
     }
     return false;

@@ -16,8 +16,11 @@ public:
     /// Of the counts in braces that stand within one another.
     static constexpr int maxCountProduct = 1000;
 
-    /// True when `pattern` is valid and cheap to compile and to match.
-    static bool isBounded(const QString &pattern);
+    enum Verdict { Bounded, TooComplex, Invalid };
+
+    /// Whether `pattern` is valid, and cheap to compile and to match.
+    static Verdict judge(const QString &pattern);
+    static bool isBounded(const QString &pattern) { return judge(pattern) == Bounded; }
     /// True when `pattern` matches the whole of `text`, case-sensitively. A pattern beyond the
     /// bounds matches nothing and costs one level-4 log line; an invalid one matches nothing.
     static bool exactMatch(const QString &pattern, const QString &text);

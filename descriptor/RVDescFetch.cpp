@@ -132,6 +132,7 @@ void RVDescFetch::start(const RVData &entry)
             QNetworkProxy(isFtp ? QNetworkProxy::FtpCachingProxy : QNetworkProxy::HttpProxy,
                           proxyHost, static_cast<quint16>(proxyPort)));
     }
+    connect(manager, &QNetworkAccessManager::finished, this, &RVDescFetch::descriptorArrived);
     connect(manager, &QNetworkAccessManager::finished, descriptor,
             qOverload<QNetworkReply *>(&DescriptorGeneric::read));
     connect(descriptor, &DescriptorGeneric::readFinished, this, &RVDescFetch::readFinished);

@@ -56,6 +56,9 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void finished();
+    /// Each download that has ended, failed ones too, before its descriptor reads it: receivers may
+    /// peek into it, no more.
+    void descriptorArrived(QNetworkReply *reply);
     void networkError(const QNetworkReply *reply);
     void authenticationRequired(QNetworkReply *reply, QAuthenticator *auth);
     void proxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *auth);

@@ -144,6 +144,7 @@ bool XmlCheck::accepts(const QByteArray &document)
 {
     m_error.clear();
     m_line = m_column = 0;
+    m_beyondBounds = true;
     if (document.size() > maxBytes) {
         m_error = QStringLiteral("larger than %1 bytes").arg(maxBytes);
         return false;
@@ -171,6 +172,7 @@ bool XmlCheck::accepts(const QByteArray &document)
     QXmlInputSource source;
     source.setData(document);
     const bool accepted = reader.parse(source);
+    m_beyondBounds = !bounds.errorString().isEmpty();
     m_error = bounds.error;
     m_line = bounds.line;
     m_column = bounds.column;

@@ -28,11 +28,14 @@ public:
     bool accepts(const QByteArray &document);
 
     const QString &error() const { return m_error; }
+    /// Whether it was refused for its bounds, and not for what is no XML.
+    bool isBeyondBounds() const { return m_beyondBounds; }
     int line() const { return m_line; }
     int column() const { return m_column; }
 
 private:
     QString m_error;
+    bool m_beyondBounds = false;
     int m_line = 0;
     int m_column = 0;
 };

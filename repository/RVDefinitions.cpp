@@ -21,6 +21,17 @@ void explain(QString *reason, const QString &text)
 
 } // namespace
 
+QStringList RVDefinitions::files(const RVPaths &paths)
+{
+    QStringList names = QDir(paths.definitionDir)
+                            .entryList({QStringLiteral("*.xml")}, QDir::Files | QDir::Readable,
+                                       QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
+    for (QString &name : names) {
+        name.prepend(paths.definitionDir + QLatin1Char('/'));
+    }
+    return names;
+}
+
 RVDefinitions::Error RVDefinitions::readDirectory(const RVPaths &paths, List *list, QString *reason)
 {
     const QDir directory(paths.definitionDir);
@@ -35,11 +46,8 @@ RVDefinitions::Error RVDefinitions::readDirectory(const RVPaths &paths, List *li
         return NoDefinitionDirectory;
     }
 
-    const QStringList files =
-        directory.entryList({QStringLiteral("*.xml")}, QDir::Files | QDir::Readable,
-                            QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
-    for (const QString &file : files) {
-        const Error error = readFile(paths.definitionDir + QLatin1Char('/') + file, list, reason);
+    for (const QString &file : files(paths)) {
+        const Error error = readFile(file, list, reason);
         if (error != NoError) {
             return error;
         }

@@ -4,6 +4,8 @@
 
 #include "core/RVPaths.h"
 
+#include <QStringList>
+
 #include <memory>
 #include <vector>
 
@@ -22,6 +24,8 @@ public:
     };
     using List = std::vector<std::unique_ptr<RVRepDesc>>;
 
+    /// The files that readDirectory() reads, as absolute or relative as the directory is.
+    static QStringList files(const RVPaths &paths);
     /// All files of the definition directory in name order. The first error ends the scan; what was
     /// read before it stays in `list`. `reason` (may be null) gets which file it was, and why.
     static Error readDirectory(const RVPaths &paths, List *list, QString *reason = nullptr);

@@ -291,6 +291,7 @@ void RVRepository::fetchDescriptors()
     m_descFetch->credentialsFor = m_url;
     m_descFetch->keyring = m_keyring;
     connect(m_descFetch, &RVDescFetch::finished, this, &RVRepository::descFetchFinished);
+    connect(m_descFetch, &RVDescFetch::descriptorArrived, this, &RVRepository::descriptorArrived);
     connect(m_descFetch, &RVDescFetch::authenticationRequired, this,
             &RVRepository::attemptAuthentication);
     connect(m_descFetch, &RVDescFetch::networkError, this,

@@ -81,6 +81,9 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void refreshDone(QNetworkReply::NetworkError error);
+    /// Each descriptor's download that has ended, failed ones too, before it is read: receivers
+    /// may peek into it, no more.
+    void descriptorArrived(QNetworkReply *reply);
     void networkError(const QNetworkReply *reply);
     void authenticationRequired(QNetworkReply *reply, QAuthenticator *auth);
     void proxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *auth);
