@@ -36,22 +36,6 @@ bool isRemote(const QUrl &url)
     return !url.isRelative() && !url.isLocalFile();
 }
 
-/// A password is for one server; every other one that asked would learn it.
-bool isOneServer(const QList<RVCtlWorld::Section> &sections, QString *error)
-{
-    QSet<QString> servers;
-    for (const RVCtlWorld::Section &section : sections) {
-        const QUrl &url = section.repository->url();
-        if (isRemote(url)) {
-            servers.insert(originOf(url));
-        }
-    }
-    if (servers.size() > 1) {
-        *error = QStringLiteral("--user is for one server: name sections of one.");
-    }
-    return servers.size() <= 1;
-}
-
 /// NAME, or NAME=VERSION.
 bool isNamed(const RVCtlOffers::Entry &entry, const QString &argument)
 {
@@ -105,6 +89,21 @@ QJsonObject RVCtlOffers::Entry::toJson() const
         {QStringLiteral("preselected"), proposal.preselected},
         {QStringLiteral("reason"), reasonWord(reason)},
     };
+}
+
+bool RVCtlOffers::isOneServer(const QList<RVCtlWorld::Section> &sections, QString *error)
+{
+    QSet<QString> servers;
+    for (const RVCtlWorld::Section &section : sections) {
+        const QUrl &url = section.repository->url();
+        if (isRemote(url)) {
+            servers.insert(originOf(url));
+        }
+    }
+    if (servers.size() > 1) {
+        *error = QStringLiteral("--user is for one server: name sections of one.");
+    }
+    return servers.size() <= 1;
 }
 
 RVCtlOffers::RVCtlOffers(const RVCtlWorld::Section &section, const OSInfoBaseClass &system,

@@ -49,6 +49,10 @@ public:
     RVCtlOffers(const RVCtlWorld::Section &section, const OSInfoBaseClass &system,
                 RVCtlAccess *access, RVCtlDeadline *deadline);
 
+    /// A password is for one server; every other one that asked would learn it. False, and why, for
+    /// sections of several.
+    static bool isOneServer(const QList<RVCtlWorld::Section> &sections, QString *error);
+
     const RVCtlWorld::Section &section() const { return m_section; }
     const RVCtlRefresh::Failure &failure() const { return m_failure; }
     const QList<RVCtlRefresh::Failure> &descriptorFailures() const { return m_descriptorFailures; }

@@ -8,7 +8,8 @@
 /// How a run ended: the program's exit code.
 enum class RVCtlExit : int {
     Done = 0, ///< also when nothing is new
-    Failed = 1, ///< the system, its definition files or its settings cannot be used
+    /// The system, its definition files or its settings cannot be used, or have defects.
+    Failed = 1,
     Usage = 2,
     Network = 3,
     DamagedArchive = 4,

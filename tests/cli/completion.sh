@@ -31,10 +31,10 @@ completes()
 }
 
 complete -p ravelctl >/dev/null
-completes 'status repos list explain details plan location proxy' ''
+completes 'status repos list explain details plan lint location proxy' ''
 completes 'plan proxy' p
-completes 'list location' --json l
-completes 'list' --root /x li
+completes 'list lint location' --json l
+completes 'list' --root /x lis
 completes '--json' --j
 completes '--exit-code' list --e
 completes '--user' explain --u
@@ -46,6 +46,9 @@ completes 'none' proxy http ''
 completes '' proxy http none ''
 completes 'image_uri sp_uri package_uri application_uri' --root "$root" list ''
 completes 'package_uri' --root "$root" plan pa
+completes 'image_uri sp_uri package_uri application_uri' --root "$root" lint ''
+completes "$root/etc" --root "$root" lint sp_uri "$root/et"
+completes '--kinds' lint --k
 completes 'package_uri' --root "$root" list image_uri pa
 completes '' --root "$root" details package_uri ''
 completes 'default' --root "$root" location package_uri d
