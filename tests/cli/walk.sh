@@ -175,6 +175,10 @@ local_run 0 '(.downloads | length) == 4 and .installer.program == "/bin/bash" an
 local_run 0 '[.updates[].name] == ["tc-audio","tc-printing"]' plan 2 tc-printing tc-audio
 local_run 0 '(.downloads == []) and (.installer.script | contains("tc-system-6.1.2.dd.gz"))' plan image_uri tc-system=6.1.2
 local_run 0 '.installer.script == null and .installer.arguments == ["--extrdir=<directory of the archive>"]' plan sp_uri SP-6.1.2-3
+local_run 1 '[.findings[] | select(.severity != "notice") | .kind] == ["descriptor-no-thin-client","archive-without-descriptor"] and .error.code == 1' lint
+local_run 0 '.findings | length == 1 and .[0].kind == "other-model"' lint image_uri
+local_run 0 '.findings == []' lint "$root/etc/cvtc-ravel/repositories/20-service-packs.xml"
+local_run 0 '.kinds | length >= 25' lint --kinds
 local_run 0 '.isDefault and .settingsKey == "sp_uri"' location sp_uri
 local_run 0 '.style == "none" and (.proxies | length) == 3 and .proxies[0].used == null' proxy
 run 0 '.help | contains("Commands:")' --help
@@ -230,6 +234,8 @@ remote_run 8 '[.repositories[].error == null] == [true, false, true]' list a_pla
 remote_run 0 '[.repositories[].entries | length] == [5, 5]' list a_plain i_local
 remote_run 3 '.repositories[0].archives | length == 1 and .[0].reason == "unreadable-descriptor"' explain j_pipes
 remote_run 0 '.repositories[0].entries[0].name | contains("\u001b")' list k_hostile
+remote_run 1 '[.findings[] | select(.line == 2) | .kind] == ["descriptor-no-thin-client"]' lint a_plain
+remote_run 3 '.repositories[0].error.code == 203' lint f_missing
 remote_run 3 '.error.code == 3' plan f_missing
 remote_run 3 '.error.code == 3' details g_gone tc-audio
 
@@ -272,6 +278,7 @@ run 2 '.error.code == 2'
 run 2 '.error.text | contains("bogus")' --bogus list
 local_run 2 '.error.code == 2' list 9
 local_run 2 '.error.text | contains("nothere")' explain nothere
+local_run 2 '.error.code == 2' lint nothere
 local_run 2 '.error.code == 2' details 2
 local_run 2 '.error.code == 2' details 2 tc-nothing
 local_run 2 '.error.code == 2' plan
@@ -287,6 +294,7 @@ remote_run 2 '.error.code == 2' list c_tls --accept-fingerprint 1234
 run 2 '.error.code == 2' --root "$work/nofile" status
 run 1 '.error.code == 1' --root "$work/no-definitions" status
 run 1 '.error.code == 1' --root "$work/no-definitions" repos
+run 1 '.findings[0].kind == "xml-not-well-formed" and .findings[0].line == 1' --root "$root" --definitions "$work/broken" lint
 run 1 '.error.text | contains(":1:")' --root "$root" --definitions "$work/broken" list
 run 1 '.error.text | contains("repository_list")' --root "$root" --definitions "$work/nothing" list
 
