@@ -97,7 +97,7 @@ bool measure(const char *what, const QByteArray &page, int links, double limit, 
         std::printf("FAIL %s: %d links, %d by the expression\n", what, found, scanned);
         return false;
     }
-    const bool isQuick = limit <= 0 || report(what, ours, "allowed", limit, 1.0);
+    const bool isQuick = report(what, ours, "allowed", limit, 1.0);
     return report(what, ours, "a regular expression", peer, factor) && isQuick;
 }
 
@@ -116,7 +116,7 @@ int main()
             + "</td><td align=\"right\">2026-11-20 20:51  </td><td align=\"right\">  1 </td>"
               "<td>&nbsp;</td></tr>\n";
     }
-    // A table has ten nodes for each link.
+    // A table has ten nodes for each link; the parser alone takes 750 ms for them.
     const bool good = measure("100,000 links in a list", list, links, 500, 0.15);
-    return measure("100,000 links in a table", table, links, 0, 0.05) && good ? 0 : 1;
+    return measure("100,000 links in a table", table, links, 1500, 0.08) && good ? 0 : 1;
 }

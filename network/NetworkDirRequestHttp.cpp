@@ -265,26 +265,69 @@ QString withSlash(const QString &url)
     return url.endsWith(QLatin1Char('/')) ? url : url + QLatin1Char('/');
 }
 
-/// `base` is the page's URL with a slash at its end.
-QUrl target(const QUrl &page, const QString &base, const QString &href)
+/// What the links of a page lead to.
+class LinkTargets
 {
-    const bool isRooted = href.startsWith(QLatin1Char('/'));
-    // A scheme has a colon, so most links need not be looked at for one.
-    if (!isRooted && !href.contains(QLatin1Char(':'))) {
-        return QUrl(base + href);
+public:
+    explicit LinkTargets(const QUrl &page)
+        : m_page(page)
+        , m_base(withSlash(page.toString()))
+        , m_isStable(QUrl(m_base).isValid() && QUrl(m_base).toString() == m_base)
+    {
     }
-    QUrl link(href);
-    if (!link.isRelative()) {
+
+    QString name(const QString &href) const
+    {
+        // Most links of an index need no look at the rest of the URL.
+        return m_isStable && isPlain(href) ? m_base + href : target(href).toString();
+    }
+
+private:
+    /// True when a URL keeps it letter for letter behind a slash: characters that need no escape
+    /// (RFC 3986, 2.3), and the two escapes that package names have and QUrl never decodes.
+    static bool isPlain(const QString &href)
+    {
+        for (int i = 0; i < href.size(); ++i) {
+            const ushort c = href.at(i).unicode();
+            const bool isUnreserved = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z')
+                || (c >= '0' && c <= '9') || c == '-' || c == '.' || c == '_' || c == '~';
+            if (isUnreserved) {
+                continue;
+            }
+            const auto escape = c == '%' ? href.midRef(i + 1, 2) : QStringRef();
+            if (escape != QLatin1String("3A") && escape != QLatin1String("2B")) {
+                return false;
+            }
+            i += 2;
+        }
+        return true;
+    }
+
+    QUrl target(const QString &href) const
+    {
+        const bool isRooted = href.startsWith(QLatin1Char('/'));
+        // A scheme has a colon, so most links need not be looked at for one.
+        if (!isRooted && !href.contains(QLatin1Char(':'))) {
+            return QUrl(m_base + href);
+        }
+        QUrl link(href);
+        if (!link.isRelative()) {
+            return link;
+        }
+        if (!isRooted) {
+            return QUrl(m_base + href);
+        }
+        const QString path = link.path(QUrl::FullyEncoded);
+        link = m_page;
+        link.setPath(path, QUrl::TolerantMode);
         return link;
     }
-    if (!isRooted) {
-        return QUrl(base + href);
-    }
-    const QString path = link.path(QUrl::FullyEncoded);
-    link = page;
-    link.setPath(path, QUrl::TolerantMode);
-    return link;
-}
+
+    const QUrl m_page;
+    const QString m_base;
+    /// Reading the base as a URL and writing it gives it back.
+    const bool m_isStable;
+};
 
 XUrlInfo makeEntry(const QString &name)
 {
@@ -464,43 +507,53 @@ void NetworkDirRequestHttp::finish(XNetworkReply *out)
     out->finish();
 }
 
-void NetworkDirRequestHttp::parseHtmlDirectory(QNetworkReply *reply, XNetworkReply *out)
+std::optional<QList<XUrlInfo>> NetworkDirRequestHttp::entriesOf(QByteArray page, const QUrl &url)
 {
-    const QUrl page = reply->url();
-    const QString base = withSlash(page.toString());
-    out->entries.clear();
-    QByteArray body = reply->readAll();
-    const int zero = body.indexOf('\0');
+    const int zero = page.indexOf('\0');
     if (zero >= 0) {
-        body.truncate(zero);
+        page.truncate(zero);
     }
-    body = asUtf8(body);
+    page = asUtf8(page);
+    if (page.size() > maximumPage || !HtmlCheck().accepts(page)) {
+        return std::nullopt;
+    }
     QStringList links;
-    bool isRead = body.size() <= maximumPage && HtmlCheck().accepts(body);
-    if (isRead) {
-        const PageTree tree(body);
-        isRead = tree.document();
-        links = isRead ? hrefs(tree.document()) : QStringList();
-    }
-    if (!isRead) {
-        RVLogger().log(4, "Page '%s' is too costly to read, its links are not listed",
-                       page.toString(QUrl::RemovePassword).toUtf8().constData());
-        return;
+    {
+        const PageTree tree(page);
+        if (!tree.document()) {
+            return std::nullopt;
+        }
+        links = hrefs(tree.document());
     }
 
+    const LinkTargets targets(url);
+    QList<XUrlInfo> entries;
     QSet<QString> names;
     names.reserve(links.size());
-    out->entries.reserve(links.size());
+    entries.reserve(links.size());
     for (const QString &link : qAsConst(links)) {
         const QString href = stripped(link);
         if (href.isEmpty()) {
             continue;
         }
-        const QString name = target(page, base, href).toString();
+        const QString name = targets.name(href);
         const int known = names.size();
         names.insert(name);
         if (names.size() != known) {
-            out->entries.append(makeEntry(name));
+            entries.append(makeEntry(name));
         }
     }
+    return entries;
+}
+
+void NetworkDirRequestHttp::parseHtmlDirectory(QNetworkReply *reply, XNetworkReply *out)
+{
+    out->entries.clear();
+    const auto entries = entriesOf(reply->readAll(), reply->url());
+    if (!entries) {
+        RVLogger().log(4, "Page '%s' is too costly to read, its links are not listed",
+                       reply->url().toString(QUrl::RemovePassword).toUtf8().constData());
+        return;
+    }
+    out->entries = *entries;
 }

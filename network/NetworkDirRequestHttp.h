@@ -3,12 +3,15 @@
 #pragma once
 
 #include "network/NetworkDirRequestBase.h"
+#include "network/XUrlInfo.h"
 
 #include <QMap>
 #include <QNetworkProxy>
 #include <QObject>
 #include <QPointer>
 #include <QUrl>
+
+#include <optional>
 
 class QNetworkReply;
 
@@ -36,6 +39,9 @@ public:
     /// For information only: the manager sends the request through its own.
     const QNetworkProxy &proxy() const { return m_proxy; }
 
+    /// An entry for each link of the page that came from `url`; nothing when reading it would cost
+    /// too much.
+    static std::optional<QList<XUrlInfo>> entriesOf(QByteArray page, const QUrl &url);
     /// Fills the entries of `out` with the links of the page that `reply` brought.
     void parseHtmlDirectory(QNetworkReply *reply, XNetworkReply *out);
 

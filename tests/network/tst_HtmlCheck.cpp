@@ -148,7 +148,8 @@ void tst_HtmlCheck::isLinear_data()
 void tst_HtmlCheck::isLinear()
 {
     QFETCH(QByteArray, piece);
-    const QByteArray html = piece.repeated(32 * 1024 * 1024 / piece.size());
+    // Quadratic work would take many minutes.
+    const QByteArray html = piece.repeated(2 * 1024 * 1024 / piece.size());
     QElapsedTimer timer;
     timer.start();
     HtmlCheck().accepts(html);
