@@ -85,13 +85,11 @@ QList<RVVerdict> tst_RVExplain::verdicts(bool filterSps)
     definition.archivePatterns = m_archives;
     definition.descriptorPatterns = m_descriptors;
     m_repository.reset(RVRepository::fromDefinition(definition));
-    int done = 0;
-    connect(m_repository.get(), &RVRepository::refreshDone, this, [&done] {
-        ++done;
-    });
+    // The repository stays: a counter of this function would be counted up after its end.
+    const QSignalSpy done(m_repository.get(), &RVRepository::refreshDone);
     m_repository->refresh();
     [&] {
-        QTRY_VERIFY(done > 0 && !m_repository->isRefreshing());
+        QTRY_VERIFY(!done.isEmpty() && !m_repository->isRefreshing());
     }();
     return explain(*m_repository, m_system, filterSps);
 }
