@@ -13,12 +13,10 @@ fi
 build=$(cd -- "$1" && pwd -P)
 demo=$(cd -- "$(dirname -- "$(readlink -f -- "$0")")" && pwd -P)
 world=$build/demo/access
-"$demo/build-world.sh" "$world"
-
 export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
 status=0
 # Debian's own python3, which has the bindings of the bus, whatever PATH says.
-"$demo/on-display.sh" "$world/home" dbus-run-session -- timeout --kill-after=5 150 \
+"$demo/serve.sh" "$world" "$demo/on-display.sh" "$world/home" dbus-run-session -- timeout --kill-after=5 150 \
   /usr/bin/python3 "$demo/../tests/e2e/access.py" "$build/host/ravel-host" "$world/root" \
   2> >(grep -v 'dbus-daemon' >&2) || status=$?
 [ "$status" -ne 124 ] || echo "access: stopped after two and a half minutes" >&2

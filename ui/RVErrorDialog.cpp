@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QTextEdit>
 #include <QUrl>
 
 namespace
@@ -21,6 +22,7 @@ RVErrorDialog::RVErrorDialog(QWidget *parent)
 {
     // Room for a sentence with a long place in it.
     resize(60 * fontMetrics().averageCharWidth(), 12 * fontMetrics().lineSpacing());
+    retranslateUi();
 }
 
 RVErrorDialog::~RVErrorDialog() = default;
@@ -141,4 +143,14 @@ void RVErrorDialog::changeEvent(QEvent *event)
 
 void RVErrorDialog::retranslateUi()
 {
+    nameParts(this);
+}
+
+void RVErrorDialog::nameParts(QErrorMessage *dialog)
+{
+    const QString name = tr("Message", "For screen readers: the dialog and the text in it.");
+    dialog->setAccessibleName(name);
+    if (auto *view = dialog->findChild<QTextEdit *>()) {
+        view->setAccessibleName(name);
+    }
 }

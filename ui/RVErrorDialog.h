@@ -18,11 +18,13 @@ public:
 
     /// The sentence for one of Qt 4's codes, empty for no error. `url` is shown as it is.
     static QString messageFor(int code, const QString &url);
+    /// Gives such a dialog and its text the names that a screen reader says; Qt gives them none.
+    static void nameParts(QErrorMessage *dialog);
 
 public Q_SLOTS:
     void showNetworkError(const QNetworkReply *reply);
     void changeEvent(QEvent *event) override;
-    /// Nothing to redo: a text is made when its message is shown.
+    /// Only what is not shown: the text of a message is made when it is.
     void retranslateUi();
 
 private:

@@ -5,6 +5,7 @@
 #include "core/RVLogger.h"
 #include "descriptor/DataXML.h"
 #include "network/XNetworkAccessManager.h"
+#include "ui/RVErrorDialog.h"
 #include "ui/RVStyle.h"
 
 #include <QDialogButtonBox>
@@ -161,6 +162,7 @@ void RepURLFrame::retranslateUi()
 {
     m_group->setTitle(tr("Repository URIs"));
     m_explanation->setText(tr("Options to change update repository locations"));
+    RVErrorDialog::nameParts(m_errorMessage);
     for (const Row &row : m_rows) {
         translate(row);
     }

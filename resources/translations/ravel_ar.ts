@@ -489,6 +489,11 @@
         <source>Unanticipated network error &apos;%1&apos; for the URI &apos;%2&apos;.</source>
         <translation>خطأ شبكة غير متوقع «⁨%1⁩» للمعرّف URI «⁨%2⁩».</translation>
     </message>
+    <message>
+        <source>Message</source>
+        <comment>For screen readers: the dialog and the text in it.</comment>
+        <translation>رسالة</translation>
+    </message>
 </context>
 <context>
     <name>RVMainPage</name>

@@ -485,6 +485,11 @@
         <source>Unanticipated network error &apos;%1&apos; for the URI &apos;%2&apos;.</source>
         <translation>Erreur réseau imprévue «&#xa0;%1&#xa0;» pour l’URI «&#xa0;%2&#xa0;».</translation>
     </message>
+    <message>
+        <source>Message</source>
+        <comment>For screen readers: the dialog and the text in it.</comment>
+        <translation>Message</translation>
+    </message>
 </context>
 <context>
     <name>RVMainPage</name>

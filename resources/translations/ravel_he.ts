@@ -485,6 +485,11 @@
         <source>Unanticipated network error &apos;%1&apos; for the URI &apos;%2&apos;.</source>
         <translation>שגיאת רשת בלתי צפויה &quot;⁨%1⁩&quot; עבור ה־URI &quot;⁨%2⁩&quot;.</translation>
     </message>
+    <message>
+        <source>Message</source>
+        <comment>For screen readers: the dialog and the text in it.</comment>
+        <translation>הודעה</translation>
+    </message>
 </context>
 <context>
     <name>RVMainPage</name>

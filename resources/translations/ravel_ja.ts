@@ -484,6 +484,11 @@
         <source>Unanticipated network error &apos;%1&apos; for the URI &apos;%2&apos;.</source>
         <translation>予期しないネットワークエラー 「%1」 が URI 「%2」 で発生しました。</translation>
     </message>
+    <message>
+        <source>Message</source>
+        <comment>For screen readers: the dialog and the text in it.</comment>
+        <translation>メッセージ</translation>
+    </message>
 </context>
 <context>
     <name>RVMainPage</name>

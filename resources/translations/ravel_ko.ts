@@ -484,6 +484,11 @@
         <source>Unanticipated network error &apos;%1&apos; for the URI &apos;%2&apos;.</source>
         <translation>예기치 않은 네트워크 오류 &apos;%1&apos;이(가) URI &apos;%2&apos;에서 발생했습니다.</translation>
     </message>
+    <message>
+        <source>Message</source>
+        <comment>For screen readers: the dialog and the text in it.</comment>
+        <translation>메시지</translation>
+    </message>
 </context>
 <context>
     <name>RVMainPage</name>

@@ -486,6 +486,11 @@
         <source>Unanticipated network error &apos;%1&apos; for the URI &apos;%2&apos;.</source>
         <translation>Nieoczekiwany błąd sieci „%1” dla adresu URI „%2”.</translation>
     </message>
+    <message>
+        <source>Message</source>
+        <comment>For screen readers: the dialog and the text in it.</comment>
+        <translation>Komunikat</translation>
+    </message>
 </context>
 <context>
     <name>RVMainPage</name>

@@ -485,6 +485,11 @@
         <source>Unanticipated network error &apos;%1&apos; for the URI &apos;%2&apos;.</source>
         <translation>Erro de rede imprevisto “%1” para o URI “%2”.</translation>
     </message>
+    <message>
+        <source>Message</source>
+        <comment>For screen readers: the dialog and the text in it.</comment>
+        <translation>Mensagem</translation>
+    </message>
 </context>
 <context>
     <name>RVMainPage</name>

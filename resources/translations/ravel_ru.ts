@@ -486,6 +486,11 @@
         <source>Unanticipated network error &apos;%1&apos; for the URI &apos;%2&apos;.</source>
         <translation>Непредвиденная ошибка сети «%1» для URI «%2».</translation>
     </message>
+    <message>
+        <source>Message</source>
+        <comment>For screen readers: the dialog and the text in it.</comment>
+        <translation>Сообщение</translation>
+    </message>
 </context>
 <context>
     <name>RVMainPage</name>

@@ -484,6 +484,11 @@
         <source>Unanticipated network error &apos;%1&apos; for the URI &apos;%2&apos;.</source>
         <translation>發生未預期的網路錯誤「%1」，URI 為「%2」。</translation>
     </message>
+    <message>
+        <source>Message</source>
+        <comment>For screen readers: the dialog and the text in it.</comment>
+        <translation>訊息</translation>
+    </message>
 </context>
 <context>
     <name>RVMainPage</name>

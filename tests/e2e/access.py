@@ -133,7 +133,7 @@ class Access:
 
     def find(self, role, name, top=None):
         for accessible in shown(top or self.app):
-            if accessible.get_role_name() == role and accessible.get_name() == name:
+            if accessible.get_role_name() == role and accessible.get_name().strip() == name:
                 return accessible
         return None
 
@@ -153,7 +153,7 @@ class Access:
         passed = []
         for _ in range(60):
             here = wait_for(self.focused, "focus")
-            if here.get_role_name() == role and here.get_name() == name:
+            if here.get_role_name() == role and here.get_name().strip() == name:
                 return here
             passed.append(describe(here))
             self.key(key)
@@ -260,6 +260,52 @@ class Access:
         self.key("Space")
         wait_for(lambda: not self.dialogs(), "end of the progress dialog")
 
+    def type(self, text):
+        for letter in text:
+            Atspi.generate_keyboard_event(ord(letter), None, Atspi.KeySynthType.SYM)
+            time.sleep(0.02)
+        listen()
+
+    def open_remote(self, title):
+        self.go_to("check box", title)
+        self.key("Space")
+        wait_for(lambda: has(self.find("check box", title), State.CHECKED), f"open '{title}'")
+        self.go_to("push button", "Refresh")
+        self.key("Space")
+
+    def refuse_certificate(self):
+        self.open_remote("Security")
+        wait_for(lambda: self.window("Certificate"), "question about the certificate")
+        self.look()
+        self.go_to("check box", "Show Details")
+        self.key("Space")
+        wait_for(lambda: "SHA256 Fingerprint:" in self.texts(self.window("Certificate")), "details")
+        self.look()
+        self.go_to("push button", "Reject Certificate")
+        self.key("Space")
+        wait_for(lambda: not self.window("Certificate"), "end of the question")
+        wait_for(lambda: any("secure channel" in self.texts(d) for d in self.dialogs()), "message")
+        self.look()
+        self.key("Escape")
+        wait_for(lambda: not self.dialogs(), "end of the message")
+        wait_for(lambda: self.find("push button", "Retry"), "page of the failed retrieval")
+        self.look()
+
+    def log_in(self):
+        self.open_remote("Site software")
+        wait_for(lambda: self.find("password text", "Password:"), "login")
+        wait_for(self.dialogs, "message that a login is required")
+        self.look()
+        self.key("Escape")
+        wait_for(lambda: not self.dialogs(), "end of the message")
+        self.go_to("text", "User Name:")
+        self.type("demo")
+        self.go_to("password text", "Password:")
+        self.type("demo")
+        self.key("Return")
+        wait_for(lambda: "tc-planner, selected" in self.cells(), "table behind the login")
+        self.look()
+
     def other_pages(self):
         pages = self.find("list", "Pages")
         require(pages, "there is no list of pages")
@@ -271,6 +317,19 @@ class Access:
             self.look()
             self.key("Down")
 
+    def change_options(self):
+        """On the options page, where the last step has ended."""
+        self.go_to("check box", "Networking Proxies")
+        self.key("Space")
+        wait_for(lambda: has(self.find("check box", "Networking Proxies"), State.CHECKED), "proxies")
+        self.look()
+        self.go_to("radio button", "No proxies")
+        self.key("Down")
+        wait_for(lambda: has(self.find("radio button", "Manual Proxy Configuration:"), State.CHECKED),
+                 "choice of manual proxies")
+        self.look()
+        self.go_to("push button", "OK")
+
     def run(self):
         steps = [
             ("the program is on the accessibility bus", self.start),
@@ -281,7 +340,10 @@ class Access:
             ("the new versions are heard", self.hear_result),
             ("the other sections speak", self.other_sections),
             ("an image is refused", self.refuse_image),
+            ("a certificate is read and refused", self.refuse_certificate),
+            ("a login is typed", self.log_in),
             ("the other pages speak", self.other_pages),
+            ("the options are changed", self.change_options),
         ]
         try:
             for what, step in steps:

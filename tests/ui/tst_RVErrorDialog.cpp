@@ -70,6 +70,13 @@ private Q_SLOTS:
     }
     void cleanup() { QVERIFY2(m_guard->isClean(), m_guard->report()); }
 
+    void saysWhatItIs()
+    {
+        RVErrorDialog dialog(nullptr);
+        QCOMPARE(dialog.accessibleName(), QStringLiteral("Message"));
+        QCOMPARE(dialog.findChild<QTextEdit *>()->accessibleName(), QStringLiteral("Message"));
+    }
+
     void messages_data()
     {
         QTest::addColumn<int>("code");
