@@ -282,6 +282,10 @@ void RVInstallProc::continueDownloads()
 void RVInstallProc::startInstallation()
 {
     disconnect(this, &RVInstallProc::extractFinished, this, &RVInstallProc::startInstallation);
+    if (m_state != State::Downloading) {
+        // Another receiver of the signal has cancelled.
+        return;
+    }
     RVLogger().log(5, "  Starting installation.");
     m_state = State::Installing;
     if (!enterTemporaryDir()) {

@@ -70,7 +70,8 @@ public Q_SLOTS:
     void cancel();
 
 Q_SIGNALS:
-    /// Every archive is unpacked: the installation starts now and cannot be cancelled any more.
+    /// Every archive is unpacked: the installation starts now and cannot be cancelled any more,
+    /// but for a slot that was connected before start().
     void extractFinished();
     /// One download failed; the others go on.
     void networkError(const QNetworkReply *reply);

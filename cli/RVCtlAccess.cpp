@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlAccess.h"
 
+#include "network/RVKeyring.h"
 #include "network/XServerCertificate.h"
+#include "repository/RVRepository.h"
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>
 #include <QCryptographicHash>
 #include <QJsonArray>
+#include <QNetworkProxy>
 #include <QSslCertificate>
 
 #include "cli/RVCtlDeadline.h"
@@ -58,6 +61,13 @@ QList<QCommandLineOption> RVCtlAccess::options()
          QStringLiteral("NAME")},
         {QStringLiteral("password-file"),
          QStringLiteral("Read the password from the first line of FILE."), QStringLiteral("FILE")},
+        {QStringLiteral("proxy-user"),
+         QStringLiteral("Log in to the proxy as NAME. The password comes from "
+                        "--proxy-password-file or is asked for on the terminal."),
+         QStringLiteral("NAME")},
+        {QStringLiteral("proxy-password-file"),
+         QStringLiteral("Read the proxy's password from the first line of FILE."),
+         QStringLiteral("FILE")},
         {QStringLiteral("accept-fingerprint"),
          QStringLiteral("Accept the server certificate with this SHA-256 fingerprint although it "
                         "does not validate."),
@@ -80,22 +90,56 @@ bool RVCtlAccess::read(const QCommandLineParser &parser, const RVCtlDeadline &de
         }
         m_acceptedFingerprints.insert(bytes.toHex());
     }
+    return readLogin(parser, QString(), deadline, &m_user, &m_password, error)
+        && readLogin(parser, QStringLiteral("proxy-"), deadline, &m_proxyUser, &m_proxyPassword,
+                     error);
+}
 
-    const QString file = parser.value(QStringLiteral("password-file"));
-    const bool hasFile = parser.isSet(QStringLiteral("password-file"));
-    if (!parser.isSet(QStringLiteral("user"))) {
+bool RVCtlAccess::readLogin(const QCommandLineParser &parser, const QString &prefix,
+                            const RVCtlDeadline &deadline, QString *user, QString *password,
+                            QString *error)
+{
+    const QString userOption = prefix + QStringLiteral("user");
+    const QString fileOption = prefix + QStringLiteral("password-file");
+    const QString file = parser.value(fileOption);
+    const bool hasFile = parser.isSet(fileOption);
+    if (!parser.isSet(userOption)) {
         if (hasFile) {
-            *error = QStringLiteral("--password-file needs --user.");
+            *error = QStringLiteral("--%1 needs --%2.").arg(fileOption, userOption);
         }
         return !hasFile;
     }
-    m_user = parser.value(QStringLiteral("user"));
-    if (m_user.isEmpty()) {
-        *error = QStringLiteral("--user needs a name.");
+    *user = parser.value(userOption);
+    if (user->isEmpty()) {
+        *error = QStringLiteral("--%1 needs a name.").arg(userOption);
         return false;
     }
-    return hasFile ? RVCtlPassword::fromFile(file, deadline, &m_password, error)
-                   : RVCtlPassword::fromTerminal(m_user, deadline, &m_password, error);
+    return hasFile ? RVCtlPassword::fromFile(file, deadline, password, error)
+                   : RVCtlPassword::fromTerminal(*user, deadline, password, error);
+}
+
+bool RVCtlAccess::keepProxyLogin(const QList<RVCtlWorld::Section> &sections, QString *error) const
+{
+    if (m_proxyUser.isEmpty()) {
+        return true;
+    }
+    QString known;
+    for (const RVCtlWorld::Section &section : sections) {
+        const RVRepository &repository = *section.repository;
+        if (repository.proxyHost().isEmpty() || repository.proxyPort() <= 0) {
+            continue;
+        }
+        const QString place =
+            RVKeyring::placeOf(QNetworkProxy(QNetworkProxy::HttpProxy, repository.proxyHost(),
+                                             static_cast<quint16>(repository.proxyPort())));
+        if (!known.isEmpty() && known != place) {
+            *error = QStringLiteral("--proxy-user is for one proxy: name sections that use one.");
+            return false;
+        }
+        known = place;
+        repository.keyring()->keep(place, {m_proxyUser, m_proxyPassword});
+    }
+    return true;
 }
 
 void RVCtlAccess::judge(QNetworkReply *reply, const QList<QSslError> &errors)

@@ -10,12 +10,15 @@
 #include <QSslError>
 #include <QString>
 
+#include "cli/RVCtlWorld.h"
+
 class QCommandLineOption;
 class QCommandLineParser;
 class RVCtlDeadline;
 class RVCtlMessages;
 
-/// What the caller brings to get in: a user with a password, and certificates that it vouches for.
+/// What the caller brings to get in: a user with a password, another for the proxy, and
+/// certificates that it vouches for.
 /// Certificates that do not validate are refused and described, unless they are among those.
 class RVCtlAccess
 {
@@ -26,6 +29,9 @@ public:
     /// Asks for the password on the terminal when there is no file with it. False, and why, when
     /// the arguments make no sense or the password cannot be had.
     bool read(const QCommandLineParser &parser, const RVCtlDeadline &deadline, QString *error);
+    /// Leaves the login for the proxy with the sections that use it. False, and why, when they use
+    /// several: each of them would learn it.
+    bool keepProxyLogin(const QList<RVCtlWorld::Section> &sections, QString *error) const;
 
     const QString &user() const { return m_user; }
     const QString &password() const { return m_password; }
@@ -38,9 +44,15 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(RVCtlAccess)
 
+    static bool readLogin(const QCommandLineParser &parser, const QString &prefix,
+                          const RVCtlDeadline &deadline, QString *user, QString *password,
+                          QString *error);
+
     const RVCtlMessages &m_messages;
     QString m_user;
     QString m_password;
+    QString m_proxyUser;
+    QString m_proxyPassword;
     QSet<QByteArray> m_acceptedFingerprints;
     QSet<QByteArray> m_describedFingerprints;
     QHash<QString, QJsonObject> m_refused;

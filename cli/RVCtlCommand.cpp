@@ -4,6 +4,7 @@
 
 #include "cli/RVCtlDetails.h"
 #include "cli/RVCtlExplain.h"
+#include "cli/RVCtlInstall.h"
 #include "cli/RVCtlLint.h"
 #include "cli/RVCtlList.h"
 #include "cli/RVCtlLocation.h"
@@ -26,6 +27,7 @@ std::vector<std::unique_ptr<RVCtlCommand>> RVCtlCommand::all()
     commands.push_back(std::make_unique<RVCtlExplain>());
     commands.push_back(std::make_unique<RVCtlDetails>());
     commands.push_back(std::make_unique<RVCtlPlan>());
+    commands.push_back(std::make_unique<RVCtlInstall>());
     commands.push_back(std::make_unique<RVCtlLint>());
     commands.push_back(std::make_unique<RVCtlLocation>());
     commands.push_back(std::make_unique<RVCtlProxy>());

@@ -26,6 +26,10 @@ RVCtlDeadline::RVCtlDeadline(QObject *parent)
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, [this] {
+        if (m_isHeld) {
+            Q_EMIT heldBack();
+            return;
+        }
         m_timedOut = true;
         if (m_signal == 0) {
             Q_EMIT over();
@@ -50,8 +54,19 @@ void RVCtlDeadline::catchSignals()
     struct sigaction action = {};
     action.sa_handler = onSignal;
     action.sa_flags = SA_RESTART;
-    ::sigaction(SIGINT, &action, nullptr);
-    ::sigaction(SIGTERM, &action, nullptr);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
+        struct sigaction before = {};
+        ::sigaction(number, nullptr, &before);
+        if (before.sa_handler != SIG_IGN) {
+            ::sigaction(number, &action, nullptr);
+        }
+    }
+}
+
+bool RVCtlDeadline::hold()
+{
+    m_isHeld = !isOver();
+    return m_isHeld;
 }
 
 int RVCtlDeadline::remaining() const
@@ -66,7 +81,9 @@ void RVCtlDeadline::readSignal()
 {
     unsigned char byte = 0;
     while (::read(s_signalPipe[0], &byte, 1) == 1) {
-        if (!isOver()) {
+        if (m_isHeld) {
+            Q_EMIT heldBack();
+        } else if (!isOver()) {
             m_signal = byte;
             Q_EMIT over();
         }

@@ -5,7 +5,8 @@
 #include <QObject>
 #include <QTimer>
 
-/// What ends a run before it is done: `--timeout`, SIGINT or SIGTERM. One for the process.
+/// What ends a run before it is done: `--timeout`, or a signal that asks the process to end. One
+/// for the process.
 class RVCtlDeadline : public QObject
 {
     Q_OBJECT
@@ -17,12 +18,17 @@ public:
 
     /// Starts the clock.
     void setSeconds(int seconds);
-    /// From here on SIGINT and SIGTERM stop the run instead of ending the process.
+    /// From here on SIGINT, SIGTERM, SIGHUP and SIGQUIT stop the run instead of ending the process.
+    /// One that is ignored, as nohup leaves SIGHUP, stays so.
     void catchSignals();
+
+    /// From here on nothing ends the run: it is in the middle of what must not be left half done.
+    /// False when it is over already.
+    bool hold();
 
     bool isOver() const { return timedOut() || m_signal != 0; }
     /// Also when no event loop has run since.
-    bool timedOut() const { return m_timedOut || m_timer.remainingTime() == 0; }
+    bool timedOut() const { return m_timedOut || (!m_isHeld && m_timer.remainingTime() == 0); }
     /// The signal that came, or 0.
     int signal() const { return m_signal; }
     /// Milliseconds that are left, or -1 when there is no limit.
@@ -31,11 +37,14 @@ public:
 Q_SIGNALS:
     /// Once.
     void over();
+    /// Something would have ended the run, had hold() not been called.
+    void heldBack();
 
 private:
     void readSignal();
 
     QTimer m_timer;
+    bool m_isHeld = false;
     bool m_timedOut = false;
     int m_signal = 0;
 };

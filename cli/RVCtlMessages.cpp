@@ -10,11 +10,14 @@
 namespace
 {
 
+constexpr char clearLine[] = "\r\033[K";
+
 const RVCtlMessages *s_messages = nullptr;
 
-void print(const char *kind, const QString &text)
+void print(const char *kind, const QString &text, const QString &status = QString())
 {
-    std::fprintf(stderr, "ravelctl: %s%s\n", kind, RVCtlText::safe(text).toLocal8Bit().constData());
+    std::fprintf(stderr, "%sravelctl: %s%s\n%s", status.isEmpty() ? "" : clearLine, kind,
+                 RVCtlText::safe(text).toLocal8Bit().constData(), status.toLocal8Bit().constData());
 }
 
 } // namespace
@@ -27,26 +30,36 @@ RVCtlMessages::RVCtlMessages()
 
 RVCtlMessages::~RVCtlMessages()
 {
+    setStatus(QString());
     qInstallMessageHandler(m_previous);
     s_messages = nullptr;
 }
 
 void RVCtlMessages::error(const QString &text) const
 {
-    print("", text);
+    print("", text, m_status);
 }
 
 void RVCtlMessages::warning(const QString &text) const
 {
     if (!m_quiet) {
-        print("warning: ", text);
+        print("warning: ", text, m_status);
     }
 }
 
 void RVCtlMessages::note(const QString &text) const
 {
     if (!m_quiet) {
-        print("", text);
+        print("", text, m_status);
+    }
+}
+
+void RVCtlMessages::setStatus(const QString &line)
+{
+    if (line != m_status) {
+        m_status = line;
+        std::fprintf(stderr, "%s%s", clearLine, line.toLocal8Bit().constData());
+        std::fflush(stderr);
     }
 }
 

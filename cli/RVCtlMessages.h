@@ -21,6 +21,10 @@ public:
     void warning(const QString &text) const;
     void note(const QString &text) const;
 
+    /// A line at the foot of a terminal, until the next one or an empty text takes its place. Other
+    /// messages go above it. `line` is safe and fits.
+    void setStatus(const QString &line);
+
 private:
     Q_DISABLE_COPY_MOVE(RVCtlMessages)
 
@@ -28,5 +32,6 @@ private:
                                 const QString &text);
 
     bool m_quiet = false;
+    QString m_status;
     QtMessageHandler m_previous;
 };

@@ -275,18 +275,25 @@ void RVCtlOffers::judge(const QList<RVCtlOffers> &sections, RVCtlResult *result)
 bool RVCtlOffers::read(const RVCtlCall &call, const QStringList &names,
                        QList<RVCtlOffers> *sections, RVCtlResult *result)
 {
+    RVCtlAccess access(call.messages);
+    return read(call, names, &access, sections, result);
+}
+
+bool RVCtlOffers::read(const RVCtlCall &call, const QStringList &names, RVCtlAccess *access,
+                       QList<RVCtlOffers> *sections, RVCtlResult *result)
+{
     const auto fail = [result](RVCtlExit exit, const QString &error) {
         *result = RVCtlResult::failed(exit, error);
         return false;
     };
     QString error;
-    RVCtlAccess access(call.messages);
     QList<RVCtlWorld::Section> named;
     if (!call.world.readSections(&error) || !call.world.readSystem(&error)) {
         return fail(RVCtlExit::Failed, error);
     }
-    if (!call.world.find(names, &named, &error) || !access.read(call.parser, call.deadline, &error)
-        || !(access.user().isEmpty() || isOneServer(named, &error))) {
+    if (!call.world.find(names, &named, &error) || !access->read(call.parser, call.deadline, &error)
+        || !(access->user().isEmpty() || isOneServer(named, &error))
+        || !access->keepProxyLogin(named, &error)) {
         return fail(RVCtlExit::Usage, error);
     }
     for (const RVCtlWorld::Section &section : qAsConst(named)) {
@@ -294,7 +301,7 @@ bool RVCtlOffers::read(const RVCtlCall &call, const QStringList &names,
             call.messages.note(QStringLiteral("Retrieving data from repository %1")
                                    .arg(urlText(section.repository->url())));
         }
-        sections->append(RVCtlOffers(section, call.world.system(), &access, &call.deadline));
+        sections->append(RVCtlOffers(section, call.world.system(), access, &call.deadline));
         if (call.deadline.isOver()) {
             return false;
         }

@@ -45,6 +45,9 @@ public:
     /// command ends here: `result` says why, unless the deadline is over.
     static bool read(const RVCtlCall &call, const QStringList &names, QList<RVCtlOffers> *sections,
                      RVCtlResult *result);
+    /// The same, for commands that go on with `access`.
+    static bool read(const RVCtlCall &call, const QStringList &names, RVCtlAccess *access,
+                     QList<RVCtlOffers> *sections, RVCtlResult *result);
     /// Refreshes the section. Until `deadline` is over; then there is nothing.
     RVCtlOffers(const RVCtlWorld::Section &section, const OSInfoBaseClass &system,
                 RVCtlAccess *access, RVCtlDeadline *deadline);

@@ -2,63 +2,17 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlPlan.h"
 
-#include "archive/RVInstallProc.h"
-#include "repository/RVRepository.h"
-
 #include <QJsonArray>
 
 #include "cli/RVCtlAccess.h"
+#include "cli/RVCtlBatch.h"
 #include "cli/RVCtlOffers.h"
 #include "cli/RVCtlText.h"
 
 namespace
 {
 
-struct Plan {
-    QVector<RVCtlOffers::Entry> updates;
-    QList<RVData> downloads;
-    /// Of what is downloaded; -1 when a size is not known.
-    qint64 size = 0;
-    InstallCommand installer;
-};
-
-Plan planFor(const RVCtlOffers &section, const QVector<RVCtlOffers::Entry> &chosen)
-{
-    Plan plan;
-    plan.updates = chosen;
-    QList<RVData> batch;
-    for (const RVCtlOffers::Entry &entry : chosen) {
-        batch.append(section.data(entry));
-    }
-    if (batch.isEmpty()) {
-        return plan;
-    }
-    plan.downloads = RVInstallProc::downloads(batch);
-    for (const RVData &data : qAsConst(plan.downloads)) {
-        const qint64 size = data.descriptor()->size();
-        plan.size = size < 0 || plan.size < 0 ? -1 : plan.size + size;
-    }
-    // The first archive's installer runs over all of them.
-    ArchiveGeneric &first = *batch.first().archive();
-    const RVRepository &repository = *section.section().repository;
-    if (!repository.proxyHost().isEmpty() && repository.proxyPort() > 0) {
-        first.setProxy(repository.proxyHost(), repository.proxyPort());
-    }
-    plan.installer = first.installCommand();
-    return plan;
-}
-
-QStringList shownArguments(const InstallCommand &command)
-{
-    QStringList result;
-    for (QString argument : command.arguments) {
-        result.append(
-            argument.replace(QLatin1String("%1"), QLatin1String("<directory of the archive>")));
-    }
-    return result;
-}
-
-QString toText(const Plan &plan)
+QString toText(const RVCtlBatch &plan)
 {
     if (plan.updates.isEmpty()) {
         return QStringLiteral("Nothing would be installed.\n");
@@ -84,7 +38,7 @@ QString toText(const Plan &plan)
         return text + QStringLiteral("\nThere is no installer for this archive.\n");
     }
     text += QStringLiteral("\nRuns:\n  ")
-        + RVCtlText::safe((QStringList(plan.installer.program) + shownArguments(plan.installer))
+        + RVCtlText::safe((QStringList(plan.installer.program) + plan.installerArguments())
                               .join(QLatin1Char(' ')))
         + QLatin1Char('\n');
     if (!plan.installer.script.isEmpty()) {
@@ -94,38 +48,22 @@ QString toText(const Plan &plan)
     return text;
 }
 
-QJsonObject toJson(const Plan &plan)
+QJsonObject toJson(const RVCtlBatch &plan)
 {
-    QJsonArray updates;
-    for (const RVCtlOffers::Entry &entry : plan.updates) {
-        updates.append(entry.toJson());
-    }
-    QJsonArray downloads;
-    for (const RVData &data : plan.downloads) {
-        const qint64 size = data.descriptor()->size();
-        downloads.append(QJsonObject{
-            {QStringLiteral("url"), data.archiveUrl().toString(QUrl::RemovePassword)},
-            {QStringLiteral("size"), size < 0 ? QJsonValue() : QJsonValue(size)},
-        });
-    }
+    QJsonObject object = plan.toJson();
     QJsonValue installer;
     if (!plan.installer.program.isEmpty()) {
         installer = QJsonObject{
             {QStringLiteral("program"), plan.installer.program},
-            {QStringLiteral("arguments"),
-             QJsonArray::fromStringList(shownArguments(plan.installer))},
+            {QStringLiteral("arguments"), QJsonArray::fromStringList(plan.installerArguments())},
             {QStringLiteral("script"),
              plan.installer.script.isEmpty()
                  ? QJsonValue()
                  : QJsonValue(QString::fromUtf8(plan.installer.script))},
         };
     }
-    return {
-        {QStringLiteral("updates"), updates},
-        {QStringLiteral("downloads"), downloads},
-        {QStringLiteral("downloadSize"), plan.size < 0 ? QJsonValue() : QJsonValue(plan.size)},
-        {QStringLiteral("installer"), installer},
-    };
+    object.insert(QStringLiteral("installer"), installer);
+    return object;
 }
 
 } // namespace
@@ -152,7 +90,7 @@ RVCtlResult RVCtlPlan::run(const RVCtlCall &call)
     if (!section.choose(call.arguments.mid(1), &chosen, &error)) {
         return RVCtlResult::failed(RVCtlExit::Usage, error);
     }
-    const Plan plan = planFor(section, chosen);
+    const RVCtlBatch plan = RVCtlBatch::of(section, chosen);
     result.text = toText(plan);
     result.json = toJson(plan);
     RVCtlOffers::judge(sections, &result);

@@ -220,6 +220,7 @@ private Q_SLOTS:
     void cancelDropsWhatIsStillArriving();
     void cancelDropsWhatHasArrived();
     void cancelLeavesTheInstallerRunning();
+    void cancelInTheLastMoment();
     void cancelTwiceReportsOnce();
     void cancelAfterTheEnd();
     void startsAgainAfterCancel();
@@ -826,6 +827,22 @@ void tst_RVInstallProc::cancelLeavesTheInstallerRunning()
     QCOMPARE(report.events.last(), QStringLiteral("finished 4 normal"));
     QCOMPARE(report.finals(), 1);
     QCOMPARE(procedure.readAllStandardOutput(), QByteArray("running\ndone\n"));
+}
+
+void tst_RVInstallProc::cancelInTheLastMoment()
+{
+    const QString file = m_dir->filePath(QStringLiteral("a.deb"));
+    QVERIFY(write(file, "package"));
+    const RVPaths paths = installer("echo started");
+    RVInstallProc procedure({entry(QUrl::fromLocalFile(file), paths)}, QString(), QString(),
+                            nullptr, paths);
+    Report report(&procedure);
+    connect(&procedure, &RVInstallProc::extractFinished, &procedure, &RVInstallProc::cancel);
+    procedure.start();
+    QTRY_COMPARE(report.finals(), 1);
+    QCOMPARE(report.events.last(), QStringLiteral("finished 1 crash"));
+    QVERIFY(!report.events.contains(QStringLiteral("installStarted")));
+    QCOMPARE(procedure.state(), QProcess::NotRunning);
 }
 
 void tst_RVInstallProc::cancelTwiceReportsOnce()

@@ -31,7 +31,7 @@ completes()
 }
 
 complete -p ravelctl >/dev/null
-completes 'status repos list explain details plan lint location proxy' ''
+completes 'status repos list explain details plan install lint location proxy' ''
 completes 'plan proxy' p
 completes 'list lint location' --json l
 completes 'list' --root /x lis
@@ -46,6 +46,8 @@ completes 'none' proxy http ''
 completes '' proxy http none ''
 completes 'image_uri sp_uri package_uri application_uri' --root "$root" list ''
 completes 'package_uri' --root "$root" plan pa
+completes 'package_uri' --root "$root" install pa
+completes '--yes' install --y
 completes 'image_uri sp_uri package_uri application_uri' --root "$root" lint ''
 completes "$root/etc" --root "$root" lint sp_uri "$root/et"
 completes '--kinds' lint --k

@@ -10,6 +10,11 @@ tls     HTTPS with CERTIFICATE, a PEM file with its key
 silent  takes connections and never answers
 part    HTTP, but no file whose name holds "tc-audio" and ends in ".xml"
 ftp     FTP, for the same user
+noaudio HTTP, but not the package of tc-audio
+nodebs  HTTP, but no package
+short   HTTP, but connections are cut in the middle of packages
+slow    HTTP, but packages stop in their middle for as long as the client waits
+proxy   an HTTP proxy for the same user, which answers for every server
 
 Every request's first line goes to LOG.
 """
@@ -45,7 +50,34 @@ class Handler(http.server.SimpleHTTPRequestHandler):
         if self.name == "part" and "tc-audio" in self.path and self.path.endswith(".xml"):
             self.send_error(404)
             return None
+        if self.path.endswith(".deb"):
+            if self.name == "nodebs" or (self.name == "noaudio" and "tc-audio" in self.path):
+                self.send_error(404)
+                return None
+            if self.name in ("short", "slow"):
+                self.send_half()
+                return None
+        if self.name == "proxy":
+            if self.headers.get("Proxy-Authorization") != SECRET:
+                self.send_response(407)
+                self.send_header("Proxy-Authenticate", 'Basic realm="proxy"')
+                self.send_header("Content-Length", "0")
+                self.end_headers()
+                return None
+            self.path = "/" + self.path.split("/", 3)[3]
         return super().send_head()
+
+    def send_half(self):
+        data = pathlib.Path(self.translate_path(self.path)).read_bytes()
+        self.send_response(200)
+        self.send_header("Content-Length", str(len(data)))
+        self.end_headers()
+        self.wfile.write(data[: len(data) // 2])
+        self.wfile.flush()
+        if self.name == "slow":
+            self.connection.settimeout(60)
+            self.connection.recv(1)
+        self.close_connection = True
 
     def log_message(self, *_):
         pass
@@ -67,6 +99,8 @@ pathlib.Path(LOG).touch()
 serve("plain")
 serve("login")
 serve("part")
+for kind in ("noaudio", "nodebs", "short", "slow", "proxy"):
+    serve(kind)
 serve("tls", CERTIFICATE)
 FTPHandler.authorizer = DummyAuthorizer()
 FTPHandler.authorizer.add_user("anna", "secret", DIRECTORY)

@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "cli/RVCtlDpkg.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace
+{
+
+const QString databasePath = QStringLiteral("/var/lib/dpkg");
+
+QString processName(pid_t process)
+{
+    QFile file(QStringLiteral("/proc/%1/comm").arg(process));
+    return file.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(file.readAll()).trimmed()
+                                          : QString();
+}
+
+/// The holder of a lock of the kind that dpkg takes: a write lock on the whole file.
+QString holderOf(const QString &file)
+{
+    // A pipe that somebody put there would be waited for.
+    const int handle =
+        ::open(QFile::encodeName(file).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    if (handle < 0) {
+        return {};
+    }
+    struct flock lock = {};
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    const bool isAnswered = ::fcntl(handle, F_GETLK, &lock) == 0;
+    ::close(handle);
+    if (!isAnswered || lock.l_type == F_UNLCK) {
+        return {};
+    }
+    if (lock.l_pid <= 0) {
+        // Of another container, or of a file that several processes share.
+        return QStringLiteral("another process");
+    }
+    const QString name = processName(lock.l_pid);
+    return name.isEmpty() ? QStringLiteral("process %1").arg(lock.l_pid)
+                          : QStringLiteral("%1 (process %2)").arg(name).arg(lock.l_pid);
+}
+
+} // namespace
+
+RVCtlDpkg::RVCtlDpkg(const RVPaths &paths)
+    : m_adminDir(paths.packageStatus.isEmpty() ? databasePath
+                                               : QFileInfo(paths.packageStatus).path())
+    , m_root(m_adminDir.endsWith(databasePath) ? m_adminDir.chopped(databasePath.size())
+                                               : QString())
+{
+}
+
+QString RVCtlDpkg::lockHolder() const
+{
+    QString holder;
+    // Who runs us as a front end says so, and holds that lock for us.
+    if (qEnvironmentVariableIsEmpty("DPKG_FRONTEND_LOCKED")) {
+        holder = holderOf(m_adminDir + QLatin1String("/lock-frontend"));
+    }
+    return holder.isEmpty() ? holderOf(m_adminDir + QLatin1String("/lock")) : holder;
+}
+
+bool RVCtlDpkg::hasJournal() const
+{
+    // Its parts are numbers; "tmp.i" is one that dpkg had only begun and passes over.
+    static const QRegularExpression number(QStringLiteral("\\A[0-9]+\\z"));
+    const QStringList names =
+        QDir(m_adminDir + QLatin1String("/updates")).entryList(QDir::Files | QDir::System);
+    return std::any_of(names.cbegin(), names.cend(), [](const QString &name) {
+        return number.match(name).hasMatch();
+    });
+}
+
+QStringList RVCtlDpkg::brokenPackages(const QStringList &repaired) const
+{
+    static const QStringList broken{
+        QStringLiteral("half-installed"),
+        QStringLiteral("half-configured"),
+        QStringLiteral("unpacked"),
+    };
+    QStringList result;
+    QFile file(m_adminDir + QLatin1String("/status"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return result;
+    }
+    QString package;
+    while (!file.atEnd()) {
+        const QByteArray line = file.readLine();
+        if (line.startsWith("Package:")) {
+            package = QString::fromUtf8(line.mid(8)).trimmed();
+        } else if (line.startsWith("Status:")) {
+            const QString state =
+                QString::fromUtf8(line).simplified().section(QLatin1Char(' '), 3, 3);
+            if (broken.contains(state) && !repaired.contains(package)) {
+                result.append(QStringLiteral("%1 is %2").arg(package, state));
+            }
+        }
+    }
+    return result;
+}
+
+QString RVCtlDpkg::repairCommand() const
+{
+    return m_root.isEmpty() ? QStringLiteral("dpkg --configure -a")
+                            : QStringLiteral("dpkg --root=%1 --configure -a").arg(m_root);
+}

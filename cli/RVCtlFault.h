@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QJsonObject>
+#include <QString>
+#include <QVector>
+
+#include "cli/RVCtlResult.h"
+
+class QNetworkReply;
+
+/// Why a file could not be had.
+struct RVCtlFault {
+    enum Kind {
+        None,
+        Network,
+        /// It came to an early end, or is not what its name says.
+        Damaged,
+        Space,
+        /// The place for it cannot be used.
+        Target,
+    };
+
+    static RVCtlFault ofReply(const QNetworkReply &reply);
+
+    Kind kind = None;
+    /// Qt 4's, of the network; else 0.
+    int code = 0;
+    QString text;
+
+    bool isSet() const { return kind != None; }
+    /// "code", "text" and "kind", or null.
+    QJsonValue toJson() const;
+
+    /// The exit code of a run in which nothing could be had.
+    static RVCtlExit exitFor(const QVector<RVCtlFault> &faults);
+};

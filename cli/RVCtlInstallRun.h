@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QJsonObject>
+#include <QNetworkReply>
+#include <QObject>
+#include <QProcess>
+#include <QUrl>
+#include <QVector>
+
+#include "cli/RVCtlBatch.h"
+#include "cli/RVCtlFault.h"
+#include "cli/RVCtlOutput.h"
+#include "cli/RVCtlProgress.h"
+
+class QAuthenticator;
+class RVCtlAccess;
+class RVInstallProc;
+
+/// One installation, as the window does it, from its first download to the end of its installer.
+/// Until the installer starts, the deadline ends it; from then on nothing does.
+class RVCtlInstallRun : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(RVCtlInstallRun)
+
+public:
+    RVCtlInstallRun(const RVCtlCall &call, RVCtlAccess *access, const RVCtlOffers &section,
+                    const RVCtlBatch &batch, int lockTimeoutSeconds);
+    ~RVCtlInstallRun() override;
+
+    /// Whether dpkg can work now: nobody holds its locks, or nobody does any more before the time
+    /// for waiting is up, and no interrupted run has to be repaired. False, and why, when not;
+    /// without a reason when the deadline is over.
+    bool awaitDatabase(QString *error);
+    /// Runs an event loop until there is nothing more to come.
+    void run();
+    /// `refreshed` says what went wrong before.
+    RVCtlResult result(const RVCtlResult &refreshed) const;
+
+private:
+    /// How far it came.
+    enum class Stage {
+        Downloading,
+        Installing,
+        Ended,
+    };
+
+    void networkError(const QNetworkReply *reply);
+    void authenticationRequired(QNetworkReply *reply, QAuthenticator *auth);
+    /// Everything is downloaded that can be: the last moment at which nothing is changed yet.
+    void beforeInstaller();
+    void judgeArchive(int index);
+    void end(int exitCode, QProcess::ExitStatus status);
+    int faults() const;
+    QJsonObject toJson() const;
+    void judge(RVCtlResult *result) const;
+
+    const RVCtlCall &m_call;
+    RVCtlAccess *m_access;
+    const RVRepository &m_repository;
+    const RVCtlBatch &m_batch;
+    const int m_lockTimeoutSeconds;
+    const bool m_isJson;
+
+    std::unique_ptr<RVInstallProc> m_process;
+    std::unique_ptr<RVCtlProgress> m_progress;
+    RVCtlOutput m_output;
+    Stage m_stage = Stage::Downloading;
+    /// One for each download.
+    QVector<RVCtlFault> m_faults;
+    /// Why the installer was not started in the last moment.
+    QString m_refusal;
+    bool m_isInstallerRun = false;
+    bool m_isCrashed = false;
+    int m_exitCode = 0;
+    QString m_startError;
+
+Q_SIGNALS:
+    void ended();
+};

@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "cli/RVCtlSpace.h"
+
+#include "core/RVPaths.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <limits>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include "cli/RVCtlBatch.h"
+#include "cli/RVCtlText.h"
+
+namespace
+{
+
+constexpr qint64 most = std::numeric_limits<qint64>::max();
+/// What unpacking a service pack leaves free.
+constexpr qint64 spareBytes = 64LL * 1024 * 1024;
+
+/// Of sizes that a server announces; what is not known is nothing.
+qint64 sum(qint64 a, qint64 b)
+{
+    a = qMax<qint64>(a, 0);
+    b = qMax<qint64>(b, 0);
+    return a > most - b ? most : a + b;
+}
+
+/// A package is written twice, once as it arrives and once beside the others of its batch; the
+/// first copy goes with its download, so that of all of them one is left for certain.
+qint64 temporaryBytes(const RVCtlBatch &batch)
+{
+    qint64 total = 0;
+    qint64 smallest = most;
+    for (const RVData &data : batch.downloads) {
+        const qint64 size = data.descriptor()->size();
+        const qint64 unpacked = data.descriptor()->unpackedSize();
+        total = sum(total, batch.isPackages() || unpacked < 0 ? size : unpacked);
+        smallest = qMin(smallest, qMax<qint64>(size, 0));
+    }
+    if (total == 0) {
+        return 0;
+    }
+    return sum(sum(total, smallest), batch.isPackages() ? 0 : spareBytes);
+}
+
+/// What is new comes on top; what replaces an older version needs its own size until that is gone.
+qint64 installedBytes(const RVCtlBatch &batch)
+{
+    qint64 added = 0;
+    qint64 replacing = 0;
+    for (const RVCtlOffers::Entry &entry : batch.updates) {
+        const qint64 size = entry.description ? entry.description->installedSize() : -1;
+        if (entry.proposal.installed.isEmpty()) {
+            added = sum(added, size);
+        } else {
+            replacing = qMax(replacing, size);
+        }
+    }
+    return sum(added, replacing);
+}
+
+bool isSameFileSystem(const QString &a, const QString &b)
+{
+    struct stat first = {};
+    struct stat second = {};
+    return ::stat(QFile::encodeName(a).constData(), &first) == 0
+        && ::stat(QFile::encodeName(b).constData(), &second) == 0 && first.st_dev == second.st_dev;
+}
+
+} // namespace
+
+qint64 RVCtlSpace::freeBytes(const QString &directory)
+{
+    struct statvfs status = {};
+    if (::statvfs(QFile::encodeName(directory).constData(), &status) != 0) {
+        return -1;
+    }
+    // A part is kept for root alone.
+    const quint64 blocks = ::geteuid() == 0 ? status.f_bfree : status.f_bavail;
+    const quint64 size = status.f_frsize;
+    return static_cast<qint64>(
+        size != 0 && blocks > static_cast<quint64>(most) / size ? most : blocks * size);
+}
+
+bool RVCtlSpace::fits(qint64 bytes, const QString &directory, QString *error)
+{
+    const qint64 available = freeBytes(directory);
+    if (available < 0 || bytes <= available) {
+        return true;
+    }
+    *error = QStringLiteral("There is not enough space in '%1': %2 are needed, %3 are free.")
+                 .arg(directory, RVCtlText::size(bytes), RVCtlText::size(available));
+    return false;
+}
+
+bool RVCtlSpace::fits(const RVCtlBatch &batch, const RVPaths &paths, QString *error)
+{
+    if (batch.isImage()) {
+        return true;
+    }
+    const QString temporary = QDir::tempPath();
+    const QString root = QFileInfo(paths.etcDir).path().isEmpty() ? QDir::rootPath()
+                                                                  : QFileInfo(paths.etcDir).path();
+    const qint64 forDownloads = temporaryBytes(batch);
+    const qint64 forInstallation = installedBytes(batch);
+    if (isSameFileSystem(temporary, root)) {
+        return fits(sum(forDownloads, forInstallation), temporary, error);
+    }
+    return fits(forDownloads, temporary, error) && fits(forInstallation, root, error);
+}
