@@ -174,13 +174,20 @@ RVLintDocument::Elements RVLintDocument::check(const QDomElement &scope, const R
     m_fields = fields;
     m_known = fields.all();
     m_elements.clear();
-    m_direct.clear();
+    m_nested.clear();
     walk(scope, {});
     for (const QString &tag : fields.values + fields.sizes) {
-        checkRepeated(m_direct.value(tag));
+        checkRepeated(m_elements.value(tag));
     }
     for (const QString &tag : fields.texts + fields.names) {
-        checkLanguages(m_direct.value(tag));
+        checkLanguages(m_elements.value(tag));
+    }
+    // One that stands in another field is reported as such; it is looked at where it is all there
+    // is. Looking at all of them would take the square of their depth.
+    for (auto it = m_nested.cbegin(); it != m_nested.cend(); ++it) {
+        if (!m_elements.contains(it.key())) {
+            m_elements[it.key()].append(it.value());
+        }
     }
     return m_elements;
 }
@@ -195,11 +202,11 @@ void RVLintDocument::walk(const QDomElement &parent, const QString &field)
             continue;
         }
         if (m_known.contains(tag)) {
-            m_elements[tag].append(element);
             if (field.isEmpty()) {
-                m_direct[tag].append(element);
+                m_elements[tag].append(element);
                 checkField(element);
             } else {
+                m_nested[tag] = element;
                 add(RVLintKind::FieldInField, element,
                     QStringLiteral("%1 in %2").arg(quoted(tag), quoted(field)));
             }
@@ -208,7 +215,7 @@ void RVLintDocument::walk(const QDomElement &parent, const QString &field)
         }
         if (m_fields.onlyInParts.contains(tag)) {
             add(RVLintKind::PatternOutsideFilter, element, quoted(tag));
-        } else if (field.isEmpty()) {
+        } else if (field.isEmpty() && !m_report->isFull(RVLintKind::ElementUnknown, m_file)) {
             const QString better = meant(tag, m_known + m_fields.parts + m_fields.onlyInParts);
             add(RVLintKind::ElementUnknown, element,
                 better.isEmpty()

@@ -47,7 +47,8 @@ public:
     bool load(const QByteArray &document);
     QDomElement root() const { return m_xml.documentElement(); }
 
-    /// Reports what is wrong with the elements below `scope` as such; gives those that count.
+    /// Reports what is wrong with the elements below `scope` as such; gives those that hold its
+    /// fields.
     Elements check(const QDomElement &scope, const RVLintFields &fields);
     /// The content of one element, as the engine reads it.
     QString valueOf(const QDomElement &element);
@@ -80,6 +81,6 @@ private:
     RVLintFields m_fields;
     QStringList m_known;
     Elements m_elements;
-    /// Those that do not stand in another field.
-    Elements m_direct;
+    /// The last one of each name that stands in another field.
+    QHash<QString, QDomElement> m_nested;
 };

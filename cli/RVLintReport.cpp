@@ -268,8 +268,16 @@ QJsonObject RVLintFinding::toJson() const
     };
 }
 
+bool RVLintReport::isFull(RVLintKind kind, const QString &file) const
+{
+    return m_counts.value({file, static_cast<int>(kind)}) > mostOfOneKind;
+}
+
 void RVLintReport::add(RVLintKind kind, const QString &file, int line, const QString &detail)
 {
+    if (isFull(kind, file)) {
+        return;
+    }
     const QString whole =
         QStringLiteral("%1\n%2\n%3\n%4").arg(static_cast<int>(kind)).arg(line).arg(file, detail);
     if (m_known.contains(whole)) {
@@ -279,7 +287,7 @@ void RVLintReport::add(RVLintKind kind, const QString &file, int line, const QSt
     const int count = ++m_counts[{file, static_cast<int>(kind)}];
     if (count <= mostOfOneKind) {
         m_findings.append({kind, file, qMax(0, line), RVCtlText::shortened(detail, longestDetail)});
-    } else if (count == mostOfOneKind + 1) {
+    } else {
         m_findings.append({RVLintKind::MoreOfTheSame, file, qMax(0, line),
                            QLatin1String(RVLintRule::of(kind).id)});
     }

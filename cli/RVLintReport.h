@@ -142,6 +142,8 @@ public:
     static constexpr int mostOfOneKind = 20;
 
     void add(RVLintKind kind, const QString &file, int line = 0, const QString &detail = {});
+    /// Whether more of a kind in a file is passed over.
+    bool isFull(RVLintKind kind, const QString &file) const;
     /// What another report says, of one file or of all.
     void add(const RVLintReport &other, const QString &file = {});
     /// By file, line and kind.
