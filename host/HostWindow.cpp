@@ -19,6 +19,7 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSettings>
 #include <QSplitter>
@@ -470,7 +471,9 @@ void HostWindow::restoreState()
     const int width = fontMetrics().averageCharWidth();
     const int height = fontMetrics().height();
     setMinimumSize(qMax(640, width * 80), qMax(480, height * 26));
-    resize(qMax(1024, width * 130), qMax(700, height * 40));
+    // Room for the open section's list among half a dozen closed ones, where the screen has it.
+    resize(QSize(qMax(1024, width * 130), qMax(860, height * 50))
+               .boundedTo(screen()->availableSize()));
     m_splitter->setSizes({width * 22, width * 78, width * 30});
 
     const QSettings settings;

@@ -181,6 +181,8 @@ private:
     void startInstallation();
     void finishInstallation(const QStringList &lines, const QString &name);
     void refresh(const QString &buttonText);
+    void awaitMessage();
+    void closeMessage();
     void whenAsked(const char *className, const std::function<void(QDialog *)> &act);
     QList<QLineEdit *> loginFields() const;
     void answerLogin(const QString &user, const QString &password);
@@ -815,6 +817,25 @@ void Walk::whenAsked(const char *className, const std::function<void(QDialog *)>
     timer->start(10);
 }
 
+void Walk::awaitMessage()
+{
+    waitFor(
+        [] {
+            return dialog("RVErrorDialog");
+        },
+        QStringLiteral("message"));
+}
+
+void Walk::closeMessage()
+{
+    QTest::keyClick(dialog("RVErrorDialog"), Qt::Key_Escape);
+    waitFor(
+        [] {
+            return !dialog("RVErrorDialog");
+        },
+        QStringLiteral("end of the message"));
+}
+
 void Walk::refuseCertificate()
 {
     openSection(QStringLiteral("Security"));
@@ -835,18 +856,9 @@ void Walk::refuseCertificate()
         click(button(certificate, QStringLiteral("Reject Certificate")));
     });
     refresh(QStringLiteral("Refresh"));
-    waitFor(
-        [] {
-            return dialog("RVErrorDialog");
-        },
-        QStringLiteral("message"));
+    awaitMessage();
     screenshot(QStringLiteral("refused"));
-    QTest::keyClick(dialog("RVErrorDialog"), Qt::Key_Escape);
-    waitFor(
-        [] {
-            return !dialog("RVErrorDialog");
-        },
-        QStringLiteral("end of the message"));
+    closeMessage();
     button(m_section, QStringLiteral("Retry"));
 }
 
@@ -880,6 +892,9 @@ void Walk::answerLogin(const QString &user, const QString &password)
             return loginFields().size() == 2;
         },
         QStringLiteral("login"));
+    // That a login is required is said, too.
+    awaitMessage();
+    closeMessage();
     const QList<QLineEdit *> fields = loginFields();
     for (QLineEdit *field : fields) {
         field->clear();
@@ -1107,6 +1122,9 @@ void Walk::changeLocation()
 
 void Walk::restoreLocations()
 {
+    // The section behind HTTPS was not reached through that proxy.
+    awaitMessage();
+    closeMessage();
     showPage("RVAdvPage", Qt::Key_Down);
     click(button(options(), QStringLiteral("Restore Defaults")));
     screenshot(QStringLiteral("options-defaults"));
