@@ -3,6 +3,7 @@
 #include "cli/RVCtlCommand.h"
 
 #include "cli/RVCtlDetails.h"
+#include "cli/RVCtlDownload.h"
 #include "cli/RVCtlExplain.h"
 #include "cli/RVCtlInstall.h"
 #include "cli/RVCtlLint.h"
@@ -28,6 +29,7 @@ std::vector<std::unique_ptr<RVCtlCommand>> RVCtlCommand::all()
     commands.push_back(std::make_unique<RVCtlDetails>());
     commands.push_back(std::make_unique<RVCtlPlan>());
     commands.push_back(std::make_unique<RVCtlInstall>());
+    commands.push_back(std::make_unique<RVCtlDownload>());
     commands.push_back(std::make_unique<RVCtlLint>());
     commands.push_back(std::make_unique<RVCtlLocation>());
     commands.push_back(std::make_unique<RVCtlProxy>());

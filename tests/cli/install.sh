@@ -2,9 +2,9 @@
 # SPDX-FileCopyrightText: 2026 Ravel developers
 # SPDX-License-Identifier: GPL-2.0-or-later
 #
-# install.sh RAVELCTL BUILD_WORLD WORK_DIR: installs in the demo world, from local and remote
-# repositories, with real packages and the real dpkg: that an installation does what its plan says,
-# and every way in which one ends. One line a step, exit code 1 when one is not as it should be.
+# install.sh RAVELCTL BUILD_WORLD WORK_DIR: installs and downloads in the demo world, from local and
+# remote repositories, with real packages and the real dpkg: that an installation does what its plan
+# says, that a folder of downloads offers what its source does, and every way in which either ends. One line a step, exit code 1 when one is not as it should be.
 # shellcheck disable=SC2016  # what is in single quotes is for jq and the inner shell
 set -euo pipefail
 here=$(cd -- "$(dirname -- "$(readlink -f -- "$0")")" && pwd -P)
@@ -518,6 +518,124 @@ done
 check "so does the time" in_installer 0 timeout install plain
 answer=^C check "and the interrupt key" in_installer 0 terminal install plain
 answer=^H check "and the end of the terminal" in_installer 0 terminal install plain
+
+### Downloads
+fresh
+mirror=$work/mirror
+define mirror "file://$mirror"
+define packmirror "file://$mirror" xar
+define imagemirror "file://$mirror" 'dd\.gz'
+mkdir -- "$repos/awkward"
+define awkward "http://127.0.0.1:$(port plain)/awkward/"
+define awkftp "ftp://127.0.0.1:$(port ftp)/awkward/"
+define awklocal "file://$repos/awkward"
+for name in 'a b' 'pct%41' 'tool_1:2.0-1' 'ünï' '-dash' 'x#y' "it's" 'semi;colon' '$HOME' 'q?mark'; do
+  cp -- "$repos/packages/tc-audio_1.0-1_all.deb" "$repos/awkward/$name.deb"
+  printf '<update_data><name>%s</name><version>1</version><thin_client>all</thin_client></update_data>' \
+    "$(cksum <<<"$name" | cut -d' ' -f1)" > "$repos/awkward/$name.xml"
+done
+mkdir -- "$repos/hostile"
+cp -- "$repos/packages/tc-audio_1.0-1_all.deb" "$repos/evil.deb"
+printf '<update_data><name>evil</name><version>1</version><thin_client>all</thin_client></update_data>' > "$repos/evil.xml"
+printf '<a href="%s">a</a> <a href="%s">x</a>\n' '..%2f..%2fevil.deb' '..%2f..%2fevil.xml' > "$repos/hostile/index.html"
+define hostile "http://127.0.0.1:$(port plain)/hostile/"
+# What is offered, with the names of its files.
+listed()
+{
+  "$ravelctl" --json --root "$root" --definitions "$definitions" list "$@" 2>/dev/null \
+    | jq -c '[.repositories[0].entries[] | [.name, .version, .size, (.archive, .descriptor | sub(".*/"; ""))]] | sort' \
+    | /usr/bin/python3 -c 'import sys, urllib.parse; print(urllib.parse.unquote(sys.stdin.read()))'
+}
+# mirrors SECTION MIRROR [OPTION...]
+mirrors()
+{
+  local section=$1 copy=$2
+  shift 2
+  rm -rf -- "$mirror"
+  run 0 '([.files[] | .fetched and .error == null] | all) and (.files | length) > 1' download "$section" --all --to "$mirror" "$@"
+  check "  the folder offers the same" test "$(listed "$section" "$@")" = "$(listed "$copy")"
+  : > "$work/requests"
+  run 0 '[.files[].fetched] | any | not' download "$section" --all --to "$mirror" "$@"
+  check "  a second run fetches no archive" sh -c '! grep -qE "\.(deb|xar|gz)$" "$0"' "$work/requests"
+  check "  and no descriptor but the refresh's" sh -c '! grep "xml$" "$0" | grep -vE "^(login|proxy)" | sort | uniq -d | grep -q .' "$work/requests"
+  check "  nothing is left over" sh -c '! ls -A "$0" | grep -q "\.part$"' "$mirror"
+}
+mirrors plain mirror
+check "the files are the server's" sh -c 'cd "$0" && for file in *; do cmp "$file" "$1/$file" || exit 1; done' "$mirror" "$repos/packages"
+mirrors local mirror
+mirrors login mirror --user anna --password-file "$work/password"
+mirrors ftp mirror --user anna --password-file "$work/password"
+mirrors tls mirror --accept-fingerprint "$fingerprint"
+mirrors packs packmirror
+mirrors images imagemirror
+mirrors awkward mirror
+check "ten odd names" test "$(find "$mirror" -name '*.deb' | wc -l)" -eq 10
+mirrors awklocal mirror
+mirrors awkftp mirror --user anna --password-file "$work/password"
+"$ravelctl" --quiet --root "$root" proxy http "127.0.0.1:$(port proxy)" >/dev/null
+mirrors plain mirror --proxy-user anna --proxy-password-file "$work/password"
+"$ravelctl" --quiet --root "$root" proxy none >/dev/null
+rm -rf -- "$mirror"
+run 0 '[.files[].file] == ["tc-audio_1.0-1_all.xml", "tc-audio_1.0-1_all.deb"]' download plain tc-audio --to "$mirror"
+run 0 '(.files | length) == 8 and ([.files[] | select(.fetched)] | length) == 6' download plain --to "$mirror"
+run 0 '[.files[].fetched] | all' download plain --again --to "$mirror"
+run 0 '.installer.exitCode == 0' install mirror
+run 0 '.files == []' download plain --to "$mirror"
+fresh
+run 0 '[.files[] | select(.file | endswith("gz")) | .file] == ["tc-system-6.2.0.dd.gz", "tc-system-6.1.2.dd.gz"]' \
+  download images tc-system=6.1.2 tc-system=6.2.0 --to "$mirror"
+# Nothing is written outside, whatever lies in the folder or comes from a server.
+rm -rf -- "$mirror"
+mkdir -- "$mirror"
+echo untouched > "$work/victim"
+ln -s -- "$work/victim" "$mirror/tc-audio_1.0-1_all.deb"
+ln -s -- "$work/victim" "$mirror/tc-network_1.1-1_all.deb.part"
+mkfifo -- "$mirror/tc-browser_4.3-1_all.deb"
+run 8 '[.files[] | select(.error) | .error.kind] == ["target", "target"]' download plain --to "$mirror"
+check "  links are not written through" test "$(cat "$work/victim")" = untouched
+check "  nor kept" test -f "$mirror/tc-network_1.1-1_all.deb" -a ! -L "$mirror/tc-network_1.1-1_all.deb"
+run 1 '.error.text | contains("cannot be used")' download plain --to "$work/victim"
+rm -rf -- "$mirror"
+run 1 '[.files[] | .file, .error.kind] | unique == [null, "target"]' download hostile --all --to "$mirror/deep/folder"
+check "  names stay names" test -z "$(find "$work" -name 'evil*' ! -path "$repos/*")"
+rm -rf -- "$mirror"
+run 2 '.error.text | contains("--to")' download plain
+run 2 '.error.code == 2' download plain tc-audio --all --to "$mirror"
+run 2 '.error.code == 2' download plain tc-nothing --to "$mirror"
+run 3 '.error.code == 3' download gone --to "$mirror"
+run 3 '[.files[] | select(.error) | .error.code] | unique == [203]' download nodebs --to "$mirror"
+check "  no archive is there" sh -c '! ls -A "$0" | grep -qv "xml$"' "$mirror"
+run 8 '[.files[] | select(.error) | .file] == ["tc-audio_1.0-1_all.deb"]' download noaudio --to "$mirror"
+rm -rf -- "$mirror"
+run 4 '[.files[] | select(.error) | .error.kind] | unique == ["damaged"]' download short --to "$mirror"
+run 4 '[.files[] | select(.error) | .error.kind] == ["damaged"]' download odd tc-cut --to "$mirror"
+check "  no archive is there" sh -c '! ls -A "$0" | grep -qv "xml$"' "$mirror"
+run 5 '.error.text | contains("space")' download odd tc-huge --to "$mirror"
+rm -rf -- "$mirror"
+mkdir -- "$mirror"
+if [ -d "$work/small" ]; then
+  # The folder itself is the small disk.
+  status=0
+  timeout --kill-after=5 60 unshare --user --map-root-user --mount sh -c \
+    'mount -t tmpfs -o size=600k none "$0" && exec "$@"' "$mirror" "$ravelctl" --json --root "$root" \
+    --definitions "$definitions" download odd tc-whole --to "$mirror" >"$work/out" 2>"$work/err" || status=$?
+  check "a full disk ends a download" test "$status" -eq 5
+fi
+run 124 '.error.code == 124' --timeout 2 download slow --to "$mirror"
+check "  only a part is left" sh -c '! ls "$0" | grep -q "deb$"' "$mirror"
+rm -rf -- "$mirror"
+"$ravelctl" --root "$root" --definitions "$definitions" download slow --to "$mirror" >/dev/null 2>&1 &
+killed=$!
+for ((i = 0; i < 100; ++i)); do
+  ! ls "$mirror"/*.deb.part >/dev/null 2>&1 || break
+  sleep 0.1
+done
+run 1 '.error.text | contains("another program")' download plain --to "$mirror"
+kill -KILL "$killed"
+wait "$killed" 2>/dev/null || true
+check "  a killed run leaves only a part" sh -c 'ls "$0" | grep -q "deb\.part$" && ! ls "$0" | grep -q "deb$"' "$mirror"
+run 0 '[.files[].error] | unique == [null]' download plain --all --to "$mirror"
+check "  the next one completes it" sh -c '! ls -A "$0" | grep -q "\.part$"' "$mirror"
 
 echo "$runs runs, $cases as planned, $wrong wrong"
 [ "$wrong" -eq 0 ]

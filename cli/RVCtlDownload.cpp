@@ -1,0 +1,274 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "cli/RVCtlDownload.h"
+
+#include "repository/RVRepDesc.h"
+
+#include <QCommandLineParser>
+#include <QJsonArray>
+
+#include <algorithm>
+#include <limits>
+
+#include "cli/RVCtlAccess.h"
+#include "cli/RVCtlDeadline.h"
+#include "cli/RVCtlFetch.h"
+#include "cli/RVCtlFolder.h"
+#include "cli/RVCtlMessages.h"
+#include "cli/RVCtlOffers.h"
+#include "cli/RVCtlProgress.h"
+#include "cli/RVCtlSpace.h"
+#include "cli/RVCtlText.h"
+
+namespace
+{
+
+const QString toOption = QStringLiteral("to");
+const QString allOption = QStringLiteral("all");
+const QString againOption = QStringLiteral("again");
+
+/// One file of the folder-to-be.
+struct File {
+    QUrl url;
+    QByteArray name;
+    /// -1 when it is not known.
+    qint64 size = -1;
+    bool isArchive = false;
+    bool isPresent = false;
+    RVCtlFault fault;
+};
+
+QString urlText(const QUrl &url)
+{
+    return url.toString(QUrl::RemovePassword);
+}
+
+/// Any number of updates, also of a section in which one is picked: nothing is installed.
+bool select(const RVCtlOffers &section, const QStringList &names, bool isAll,
+            QVector<RVCtlOffers::Entry> *chosen, QString *error)
+{
+    if (names.isEmpty() && !isAll) {
+        return section.choose(names, chosen, error);
+    }
+    QVector<int> indices;
+    for (const QString &name : names) {
+        QVector<RVCtlOffers::Entry> one;
+        if (!section.choose({name}, &one, error)) {
+            return false;
+        }
+        indices.append(one.constFirst().index);
+    }
+    for (const RVCtlOffers::Entry &entry : section.entries()) {
+        if (entry.isOffered() && (isAll || indices.contains(entry.index))) {
+            chosen->append(entry);
+        }
+    }
+    return true;
+}
+
+RVCtlFault targetFault(const QString &text)
+{
+    RVCtlFault fault;
+    fault.kind = RVCtlFault::Target;
+    fault.text = text;
+    return fault;
+}
+
+void add(const QUrl &url, qint64 size, bool isArchive, QVector<File> *files)
+{
+    File file;
+    file.url = url;
+    file.name = RVCtlFolder::nameOf(url);
+    file.size = size;
+    file.isArchive = isArchive;
+    for (const File &other : qAsConst(*files)) {
+        if (other.url == url) {
+            // Service packs that share a descriptor, archives that two filters pick.
+            return;
+        }
+        if (!file.name.isEmpty() && other.name == file.name) {
+            file.fault = targetFault(QStringLiteral("Another file has the same name."));
+        }
+    }
+    if (file.name.isEmpty()) {
+        file.fault = targetFault(QStringLiteral("The address ends in no name for a file."));
+    }
+    files->append(file);
+}
+
+/// The descriptor before its archive: an archive that is there is described.
+QVector<File> filesOf(const QVector<RVCtlOffers::Entry> &chosen)
+{
+    QVector<File> files;
+    for (const RVCtlOffers::Entry &entry : chosen) {
+        if (!entry.descriptor.isEmpty() && entry.descriptor != entry.archive) {
+            add(entry.descriptor, -1, false, &files);
+        }
+        add(entry.archive, entry.description ? entry.description->size() : -1, true, &files);
+    }
+    return files;
+}
+
+QJsonObject toJson(const QVector<File> &files, const RVCtlFolder &folder)
+{
+    QJsonArray list;
+    for (const File &file : files) {
+        const bool isThere = !file.name.isEmpty() && !file.fault.isSet();
+        list.append(QJsonObject{
+            {QStringLiteral("url"), urlText(file.url)},
+            {QStringLiteral("file"),
+             file.name.isEmpty() ? QJsonValue() : QJsonValue(QFile::decodeName(file.name))},
+            {QStringLiteral("size"), isThere ? QJsonValue(folder.sizeOf(file.name)) : QJsonValue()},
+            {QStringLiteral("fetched"), isThere && !file.isPresent},
+            {QStringLiteral("error"), file.fault.toJson()},
+        });
+    }
+    return {{QStringLiteral("directory"), folder.path()}, {QStringLiteral("files"), list}};
+}
+
+QString toText(const QVector<File> &files)
+{
+    int fetched = 0;
+    int present = 0;
+    for (const File &file : files) {
+        present += file.isPresent ? 1 : 0;
+        fetched += file.isPresent || file.fault.isSet() ? 0 : 1;
+    }
+    return QStringLiteral("%1 files fetched, %2 already there.\n").arg(fetched).arg(present);
+}
+
+void judge(const QVector<File> &files, RVCtlResult *result)
+{
+    QVector<RVCtlFault> faults;
+    for (const File &file : files) {
+        if (file.fault.isSet()) {
+            faults.append(file.fault);
+        }
+    }
+    if (faults.isEmpty()) {
+        return;
+    }
+    const bool hasArchive = std::any_of(files.cbegin(), files.cend(), [](const File &file) {
+        return file.isArchive && !file.fault.isSet();
+    });
+    result->exit = hasArchive ? RVCtlExit::DoneInPart : RVCtlFault::exitFor(faults);
+    result->error = QStringLiteral("%1 of %2 files could not be downloaded: %3")
+                        .arg(faults.size())
+                        .arg(files.size())
+                        .arg(faults.constFirst().text);
+}
+
+/// As far as it is known.
+qint64 bytesToFetch(const QVector<File> &files)
+{
+    constexpr qint64 most = std::numeric_limits<qint64>::max();
+    qint64 total = 0;
+    for (const File &file : files) {
+        if (!file.isPresent && !file.fault.isSet() && file.size > 0) {
+            total = file.size > most - total ? most : total + file.size;
+        }
+    }
+    return total;
+}
+
+void fetchAll(const RVCtlCall &call, const RVCtlOffers &section, RVCtlAccess *access,
+              const RVCtlFolder &folder, QVector<File> *files)
+{
+    const qint64 total = bytesToFetch(*files);
+    RVCtlProgress progress(&call.messages, QStringLiteral("Retrieving updates"));
+    RVCtlFetch fetch(*section.section().repository, access, &call.deadline);
+    qint64 before = 0;
+    for (File &file : *files) {
+        if (file.isPresent || file.fault.isSet()) {
+            continue;
+        }
+        file.fault = fetch.fetch(file.url, file.name, folder, [&](qint64 received) {
+            if (total > 0) {
+                // A descriptor's size is not announced.
+                progress.show(
+                    qMin(total, before + qBound<qint64>(0, received, qMax<qint64>(0, file.size))),
+                    total);
+            }
+        });
+        if (call.deadline.isOver()) {
+            return;
+        }
+        before += qMax<qint64>(0, file.size);
+        if (file.fault.isSet()) {
+            call.messages.error(QStringLiteral("%1: %2").arg(urlText(file.url), file.fault.text));
+        }
+    }
+}
+
+} // namespace
+
+QList<QCommandLineOption> RVCtlDownload::options() const
+{
+    QList<QCommandLineOption> options{
+        {toOption, QStringLiteral("The folder; it is made when it is missing."),
+         QStringLiteral("DIR")},
+        {allOption, QStringLiteral("Download everything that is offered.")},
+        {againOption, QStringLiteral("Download also what is already there.")},
+    };
+    return options + RVCtlAccess::options();
+}
+
+RVCtlResult RVCtlDownload::run(const RVCtlCall &call)
+{
+    const QStringList names = call.arguments.mid(1);
+    const bool isAll = call.parser.isSet(allOption);
+    if (call.parser.value(toOption).isEmpty()) {
+        return RVCtlResult::failed(RVCtlExit::Usage,
+                                   QStringLiteral("--to names the folder to download into."));
+    }
+    if (isAll && !names.isEmpty()) {
+        return RVCtlResult::failed(RVCtlExit::Usage,
+                                   QStringLiteral("--all and names exclude each other."));
+    }
+    RVCtlResult result;
+    RVCtlAccess access(call.messages);
+    QList<RVCtlOffers> sections;
+    if (!RVCtlOffers::read(call, call.arguments.mid(0, 1), &access, &sections, &result)) {
+        return result;
+    }
+    const RVCtlOffers &section = sections.constFirst();
+    RVCtlOffers::judge(sections, &result);
+    if (section.failure().isSet()) {
+        return result;
+    }
+    QString error;
+    QVector<RVCtlOffers::Entry> chosen;
+    if (!select(section, names, isAll, &chosen, &error)) {
+        return RVCtlResult::failed(RVCtlExit::Usage, error);
+    }
+    RVCtlFolder folder;
+    if (!folder.open(call.parser.value(toOption), &error)) {
+        return RVCtlResult::failed(RVCtlExit::Failed, error);
+    }
+
+    QVector<File> files = filesOf(chosen);
+    for (File &file : files) {
+        const RVCtlFolder::State state =
+            file.fault.isSet() ? RVCtlFolder::Missing : folder.state(file.name);
+        file.isPresent = state == RVCtlFolder::Present && !call.parser.isSet(againOption);
+        if (state == RVCtlFolder::Foreign) {
+            file.fault =
+                targetFault(QStringLiteral("What has its name in the folder is no regular file."));
+        }
+    }
+    if (!RVCtlSpace::fits(bytesToFetch(files), folder.path(), &error)) {
+        return RVCtlResult::failed(RVCtlExit::NoSpace, error);
+    }
+    if (std::any_of(files.cbegin(), files.cend(), [](const File &file) {
+            return !file.isPresent && !file.fault.isSet();
+        })) {
+        fetchAll(call, section, &access, folder, &files);
+    }
+    if (call.deadline.isOver()) {
+        return result;
+    }
+    result.json = toJson(files, folder);
+    result.text = files.isEmpty() ? QStringLiteral("Nothing is new.\n") : toText(files);
+    judge(files, &result);
+    return result;
+}

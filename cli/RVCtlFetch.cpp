@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "cli/RVCtlFetch.h"
+
+#include "core/RVOrigin.h"
+#include "core/SpecialFile.h"
+#include "network/RVKeyring.h"
+#include "network/XNetworkAccessManager.h"
+#include "repository/RVRepository.h"
+
+#include <QEventLoop>
+#include <QNetworkRequest>
+
+#include <cerrno>
+
+#include "cli/RVCtlAccess.h"
+#include "cli/RVCtlArchive.h"
+#include "cli/RVCtlDeadline.h"
+#include "cli/RVCtlFolder.h"
+
+namespace
+{
+
+constexpr int pieceSize = 64 * 1024;
+/// Images are larger than what is spooled elsewhere.
+constexpr qint64 largestFile = qint64(64) << 30;
+
+bool isFtp(const QUrl &url)
+{
+    return url.scheme().compare(QLatin1String("ftp"), Qt::CaseInsensitive) == 0;
+}
+
+RVCtlFault ofDisk(int reason)
+{
+    RVCtlFault fault;
+    fault.kind = reason == ENOSPC || reason == EDQUOT ? RVCtlFault::Space : RVCtlFault::Target;
+    fault.text = QStringLiteral("The file cannot be stored: %1").arg(qt_error_string(reason));
+    return fault;
+}
+
+/// The next piece is on the disk, or errno says why not.
+bool copyAvailable(QNetworkReply *reply, QFile *part)
+{
+    QByteArray piece(pieceSize, Qt::Uninitialized);
+    qint64 length = 0;
+    while ((length = reply->read(piece.data(), piece.size())) > 0) {
+        errno = 0;
+        if (part->write(piece.constData(), length) != length) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool isSound(const QString &file, const QByteArray &name)
+{
+    const QByteArray lower = name.toLower();
+    if (lower.endsWith(".deb")) {
+        return RVCtlArchive::isWholePackage(file);
+    }
+    return !lower.endsWith(".xar") || RVCtlArchive::isServicePack(file);
+}
+
+} // namespace
+
+RVCtlFetch::RVCtlFetch(const RVRepository &repository, RVCtlAccess *access, RVCtlDeadline *deadline)
+    : m_repository(repository)
+    , m_access(access)
+    , m_deadline(deadline)
+    , m_manager(std::make_unique<XNetworkAccessManager>())
+{
+    m_manager->setKeyring(repository.keyring());
+    m_manager->bodyLimit = largestFile;
+    connect(m_manager.get(), &QNetworkAccessManager::authenticationRequired, this,
+            &RVCtlFetch::authenticationRequired);
+    connect(m_manager.get(), &QNetworkAccessManager::proxyAuthenticationRequired, this,
+            [this](const QNetworkProxy &proxy, QAuthenticator *auth) {
+                m_repository.keyring()->answer(proxy, auth);
+            });
+    connect(m_manager.get(), &QNetworkAccessManager::sslErrors, this,
+            [this](QNetworkReply *reply, const QList<QSslError> &errors) {
+                m_access->judge(reply, errors);
+            });
+}
+
+RVCtlFetch::~RVCtlFetch() = default;
+
+RVCtlFault RVCtlFetch::fetch(const QUrl &url, const QByteArray &name, const RVCtlFolder &folder,
+                             const std::function<void(qint64)> &progress)
+{
+    QFile part;
+    if (!folder.begin(name, &part)) {
+        return ofDisk(errno);
+    }
+    RVCtlFault fault = transfer(url, &part, progress);
+    if (!fault.isSet() && !m_deadline->isOver() && !isSound(folder.partPath(name), name)) {
+        fault.kind = RVCtlFault::Damaged;
+        fault.text = QStringLiteral("The archive is damaged or not complete.");
+    }
+    if (!fault.isSet() && !m_deadline->isOver() && !folder.complete(name, &part)) {
+        fault = ofDisk(errno);
+    }
+    if (fault.isSet()) {
+        folder.drop(name);
+    }
+    return fault;
+}
+
+RVCtlFault RVCtlFetch::transfer(const QUrl &from, QFile *part,
+                                const std::function<void(qint64)> &progress)
+{
+    QUrl url = from;
+    if (!m_repository.proxyHost().isEmpty() && m_repository.proxyPort() > 0) {
+        m_manager->setProxy(QNetworkProxy(
+            isFtp(url) ? QNetworkProxy::FtpCachingProxy : QNetworkProxy::HttpProxy,
+            m_repository.proxyHost(), static_cast<quint16>(m_repository.proxyPort())));
+    }
+    // Other schemes ask for credentials when the server wants them; ftp cannot.
+    if (isFtp(url) && isSameOrigin(url, m_repository.url()) && !m_access->user().isEmpty()
+        && !m_access->password().isEmpty()) {
+        url.setUserName(m_access->user());
+        url.setPassword(m_access->password());
+    }
+    if (isSpecialFile(url)) {
+        // Opening it would block; opening it as a directory fails.
+        url.setPath(url.path() + QLatin1Char('/'));
+    }
+
+    const std::unique_ptr<QNetworkReply> reply(m_manager->get(QNetworkRequest(url)));
+    RVCtlFault fault;
+    QEventLoop loop;
+    const auto take = [&] {
+        if (!fault.isSet() && !copyAvailable(reply.get(), part)) {
+            fault = ofDisk(errno == 0 ? EIO : errno);
+            reply->abort();
+        }
+        progress(part->pos());
+    };
+    connect(reply.get(), &QNetworkReply::readyRead, &loop, take);
+    connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
+    connect(m_deadline, &RVCtlDeadline::over, &loop, &QEventLoop::quit);
+    if (!reply->isFinished() && !m_deadline->isOver()) {
+        loop.exec();
+    }
+    if (!fault.isSet() && reply->error() != QNetworkReply::NoError) {
+        fault = RVCtlFault::ofReply(*reply);
+    } else if (!m_deadline->isOver()) {
+        take();
+    }
+    return fault;
+}
+
+void RVCtlFetch::authenticationRequired(QNetworkReply *reply, QAuthenticator *auth)
+{
+    const RVLogin login = !reply || isSameOrigin(reply->url(), m_repository.url())
+        ? RVLogin{m_access->user(), m_access->password()}
+        : m_repository.keyring()->login(originOf(reply->url()));
+    answerChallenge(login, reply, auth);
+}

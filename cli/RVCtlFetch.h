@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QFile>
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+#include "cli/RVCtlFault.h"
+
+class QUrl;
+class RVCtlAccess;
+class RVCtlDeadline;
+class RVCtlFolder;
+class RVRepository;
+class XNetworkAccessManager;
+
+/// Downloads files of one repository into a folder, one after the other, as the window would fetch
+/// them: through the same proxy, with the same logins.
+class RVCtlFetch : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(RVCtlFetch)
+
+public:
+    RVCtlFetch(const RVRepository &repository, RVCtlAccess *access, RVCtlDeadline *deadline);
+    ~RVCtlFetch() override;
+
+    /// Runs an event loop until the file is complete, or cannot be had, or the deadline is over.
+    /// `progress` gets the bytes so far.
+    RVCtlFault fetch(const QUrl &url, const QByteArray &name, const RVCtlFolder &folder,
+                     const std::function<void(qint64)> &progress);
+
+private:
+    RVCtlFault transfer(const QUrl &from, QFile *part, const std::function<void(qint64)> &progress);
+    void authenticationRequired(QNetworkReply *reply, class QAuthenticator *auth);
+
+    const RVRepository &m_repository;
+    RVCtlAccess *m_access;
+    RVCtlDeadline *m_deadline;
+    std::unique_ptr<XNetworkAccessManager> m_manager;
+};
