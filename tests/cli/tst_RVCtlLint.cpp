@@ -994,18 +994,23 @@ void tst_RVCtlLint::exitCodes()
 
 void tst_RVCtlLint::unreadableFile()
 {
-    const QTemporaryDir directory;
+    // Not below the test's own folder: the other user may have no way in there.
+    const QTemporaryDir directory(QStringLiteral("/tmp/ravel-lint-XXXXXX"));
     const World world(m_deb);
     world.write(directory.path());
     const QString path = directory.filePath(definition);
     QVERIFY(::chmod(QFile::encodeName(path).constData(), 0) == 0);
     QVERIFY(::chmod(QFile::encodeName(directory.path()).constData(), 0755) == 0);
-    // Where the program was built, the other user may have no way in.
-    const QString program = directory.filePath(QStringLiteral("ravelctl"));
-    QVERIFY(QFile::copy(QStringLiteral(RAVELCTL), program));
-    QVERIFY(::chmod(QFile::encodeName(program).constData(), 0755) == 0);
+    for (const QString &needed : {QStringLiteral(RAVELCTL), QStringLiteral(PLUME_CORE)}) {
+        const QString copy = directory.filePath(QFileInfo(needed).fileName());
+        QVERIFY2(QFile::copy(needed, copy), qUtf8Printable(needed));
+        QVERIFY(::chmod(QFile::encodeName(copy).constData(), 0755) == 0);
+    }
     const auto check = [&]() -> QString {
         QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("LD_LIBRARY_PATH"), QStringLiteral("."));
+        process.setProcessEnvironment(environment);
         process.start(QStringLiteral("./ravelctl"),
                       {QStringLiteral("--root"), QStringLiteral("root"), QStringLiteral("--json"),
                        QStringLiteral("lint")});
