@@ -5,6 +5,7 @@
 #include "archive/ImageQuestion.h"
 #include "archive/InstallScript.h"
 #include "core/RVLogger.h"
+#include "core/RVUrl.h"
 
 #include <QFileInfo>
 #include <QPointer>
@@ -106,7 +107,7 @@ bool ArchiveDDImage::extract(QIODevice *source) const
 void ArchiveDDImage::install(QProcess *proc)
 {
     RVLogger().log(5, "Preparing for image installation of '%s'",
-                   qUtf8Printable(m_url.toString(QUrl::RemovePassword)));
+                   RVLogger::oneLine(m_url).constData());
     const InstallCommand command = installCommand();
     if (command.program.isEmpty()) {
         failInstallation(proc, QStringLiteral("The image's file name holds a control character"),
@@ -154,7 +155,7 @@ InstallCommand ArchiveDDImage::installCommand() const
 
 QString ArchiveDDImage::fileName() const
 {
-    return QFileInfo(m_url.path()).fileName();
+    return RVUrl::fileName(m_url);
 }
 
 QByteArrayList ArchiveDDImage::proxyLines() const

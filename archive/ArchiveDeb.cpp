@@ -4,6 +4,7 @@
 
 #include "archive/InstallScript.h"
 #include "core/RVLogger.h"
+#include "core/RVUrl.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -73,7 +74,7 @@ ArchiveDeb::ArchiveDeb(const QUrl &url, QObject *parent, const RVPaths &paths)
     , m_handled(!url.isEmpty()
                 && QFileInfo(url.path()).suffix().compare(QLatin1String("deb"), Qt::CaseInsensitive)
                     == 0)
-    , m_fileName(QFileInfo(url.path()).fileName())
+    , m_fileName(RVUrl::fileName(url))
 {
 }
 

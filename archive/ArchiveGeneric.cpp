@@ -120,7 +120,7 @@ bool ArchiveGeneric::matchBackend(const QUrl &url, const RVPaths &paths)
         m_backend = backendFor<ArchiveDDImage>(url, paths);
     }
     if (!m_backend) {
-        const QByteArray text = url.toString(QUrl::RemovePassword).toUtf8();
+        const QByteArray text = RVLogger::oneLine(url);
         qWarning("Found no backend for archive format:\n  %s", text.constData());
         RVLogger().log(4, "Found no backend for archive format:\n  %s", text.constData());
     }

@@ -317,8 +317,7 @@ void ArchiveXar::install(QProcess *proc)
             break;
         }
     }
-    RVLogger().log(5, "Installing xar archive %s",
-                   qUtf8Printable(m_url.toString(QUrl::RemovePassword)));
+    RVLogger().log(5, "Installing xar archive %s", RVLogger::oneLine(m_url).constData());
     const InstallCommand command = installCommand();
     proc->start(command.program, {command.arguments.constFirst().arg(directory)});
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // Downloading a package of 300 MB for its installation, over HTTP and over FTP, against Qt's own
 // manager and readAll(): the memory that it takes, and the time. Each in a process of its own.
-#include "archive/RVInstallProc.h"
+#include "install/RVInstallProc.h"
 #include "tests/support/FtpServers.h"
 #include "tests/support/WebServers.h"
 

@@ -2,6 +2,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtl.h"
 
+#include "cli/RVCtlCommand.h"
+#include "cli/RVCtlDeadline.h"
+#include "cli/RVCtlMessages.h"
+#include "cli/RVCtlText.h"
+#include "cli/RVCtlWorld.h"
 #include "core/RVLogger.h"
 
 #include <QCommandLineParser>
@@ -10,12 +15,6 @@
 
 #include <algorithm>
 #include <cstdio>
-
-#include "cli/RVCtlCommand.h"
-#include "cli/RVCtlDeadline.h"
-#include "cli/RVCtlMessages.h"
-#include "cli/RVCtlText.h"
-#include "cli/RVCtlWorld.h"
 
 namespace
 {

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlAccess.h"
 
+#include "cli/RVCtlDeadline.h"
+#include "cli/RVCtlMessages.h"
+#include "cli/RVCtlPassword.h"
 #include "network/RVKeyring.h"
 #include "network/XServerCertificate.h"
 #include "repository/RVRepository.h"
@@ -12,10 +15,6 @@
 #include <QJsonArray>
 #include <QNetworkProxy>
 #include <QSslCertificate>
-
-#include "cli/RVCtlDeadline.h"
-#include "cli/RVCtlMessages.h"
-#include "cli/RVCtlPassword.h"
 
 namespace
 {

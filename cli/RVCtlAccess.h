@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "cli/RVCtlWorld.h"
+
 #include <QHash>
 #include <QJsonObject>
 #include <QList>
@@ -9,8 +11,6 @@
 #include <QSet>
 #include <QSslError>
 #include <QString>
-
-#include "cli/RVCtlWorld.h"
 
 class QCommandLineOption;
 class QCommandLineParser;

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlBatch.h"
 
-#include "archive/RVInstallProc.h"
+#include "core/RVUrl.h"
+#include "install/RVInstallProc.h"
 #include "repository/RVRepository.h"
 
 #include <QJsonArray>
@@ -77,7 +78,7 @@ QJsonObject RVCtlBatch::toJson() const
     for (const RVData &data : downloads) {
         const qint64 size = data.descriptor()->size();
         downloadObjects.append(QJsonObject{
-            {QStringLiteral("url"), data.archiveUrl().toString(QUrl::RemovePassword)},
+            {QStringLiteral("url"), RVUrl::shown(data.archiveUrl())},
             {QStringLiteral("size"), size < 0 ? QJsonValue() : QJsonValue(size)},
         });
     }

@@ -3,11 +3,10 @@
 #pragma once
 
 #include "archive/InstallScript.h"
+#include "cli/RVCtlOffers.h"
 
 #include <QJsonObject>
 #include <QStringList>
-
-#include "cli/RVCtlOffers.h"
 
 /// The chosen updates of a section, and what installing them takes: the plan of an installation.
 struct RVCtlBatch {

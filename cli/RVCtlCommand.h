@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "cli/RVCtlResult.h"
+
 #include <QCommandLineOption>
 #include <QList>
 #include <QStringList>
@@ -9,8 +11,6 @@
 #include <limits>
 #include <memory>
 #include <vector>
-
-#include "cli/RVCtlResult.h"
 
 class QCommandLineParser;
 class RVCtlDeadline;

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlDetails.h"
 
-#include "descriptor/DataXML.h"
-
-#include <QJsonArray>
-
 #include "cli/RVCtlAccess.h"
 #include "cli/RVCtlOffers.h"
 #include "cli/RVCtlText.h"
+#include "core/RVText.h"
+#include "core/RVUrl.h"
+#include "descriptor/DataXML.h"
+
+#include <QJsonArray>
 
 namespace
 {
@@ -37,19 +38,19 @@ QString toText(const RVCtlOffers::Entry &entry)
 {
     const DescriptorGeneric &descriptor = *entry.description;
     const auto list = [](const QStringList &texts) {
-        return RVCtlText::shortened(plain(texts).join(QLatin1String(", ")), longestText);
+        return RVText::shortened(plain(texts).join(QLatin1String(", ")), longestText);
     };
     QString text = RVCtlText::fields({
-        {QStringLiteral("Name"), RVCtlText::shortened(entry.name(), longestText)},
-        {QStringLiteral("Title"), RVCtlText::shortened(entry.title(), longestText)},
-        {QStringLiteral("Version"), RVCtlText::shortened(entry.version(), longestText)},
+        {QStringLiteral("Name"), RVText::shortened(entry.name(), longestText)},
+        {QStringLiteral("Title"), RVText::shortened(entry.title(), longestText)},
+        {QStringLiteral("Version"), RVText::shortened(entry.version(), longestText)},
         {QStringLiteral("Installed"),
          entry.proposal.installed.isEmpty() ? QStringLiteral("none") : entry.proposal.installed},
         {QStringLiteral("Offered"),
          entry.isOffered() ? QStringLiteral("yes")
                            : QStringLiteral("no: ") + reasonWord(entry.reason)},
-        {QStringLiteral("URI"), entry.descriptor.toString(QUrl::RemovePassword)},
-        {QStringLiteral("Archive"), entry.archive.toString(QUrl::RemovePassword)},
+        {QStringLiteral("URI"), RVUrl::shown(entry.descriptor)},
+        {QStringLiteral("Archive"), RVUrl::shown(entry.archive)},
         {QStringLiteral("For releases"), list(descriptor.baseReleases())},
         {QStringLiteral("For architectures"), list(descriptor.architectureList())},
         {QStringLiteral("For models"), list(descriptor.thinClientList())},
@@ -62,7 +63,7 @@ QString toText(const RVCtlOffers::Entry &entry)
         text += QStringLiteral("Service pack contents:\n");
     }
     for (const QString &line : contents.mid(0, mostContents)) {
-        text += QLatin1String("  ") + RVCtlText::safe(RVCtlText::shortened(line, longestText))
+        text += QLatin1String("  ") + RVText::safe(RVText::shortened(line, longestText))
             + QLatin1Char('\n');
     }
     if (contents.size() > mostContents) {
@@ -70,7 +71,7 @@ QString toText(const RVCtlOffers::Entry &entry)
     }
     const QString notes = RVCtlText::notes(descriptor.contentNotes({}));
     if (!notes.isEmpty()) {
-        text += QLatin1Char('\n') + RVCtlText::safeLines(notes) + QLatin1Char('\n');
+        text += QLatin1Char('\n') + RVText::safeLines(notes) + QLatin1Char('\n');
     }
     return text;
 }

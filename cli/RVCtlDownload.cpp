@@ -2,14 +2,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlDownload.h"
 
-#include "repository/RVRepDesc.h"
-
-#include <QCommandLineParser>
-#include <QJsonArray>
-
-#include <algorithm>
-#include <limits>
-
 #include "cli/RVCtlAccess.h"
 #include "cli/RVCtlDeadline.h"
 #include "cli/RVCtlFetch.h"
@@ -19,6 +11,14 @@
 #include "cli/RVCtlProgress.h"
 #include "cli/RVCtlSpace.h"
 #include "cli/RVCtlText.h"
+#include "core/RVUrl.h"
+#include "repository/RVRepDesc.h"
+
+#include <QCommandLineParser>
+#include <QJsonArray>
+
+#include <algorithm>
+#include <limits>
 
 namespace
 {
@@ -37,11 +37,6 @@ struct File {
     bool isPresent = false;
     RVCtlFault fault;
 };
-
-QString urlText(const QUrl &url)
-{
-    return url.toString(QUrl::RemovePassword);
-}
 
 /// Any number of updates, also of a section in which one is picked: nothing is installed.
 bool select(const RVCtlOffers &section, const QStringList &names, bool isAll,
@@ -115,7 +110,7 @@ QJsonObject toJson(const QVector<File> &files, const RVCtlFolder &folder)
     for (const File &file : files) {
         const bool isThere = !file.name.isEmpty() && !file.fault.isSet();
         list.append(QJsonObject{
-            {QStringLiteral("url"), urlText(file.url)},
+            {QStringLiteral("url"), RVUrl::shown(file.url)},
             {QStringLiteral("file"),
              file.name.isEmpty() ? QJsonValue() : QJsonValue(QFile::decodeName(file.name))},
             {QStringLiteral("size"), isThere ? QJsonValue(folder.sizeOf(file.name)) : QJsonValue()},
@@ -195,7 +190,8 @@ void fetchAll(const RVCtlCall &call, const RVCtlOffers &section, RVCtlAccess *ac
         }
         before += qMax<qint64>(0, file.size);
         if (file.fault.isSet()) {
-            call.messages.error(QStringLiteral("%1: %2").arg(urlText(file.url), file.fault.text));
+            call.messages.error(
+                QStringLiteral("%1: %2").arg(RVUrl::shown(file.url), file.fault.text));
         }
     }
 }

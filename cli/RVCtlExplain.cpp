@@ -2,16 +2,17 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlExplain.h"
 
+#include "cli/RVCtlAccess.h"
+#include "cli/RVCtlOffers.h"
+#include "cli/RVCtlText.h"
+#include "core/RVText.h"
+#include "core/RVUrl.h"
 #include "descriptor/DataXML.h"
 #include "repository/RVExplain.h"
 #include "repository/RVRepDesc.h"
 #include "repository/RVRepository.h"
 
 #include <QJsonArray>
-
-#include "cli/RVCtlAccess.h"
-#include "cli/RVCtlOffers.h"
-#include "cli/RVCtlText.h"
 
 namespace
 {
@@ -20,7 +21,7 @@ constexpr int longestList = 300;
 
 QString quoted(const QStringList &list)
 {
-    return RVCtlText::shortened(DataXML::plainText(list.join(QLatin1String(", "))), longestList);
+    return RVText::shortened(DataXML::plainText(list.join(QLatin1String(", "))), longestList);
 }
 
 QString orUnknown(const QString &text)
@@ -94,9 +95,9 @@ RVCtlResult RVCtlExplain::run(const RVCtlCall &call)
             const QString text = sentence(verdict, repository, system);
             rows.append({verdict.reason == RVEligibility::Offered ? QStringLiteral("yes")
                                                                   : QStringLiteral("no"),
-                         verdict.archive.fileName(), text});
+                         RVUrl::fileName(verdict.archive), text});
             archives.append(QJsonObject{
-                {QStringLiteral("archive"), verdict.archive.toString(QUrl::RemovePassword)},
+                {QStringLiteral("archive"), RVUrl::shown(verdict.archive)},
                 {QStringLiteral("offered"), verdict.reason == RVEligibility::Offered},
                 {QStringLiteral("reason"), reasonWord(verdict.reason)},
                 {QStringLiteral("text"), text},

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "cli/RVCtlResult.h"
+
 #include <QJsonObject>
 #include <QString>
 #include <QVector>
-
-#include "cli/RVCtlResult.h"
 
 class QNetworkReply;
 

@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlFetch.h"
 
+#include "cli/RVCtlAccess.h"
+#include "cli/RVCtlArchive.h"
+#include "cli/RVCtlDeadline.h"
+#include "cli/RVCtlFolder.h"
 #include "core/RVOrigin.h"
 #include "core/SpecialFile.h"
 #include "network/RVKeyring.h"
@@ -12,11 +16,6 @@
 #include <QNetworkRequest>
 
 #include <cerrno>
-
-#include "cli/RVCtlAccess.h"
-#include "cli/RVCtlArchive.h"
-#include "cli/RVCtlDeadline.h"
-#include "cli/RVCtlFolder.h"
 
 namespace
 {

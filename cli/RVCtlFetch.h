@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "cli/RVCtlFault.h"
+
 #include <QFile>
 #include <QObject>
 
 #include <functional>
 #include <memory>
-
-#include "cli/RVCtlFault.h"
 
 class QUrl;
 class RVCtlAccess;

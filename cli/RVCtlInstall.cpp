@@ -2,6 +2,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlInstall.h"
 
+#include "cli/RVCtlAccess.h"
+#include "cli/RVCtlBatch.h"
+#include "cli/RVCtlDeadline.h"
+#include "cli/RVCtlInstallRun.h"
+#include "cli/RVCtlMessages.h"
+#include "cli/RVCtlOffers.h"
+#include "cli/RVCtlSpace.h"
 #include "core/RVLogger.h"
 
 #include <QCommandLineParser>
@@ -13,14 +20,6 @@
 #include <csignal>
 #include <cstdio>
 #include <unistd.h>
-
-#include "cli/RVCtlAccess.h"
-#include "cli/RVCtlBatch.h"
-#include "cli/RVCtlDeadline.h"
-#include "cli/RVCtlInstallRun.h"
-#include "cli/RVCtlMessages.h"
-#include "cli/RVCtlOffers.h"
-#include "cli/RVCtlSpace.h"
 
 namespace
 {

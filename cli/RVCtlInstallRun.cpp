@@ -3,8 +3,16 @@
 #include "cli/RVCtlInstallRun.h"
 
 #include "archive/ImageQuestion.h"
-#include "archive/RVInstallProc.h"
+#include "cli/RVCtlAccess.h"
+#include "cli/RVCtlArchive.h"
+#include "cli/RVCtlDeadline.h"
+#include "cli/RVCtlDpkg.h"
+#include "cli/RVCtlMessages.h"
+#include "cli/RVCtlSpace.h"
+#include "cli/RVCtlText.h"
 #include "core/RVOrigin.h"
+#include "core/RVUrl.h"
+#include "install/RVInstallProc.h"
 #include "network/RVKeyring.h"
 #include "repository/RVRepository.h"
 
@@ -19,14 +27,6 @@
 
 #include <algorithm>
 #include <unistd.h>
-
-#include "cli/RVCtlAccess.h"
-#include "cli/RVCtlArchive.h"
-#include "cli/RVCtlDeadline.h"
-#include "cli/RVCtlDpkg.h"
-#include "cli/RVCtlMessages.h"
-#include "cli/RVCtlSpace.h"
-#include "cli/RVCtlText.h"
 
 namespace
 {
@@ -50,11 +50,6 @@ class Confirmed : public ImageQuestion
 public:
     bool confirmImageInstall() override { return true; }
 };
-
-QString urlText(const QUrl &url)
-{
-    return url.toString(QUrl::RemovePassword);
-}
 
 qint64 sizeOf(const RVData &data)
 {
@@ -221,7 +216,8 @@ void RVCtlInstallRun::networkError(const QNetworkReply *reply)
     for (int i = 0; i < m_faults.size(); ++i) {
         if (isSameFile(m_batch.downloads.at(i).archiveUrl(), url) && !m_faults.at(i).isSet()) {
             m_faults[i] = RVCtlFault::ofReply(*reply);
-            m_call.messages.error(QStringLiteral("%1: %2").arg(urlText(url), m_faults.at(i).text));
+            m_call.messages.error(
+                QStringLiteral("%1: %2").arg(RVUrl::shown(url), m_faults.at(i).text));
             return;
         }
     }
@@ -259,7 +255,7 @@ void RVCtlInstallRun::judgeArchive(int index)
     }
     // The procedure works in the directory of what it unpacked.
     const RVData &data = m_batch.downloads.at(index);
-    const QString name = QFileInfo(data.archiveUrl().path()).fileName();
+    const QString name = RVUrl::fileName(data.archiveUrl());
     const bool isPackage = name.endsWith(QLatin1String(".deb"), Qt::CaseInsensitive);
     RVCtlFault fault;
     if (isPackage) {
@@ -287,7 +283,8 @@ void RVCtlInstallRun::judgeArchive(int index)
         fault.text = QStringLiteral("The archive cannot be unpacked.");
     }
     m_faults[index] = fault;
-    m_call.messages.error(QStringLiteral("%1: %2").arg(urlText(data.archiveUrl()), fault.text));
+    m_call.messages.error(
+        QStringLiteral("%1: %2").arg(RVUrl::shown(data.archiveUrl()), fault.text));
 }
 
 void RVCtlInstallRun::end(int exitCode, QProcess::ExitStatus status)

@@ -2,17 +2,17 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "cli/RVCtlBatch.h"
+#include "cli/RVCtlFault.h"
+#include "cli/RVCtlOutput.h"
+#include "cli/RVCtlProgress.h"
+
 #include <QJsonObject>
 #include <QNetworkReply>
 #include <QObject>
 #include <QProcess>
 #include <QUrl>
 #include <QVector>
-
-#include "cli/RVCtlBatch.h"
-#include "cli/RVCtlFault.h"
-#include "cli/RVCtlOutput.h"
-#include "cli/RVCtlProgress.h"
 
 class QAuthenticator;
 class RVCtlAccess;

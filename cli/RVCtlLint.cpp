@@ -2,14 +2,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlLint.h"
 
-#include "repository/RVRepDesc.h"
-#include "repository/RVRepository.h"
-
-#include <QCommandLineParser>
-#include <QFile>
-#include <QFileInfo>
-#include <QJsonArray>
-
 #include "cli/RVCtlAccess.h"
 #include "cli/RVCtlDeadline.h"
 #include "cli/RVCtlMessages.h"
@@ -17,10 +9,18 @@
 #include "cli/RVCtlRefresh.h"
 #include "cli/RVCtlText.h"
 #include "cli/RVCtlWorld.h"
-#include "cli/RVLintDefinition.h"
-#include "cli/RVLintDescriptor.h"
-#include "cli/RVLintReport.h"
-#include "cli/RVLintRepository.h"
+#include "core/RVUrl.h"
+#include "lint/RVLintDefinition.h"
+#include "lint/RVLintDescriptor.h"
+#include "lint/RVLintReport.h"
+#include "lint/RVLintRepository.h"
+#include "repository/RVRepDesc.h"
+#include "repository/RVRepository.h"
+
+#include <QCommandLineParser>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
 
 namespace
 {
@@ -163,7 +163,7 @@ void Lint::checkSection(const RVCtlWorld::Section &section, const OSInfoBaseClas
     RVRepository &repository = *section.repository;
     QJsonObject object{
         {QStringLiteral("index"), section.index},
-        {QStringLiteral("location"), repository.url().toString(QUrl::RemovePassword)},
+        {QStringLiteral("location"), RVUrl::shown(repository.url())},
         {QStringLiteral("error"), QJsonValue()},
     };
     if (!repository.url().isEmpty()) {
@@ -181,7 +181,13 @@ void Lint::checkSection(const RVCtlWorld::Section &section, const OSInfoBaseClas
                 RVLintRepository::fileOf(repository.url()), refresh.failure().text));
         } else if (!m_call.deadline.isOver()) {
             lint.setSiblings(siblingsOf(section));
-            lint.check(refresh.descriptorFailures(), system, m_call.deadline);
+            QHash<QUrl, QString> notFetched;
+            for (const RVCtlRefresh::Failure &failure : refresh.descriptorFailures()) {
+                notFetched.insert(failure.url, failure.text);
+            }
+            lint.check(notFetched, system, [this] {
+                return m_call.deadline.isOver();
+            });
         }
     }
     m_repositories.append(object);

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlList.h"
 
-#include <QCommandLineParser>
-#include <QJsonArray>
-
 #include "cli/RVCtlAccess.h"
 #include "cli/RVCtlOffers.h"
 #include "cli/RVCtlText.h"
+#include "core/RVText.h"
+#include "core/RVUrl.h"
+
+#include <QCommandLineParser>
+#include <QJsonArray>
 
 namespace
 {
@@ -16,7 +18,7 @@ constexpr int longestCell = 60;
 
 QString cell(const QString &text)
 {
-    return RVCtlText::shortened(text, longestCell);
+    return RVText::shortened(text, longestCell);
 }
 
 QString mark(const RVCtlOffers::Entry &entry)
@@ -43,7 +45,7 @@ QString toText(const RVCtlOffers &section, bool all)
         if (!all && !entry.isOffered()) {
             continue;
         }
-        const QString name = entry.name().isEmpty() ? entry.archive.fileName() : entry.name();
+        const QString name = entry.name().isEmpty() ? RVUrl::fileName(entry.archive) : entry.name();
         QStringList row{mark(entry),
                         cell(name),
                         entry.proposal.installed.isEmpty() ? QStringLiteral("none")

@@ -2,18 +2,18 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlLocation.h"
 
+#include "cli/RVCtlMessages.h"
+#include "cli/RVCtlPassword.h"
+#include "cli/RVCtlText.h"
+#include "cli/RVCtlWorld.h"
 #include "core/RVLogger.h"
 #include "core/RVSettings.h"
+#include "core/RVUrl.h"
 #include "network/XNetworkAccessManager.h"
 #include "repository/RVRepDesc.h"
 #include "repository/RVRepository.h"
 
 #include <QSettings>
-
-#include "cli/RVCtlMessages.h"
-#include "cli/RVCtlPassword.h"
-#include "cli/RVCtlText.h"
-#include "cli/RVCtlWorld.h"
 
 namespace
 {
@@ -25,19 +25,14 @@ struct Location {
     QUrl standard;
 };
 
-QString urlText(const QUrl &url)
-{
-    return url.toString(QUrl::RemovePassword);
-}
-
 QString toText(const Location &location)
 {
     const bool isStandard = location.location == location.standard;
     return RVCtlText::fields({
         {QStringLiteral("Location"),
-         location.location.isEmpty() ? QStringLiteral("none") : urlText(location.location)},
+         location.location.isEmpty() ? QStringLiteral("none") : RVUrl::shown(location.location)},
         {QStringLiteral("Default"),
-         isStandard ? QStringLiteral("the same") : urlText(location.standard)},
+         isStandard ? QStringLiteral("the same") : RVUrl::shown(location.standard)},
         {QStringLiteral("Settings key"), location.settingsKey},
     });
 }
@@ -47,8 +42,8 @@ QJsonObject toJson(const Location &location)
     return {
         {QStringLiteral("index"), location.index},
         {QStringLiteral("settingsKey"), location.settingsKey},
-        {QStringLiteral("location"), urlText(location.location)},
-        {QStringLiteral("default"), urlText(location.standard)},
+        {QStringLiteral("location"), RVUrl::shown(location.location)},
+        {QStringLiteral("default"), RVUrl::shown(location.standard)},
         {QStringLiteral("isDefault"), location.location == location.standard},
     };
 }
@@ -122,7 +117,7 @@ RVCtlResult RVCtlLocation::run(const RVCtlCall &call)
                 QStringLiteral("'%1' is relative to wherever the program runs.").arg(text));
         }
         RVLogger().log(5, "New repository URI (%d) '%s'", section->index,
-                       RVLogger::oneLine(urlText(url)).constData());
+                       RVLogger::oneLine(url).constData());
         repository->setUrl(url);
         if (!areSettingsStored()) {
             return RVCtlResult::failed(RVCtlExit::Failed,

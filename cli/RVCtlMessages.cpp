@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlMessages.h"
 
+#include "core/RVText.h"
+
 #include <cstdio>
 #include <cstdlib>
-
-#include "cli/RVCtlText.h"
 
 namespace
 {
@@ -17,7 +17,7 @@ const RVCtlMessages *s_messages = nullptr;
 void print(const char *kind, const QString &text, const QString &status = QString())
 {
     std::fprintf(stderr, "%sravelctl: %s%s\n%s", status.isEmpty() ? "" : clearLine, kind,
-                 RVCtlText::safe(text).toLocal8Bit().constData(), status.toLocal8Bit().constData());
+                 RVText::safe(text).toLocal8Bit().constData(), status.toLocal8Bit().constData());
 }
 
 } // namespace

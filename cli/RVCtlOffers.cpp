@@ -2,7 +2,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlOffers.h"
 
+#include "cli/RVCtlAccess.h"
+#include "cli/RVCtlDeadline.h"
+#include "cli/RVCtlMessages.h"
 #include "core/RVOrigin.h"
+#include "core/RVText.h"
+#include "core/RVUrl.h"
 #include "descriptor/DataXML.h"
 #include "repository/RVExplain.h"
 #include "repository/RVRepDesc.h"
@@ -13,18 +18,8 @@
 
 #include <algorithm>
 
-#include "cli/RVCtlAccess.h"
-#include "cli/RVCtlDeadline.h"
-#include "cli/RVCtlMessages.h"
-#include "cli/RVCtlText.h"
-
 namespace
 {
-
-QString urlText(const QUrl &url)
-{
-    return url.toString(QUrl::RemovePassword);
-}
 
 QJsonValue textOrNull(const QString &text)
 {
@@ -83,8 +78,8 @@ QJsonObject RVCtlOffers::Entry::toJson() const
         {QStringLiteral("size"), size(description ? description->size() : -1)},
         {QStringLiteral("unpackedSize"), size(description ? description->unpackedSize() : -1)},
         {QStringLiteral("installedSize"), size(description ? description->installedSize() : -1)},
-        {QStringLiteral("archive"), urlText(archive)},
-        {QStringLiteral("descriptor"), textOrNull(urlText(descriptor))},
+        {QStringLiteral("archive"), RVUrl::shown(archive)},
+        {QStringLiteral("descriptor"), textOrNull(RVUrl::shown(descriptor))},
         {QStringLiteral("offered"), isOffered()},
         {QStringLiteral("preselected"), proposal.preselected},
         {QStringLiteral("reason"), reasonWord(reason)},
@@ -217,7 +212,7 @@ QJsonObject RVCtlOffers::toJson() const
     QJsonObject object{
         {QStringLiteral("index"), m_section.index},
         {QStringLiteral("title"), DataXML::plainText(m_section.definition->title.value({}))},
-        {QStringLiteral("location"), urlText(m_section.repository->url())},
+        {QStringLiteral("location"), RVUrl::shown(m_section.repository->url())},
         {QStringLiteral("selector"),
          m_section.definition->picksOne() ? QStringLiteral("PickOne") : QStringLiteral("PickAny")},
         {QStringLiteral("error"),
@@ -234,13 +229,13 @@ QJsonObject RVCtlOffers::toJson() const
 QString RVCtlOffers::heading() const
 {
     const QString title = DataXML::plainText(m_section.definition->title.value({}));
-    QString text = RVCtlText::safe(QStringLiteral("%1. %2 (%3)")
-                                       .arg(m_section.index)
-                                       .arg(title, urlText(m_section.repository->url())))
+    QString text = RVText::safe(QStringLiteral("%1. %2 (%3)")
+                                    .arg(m_section.index)
+                                    .arg(title, RVUrl::shown(m_section.repository->url())))
         + QLatin1Char('\n');
     if (m_failure.isSet()) {
-        text += RVCtlText::safe(
-                    QStringLiteral("   Error %1: %2").arg(m_failure.code).arg(m_failure.text))
+        text +=
+            RVText::safe(QStringLiteral("   Error %1: %2").arg(m_failure.code).arg(m_failure.text))
             + QLatin1Char('\n');
     }
     return text;
@@ -299,14 +294,15 @@ bool RVCtlOffers::read(const RVCtlCall &call, const QStringList &names, RVCtlAcc
     for (const RVCtlWorld::Section &section : qAsConst(named)) {
         if (isRemote(section.repository->url())) {
             call.messages.note(QStringLiteral("Retrieving data from repository %1")
-                                   .arg(urlText(section.repository->url())));
+                                   .arg(RVUrl::shown(section.repository->url())));
         }
         sections->append(RVCtlOffers(section, call.world.system(), access, &call.deadline));
         if (call.deadline.isOver()) {
             return false;
         }
         for (const RVCtlRefresh::Failure &failure : sections->constLast().descriptorFailures()) {
-            call.messages.warning(QStringLiteral("%1: %2").arg(urlText(failure.url), failure.text));
+            call.messages.warning(
+                QStringLiteral("%1: %2").arg(RVUrl::shown(failure.url), failure.text));
         }
     }
     return true;

@@ -2,16 +2,15 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "cli/RVCtlCommand.h"
+#include "cli/RVCtlRefresh.h"
+#include "cli/RVCtlWorld.h"
 #include "repository/RVEligibility.h"
 #include "repository/RVSelection.h"
 
 #include <QJsonObject>
 #include <QList>
 #include <QVector>
-
-#include "cli/RVCtlCommand.h"
-#include "cli/RVCtlRefresh.h"
-#include "cli/RVCtlWorld.h"
 
 class RVCtlAccess;
 

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlOutput.h"
 
-#include <QTextCodec>
-
 #include "cli/RVCtlMessages.h"
-#include "cli/RVCtlText.h"
+#include "core/RVText.h"
+
+#include <QTextCodec>
 
 namespace
 {
@@ -59,7 +59,7 @@ void RVCtlOutput::end()
 
 void RVCtlOutput::addLine()
 {
-    const QString line = RVCtlText::safe(m_line) + QLatin1Char('\n');
+    const QString line = RVText::safe(m_line) + QLatin1Char('\n');
     if (m_stream) {
         m_messages->setStatus(QString());
         std::fputs(line.toLocal8Bit().constData(), m_stream);

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlPassword.h"
 
+#include "cli/RVCtlDeadline.h"
+#include "core/RVText.h"
+
 #include <QElapsedTimer>
 #include <QFile>
 
@@ -12,9 +15,6 @@
 #include <poll.h>
 #include <termios.h>
 #include <unistd.h>
-
-#include "cli/RVCtlDeadline.h"
-#include "cli/RVCtlText.h"
 
 namespace
 {
@@ -162,7 +162,7 @@ bool RVCtlPassword::fromTerminal(const QString &user, const RVCtlDeadline &deadl
     bool read = false;
     {
         const SilentTerminal silent(terminal.number);
-        print(QStringLiteral("Password of %1: ").arg(RVCtlText::safe(user)).toLocal8Bit());
+        print(QStringLiteral("Password of %1: ").arg(RVText::safe(user)).toLocal8Bit());
         read = readLine(
             terminal.number, deadline.remaining(),
             [&silent] {

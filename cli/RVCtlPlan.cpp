@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlPlan.h"
 
-#include <QJsonArray>
-
 #include "cli/RVCtlAccess.h"
 #include "cli/RVCtlBatch.h"
 #include "cli/RVCtlOffers.h"
 #include "cli/RVCtlText.h"
+#include "core/RVText.h"
+#include "core/RVUrl.h"
+
+#include <QJsonArray>
 
 namespace
 {
@@ -30,20 +32,19 @@ QString toText(const RVCtlBatch &plan)
                                      : QStringLiteral("\nDownloads:\n");
     for (const RVData &data : plan.downloads) {
         const QString size = RVCtlText::size(data.descriptor()->size());
-        text += QLatin1String("  ")
-            + RVCtlText::safe(data.archiveUrl().toString(QUrl::RemovePassword))
+        text += QLatin1String("  ") + RVText::safe(RVUrl::shown(data.archiveUrl()))
             + (size.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(size)) + QLatin1Char('\n');
     }
     if (plan.installer.program.isEmpty()) {
         return text + QStringLiteral("\nThere is no installer for this archive.\n");
     }
     text += QStringLiteral("\nRuns:\n  ")
-        + RVCtlText::safe((QStringList(plan.installer.program) + plan.installerArguments())
-                              .join(QLatin1Char(' ')))
+        + RVText::safe((QStringList(plan.installer.program) + plan.installerArguments())
+                           .join(QLatin1Char(' ')))
         + QLatin1Char('\n');
     if (!plan.installer.script.isEmpty()) {
         text += QStringLiteral("\nRVinstall.sh:\n")
-            + RVCtlText::safeLines(QString::fromUtf8(plan.installer.script));
+            + RVText::safeLines(QString::fromUtf8(plan.installer.script));
     }
     return text;
 }

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlProgress.h"
 
-#include <sys/ioctl.h>
-#include <unistd.h>
-
 #include "cli/RVCtlMessages.h"
 #include "cli/RVCtlText.h"
+
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 namespace
 {

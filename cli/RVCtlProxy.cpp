@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlProxy.h"
 
+#include "cli/RVCtlText.h"
 #include "core/RVLogger.h"
 #include "repository/RVProxySettings.h"
 
 #include <QJsonArray>
 #include <QUrl>
-
-#include "cli/RVCtlText.h"
 
 namespace
 {

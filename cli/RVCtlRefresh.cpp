@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlRefresh.h"
 
+#include "cli/RVCtlAccess.h"
+#include "cli/RVCtlDeadline.h"
+#include "core/RVUrl.h"
 #include "network/XNetworkError.h"
 #include "network/XNetworkReply.h"
 #include "repository/RVRepository.h"
@@ -16,15 +19,12 @@ constexpr int lookIntervalMs = 50;
 
 } // namespace
 
-#include "cli/RVCtlAccess.h"
-#include "cli/RVCtlDeadline.h"
-
 QJsonObject RVCtlRefresh::Failure::toJson() const
 {
     QJsonObject object{
         {QStringLiteral("code"), code},
         {QStringLiteral("text"), text},
-        {QStringLiteral("url"), url.toString(QUrl::RemovePassword)},
+        {QStringLiteral("url"), RVUrl::shown(url)},
     };
     if (!certificate.isEmpty()) {
         object.insert(QStringLiteral("certificate"), certificate);

@@ -2,22 +2,18 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlRepos.h"
 
+#include "cli/RVCtlText.h"
+#include "cli/RVCtlWorld.h"
+#include "core/RVText.h"
+#include "core/RVUrl.h"
 #include "descriptor/DataXML.h"
 #include "repository/RVRepDesc.h"
 #include "repository/RVRepository.h"
 
 #include <QJsonArray>
 
-#include "cli/RVCtlText.h"
-#include "cli/RVCtlWorld.h"
-
 namespace
 {
-
-QString locationText(const QUrl &url)
-{
-    return url.toString(QUrl::RemovePassword);
-}
 
 QString selectorOf(const RVRepDesc &definition)
 {
@@ -39,8 +35,8 @@ QJsonObject toJson(const RVCtlWorld::Section &section)
         {QStringLiteral("title"), DataXML::plainText(definition.title.value({}))},
         {QStringLiteral("description"), DataXML::plainText(definition.description.value({}))},
         {QStringLiteral("locationLabel"), DataXML::plainText(definition.uriDescription.value({}))},
-        {QStringLiteral("location"), locationText(section.repository->url())},
-        {QStringLiteral("default"), locationText(definition.defaultUri)},
+        {QStringLiteral("location"), RVUrl::shown(section.repository->url())},
+        {QStringLiteral("default"), RVUrl::shown(definition.defaultUri)},
         {QStringLiteral("settingsKey"), definition.settingsKey},
         {QStringLiteral("selector"), selectorOf(definition)},
         {QStringLiteral("filters"), filters},
@@ -52,8 +48,8 @@ QJsonObject toJson(const RVCtlWorld::Section &section)
 QString toText(const RVCtlWorld::Section &section)
 {
     const RVRepDesc &definition = *section.definition;
-    const QString location = locationText(section.repository->url());
-    const QString standard = locationText(definition.defaultUri);
+    const QString location = RVUrl::shown(section.repository->url());
+    const QString standard = RVUrl::shown(definition.defaultUri);
     QVector<QPair<QString, QString>> fields{
         {QStringLiteral("   Location"), location.isEmpty() ? QStringLiteral("none") : location},
         {QStringLiteral("   Default"), location == standard ? QString() : standard},
@@ -66,9 +62,9 @@ QString toText(const RVCtlWorld::Section &section)
                            + definition.descriptorPatterns.at(i)});
     }
     fields.append({QStringLiteral("   Icon"), definition.icon});
-    return RVCtlText::safe(QStringLiteral("%1. %2")
-                               .arg(section.index)
-                               .arg(DataXML::plainText(definition.title.value({}))))
+    return RVText::safe(QStringLiteral("%1. %2")
+                            .arg(section.index)
+                            .arg(DataXML::plainText(definition.title.value({}))))
         + QLatin1Char('\n') + RVCtlText::fields(fields);
 }
 

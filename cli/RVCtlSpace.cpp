@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlSpace.h"
 
+#include "cli/RVCtlBatch.h"
+#include "cli/RVCtlText.h"
 #include "core/RVPaths.h"
 
 #include <QDir>
@@ -13,9 +15,6 @@
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
-
-#include "cli/RVCtlBatch.h"
-#include "cli/RVCtlText.h"
 
 namespace
 {

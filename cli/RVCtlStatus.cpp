@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlStatus.h"
 
-#include <QJsonArray>
-
 #include "cli/RVCtlText.h"
 #include "cli/RVCtlWorld.h"
+
+#include <QJsonArray>
 
 namespace
 {

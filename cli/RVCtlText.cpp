@@ -3,6 +3,7 @@
 #include "cli/RVCtlText.h"
 
 #include "core/ByteSize.h"
+#include "core/RVText.h"
 #include "descriptor/DataXML.h"
 
 #include <QJsonDocument>
@@ -15,45 +16,6 @@ namespace
 
 /// Longer notes are nothing that anybody reads on a terminal.
 constexpr int longestNotes = 64 * 1024;
-
-bool isVisible(uint character)
-{
-    switch (QChar::category(character)) {
-    case QChar::Other_Control:
-    case QChar::Other_Format: // turns the order of what follows around, or hides it
-    case QChar::Other_Surrogate:
-    case QChar::Other_PrivateUse:
-    case QChar::Other_NotAssigned:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-        return false;
-    default:
-        return true;
-    }
-}
-
-QString escaped(uint character)
-{
-    const auto unit = [](uint value) {
-        return QStringLiteral("\\u%1").arg(value, 4, 16, QLatin1Char('0'));
-    };
-    return QChar::requiresSurrogates(character)
-        ? unit(QChar::highSurrogate(character)) + unit(QChar::lowSurrogate(character))
-        : unit(character);
-}
-
-QString visible(const QString &text, bool lines)
-{
-    QString result;
-    for (const uint character : text.toUcs4()) {
-        if (isVisible(character) || (lines && character == '\n')) {
-            result += QString::fromUcs4(&character, 1);
-        } else {
-            result += escaped(character);
-        }
-    }
-    return result;
-}
 
 int width(const QString &text)
 {
@@ -81,32 +43,10 @@ QString withoutTrailingBlanks(QString line)
 
 } // namespace
 
-QString RVCtlText::safe(const QString &text)
-{
-    return visible(text, false);
-}
-
-QString RVCtlText::safeLines(const QString &text)
-{
-    return visible(text, true);
-}
-
-QString RVCtlText::shortened(const QString &text, int length)
-{
-    if (text.size() <= length) {
-        return text;
-    }
-    QString result = text.left(length - 1);
-    if (result.at(result.size() - 1).isHighSurrogate()) {
-        result.chop(1);
-    }
-    return result + QChar(0x2026);
-}
-
 QByteArray RVCtlText::json(const QJsonObject &document)
 {
     // Whatever is not visible stands in a string, where its escape means the same.
-    return safeLines(QString::fromUtf8(QJsonDocument(document).toJson())).toUtf8();
+    return RVText::safeLines(QString::fromUtf8(QJsonDocument(document).toJson())).toUtf8();
 }
 
 QString RVCtlText::table(const QStringList &headings, const QVector<QStringList> &rows)
@@ -119,7 +59,7 @@ QString RVCtlText::table(const QStringList &headings, const QVector<QStringList>
     for (const QStringList &row : rows) {
         QStringList line;
         for (int column = 0; column < headings.size(); ++column) {
-            line.append(safe(row.value(column)));
+            line.append(RVText::safe(row.value(column)));
             widths[column] = qMax(widths.at(column), width(line.constLast()));
         }
         lines.append(line);
@@ -144,7 +84,7 @@ QString RVCtlText::fields(const QVector<QPair<QString, QString>> &fields)
     QString result;
     for (const auto &field : fields) {
         if (!field.second.isEmpty()) {
-            result += padded(field.first + QLatin1Char(':'), columns) + safe(field.second)
+            result += padded(field.first + QLatin1Char(':'), columns) + RVText::safe(field.second)
                 + QLatin1Char('\n');
         }
     }
@@ -164,7 +104,7 @@ QString RVCtlText::notes(const QString &html)
     static const QRegularExpression tag(QStringLiteral("</?[A-Za-z][^>]*>"));
     static const QRegularExpression blankLines(QStringLiteral("\n{3,}"));
 
-    QString text = shortened(html, longestNotes);
+    QString text = RVText::shortened(html, longestNotes);
     text.remove(QLatin1String("<![CDATA[")).remove(QLatin1String("]]>"));
     text.remove(hidden)
         .replace(item, QStringLiteral("\n- "))

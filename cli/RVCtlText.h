@@ -12,12 +12,6 @@
 namespace RVCtlText
 {
 
-/// On one line: every character that is no visible one becomes its code, "\u001b".
-QString safe(const QString &text);
-/// The same for each line of a text of several lines.
-QString safeLines(const QString &text);
-/// At most `length` characters, the last of them an ellipsis when something is left out.
-QString shortened(const QString &text, int length);
 /// A document that is printed to a terminal without harm; what is not visible is escaped.
 QByteArray json(const QJsonObject &document);
 /// Columns under their headings; the cells are made safe.

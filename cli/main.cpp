@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include <QCoreApplication>
-
 #include "cli/RVCtl.h"
+
+#include <QCoreApplication>
 
 int main(int argc, char *argv[])
 {

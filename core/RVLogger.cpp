@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "core/RVLogger.h"
 
+#include "core/RVText.h"
+#include "core/RVUrl.h"
+
 #include <QFile>
+#include <QVector>
 
 #include <cstdarg>
 #include <ctime>
@@ -133,19 +137,16 @@ void RVLogger::setPaths(const RVPaths &paths)
     }
 }
 
-QByteArray RVLogger::oneLine(QString text)
+QByteArray RVLogger::oneLine(const QString &text)
 {
-    for (QChar &c : text) {
-        switch (c.category()) {
-        case QChar::Other_Control:
-        case QChar::Other_Format: // reverses what follows it
-        case QChar::Separator_Line:
-        case QChar::Separator_Paragraph:
-            c = QLatin1Char('?');
-            break;
-        default:
-            break;
-        }
+    QVector<uint> characters = RVText::shortened(text, longestText).toUcs4();
+    for (uint &character : characters) {
+        character = RVText::isVisible(character) ? character : '?';
     }
-    return text.toUtf8();
+    return QString::fromUcs4(characters.constData(), characters.size()).toUtf8();
+}
+
+QByteArray RVLogger::oneLine(const QUrl &url)
+{
+    return oneLine(RVUrl::shown(url));
 }

@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QObject>
 #include <QString>
+#include <QUrl>
 
 #include <cstdio>
 
@@ -37,9 +38,13 @@ public:
     /// Moves the log to where `paths` says, closing one that is open elsewhere.
     static void setPaths(const RVPaths &paths);
 
-    /// A name that came from outside, in UTF-8 and on one line: control characters and the like
-    /// become '?', so that it cannot write entries of its own.
-    static QByteArray oneLine(QString text);
+    /// The characters that oneLine() keeps of a text.
+    static constexpr int longestText = 500;
+    /// A text that came from outside, in UTF-8 and on one line: what is not visible becomes '?', so
+    /// that it cannot write entries of its own, and a long one is cut.
+    static QByteArray oneLine(const QString &text);
+    /// A whole URL, without its password.
+    static QByteArray oneLine(const QUrl &url);
 
     /// The open log, or null.
     static std::FILE *m_stream;

@@ -128,7 +128,7 @@ bool DescriptorDeb::read(QIODevice *source)
         const AptErrors errors;
         if (!readControl(package.file(), &control)) {
             RVLogger().log(4, ".deb file control read failed, url %s",
-                           qUtf8Printable(m_url.toString(QUrl::RemovePassword)));
+                           RVLogger::oneLine(m_url).constData());
             return false;
         }
     }

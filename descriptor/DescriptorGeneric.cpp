@@ -42,7 +42,7 @@ bool DescriptorGeneric::matchBackend(const QUrl &url)
     }
     if (!backend) {
         RVLogger().log(4, "Found no backend for archive descriptor:\n  %s",
-                       qUtf8Printable(url.toString(QUrl::RemovePassword)));
+                       RVLogger::oneLine(url).constData());
         return false;
     }
     m_backend.reset(backend);

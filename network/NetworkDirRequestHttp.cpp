@@ -488,8 +488,7 @@ void NetworkDirRequestHttp::refusePage(QNetworkReply *transfer)
         return;
     }
     RVLogger().log(3, "Directory listing of '%s' is larger than %d bytes",
-                   transfer->url().toString(QUrl::RemovePassword).toUtf8().constData(),
-                   static_cast<int>(maximumPage));
+                   RVLogger::oneLine(transfer->url()).constData(), static_cast<int>(maximumPage));
     transfer->disconnect(this);
     transfer->abort();
     if (out) {
@@ -552,7 +551,7 @@ void NetworkDirRequestHttp::parseHtmlDirectory(QNetworkReply *reply, XNetworkRep
     const auto entries = entriesOf(reply->readAll(), reply->url());
     if (!entries) {
         RVLogger().log(4, "Page '%s' is too costly to read, its links are not listed",
-                       reply->url().toString(QUrl::RemovePassword).toUtf8().constData());
+                       RVLogger::oneLine(reply->url()).constData());
         return;
     }
     out->entries = *entries;

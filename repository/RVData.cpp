@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "repository/RVData.h"
 
+#include "core/RVLogger.h"
+
 namespace
 {
 
 void warnUnhandled(const char *kind, const QUrl &url)
 {
     qWarning("Repositories filters have selected %s URI", kind);
-    qWarning("  '%s',", qUtf8Printable(url.toString(QUrl::RemovePassword)));
+    qWarning("  '%s',", RVLogger::oneLine(url).constData());
     qWarning("  but that type is not actually handled by the libraries.");
 }
 

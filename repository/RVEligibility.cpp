@@ -31,8 +31,7 @@ bool fitsBaseRelease(const QStringList &releases, const QString &installed, cons
         // Beyond its own bound a pattern is not even looked at.
         length += 1 + qMin(release.size(), RVPattern::maxLength);
         if (length > maxPatternText) {
-            RVLogger().log(4, "Too many base releases: %s",
-                           qUtf8Printable(url.toString(QUrl::RemovePassword)));
+            RVLogger().log(4, "Too many base releases: %s", RVLogger::oneLine(url).constData());
             return false;
         }
         if (RVPattern::exactMatch(release, installed)) {

@@ -5,10 +5,10 @@
 #include "core/RVLogger.h"
 #include "core/RVOrigin.h"
 #include "core/RVSettings.h"
-#include "descriptor/RVDescFetch.h"
 #include "network/NetworkDirRequest.h"
 #include "network/XNetworkAccessManager.h"
 #include "network/XNetworkReply.h"
+#include "repository/RVDescFetch.h"
 #include "repository/RVFilter.h"
 #include "repository/RVRepDesc.h"
 
@@ -18,12 +18,6 @@
 
 namespace
 {
-
-/// For the log, which never shows a password.
-QByteArray loggable(const QUrl &url)
-{
-    return url.toString(QUrl::RemovePassword).toUtf8();
-}
 
 } // namespace
 
@@ -168,7 +162,7 @@ void RVRepository::refresh()
     dropRefresh();
     const int generation = m_generation;
     RVLogger log;
-    log.log(5, "Refreshing repository('%s')", loggable(m_url).constData());
+    log.log(5, "Refreshing repository('%s')", RVLogger::oneLine(m_url).constData());
     if (m_url.isEmpty()) {
         m_listing.clear();
         m_entries.clear();
@@ -245,8 +239,8 @@ void RVRepository::directoryFinished(XNetworkReply *reply)
     disconnect(this, nullptr, reply, nullptr);
     m_error = reply->error();
     m_entries.clear();
-    RVLogger().log(5, "Finished directory fetch('%s'), Err=%d", loggable(m_url).constData(),
-                   static_cast<int>(m_error));
+    RVLogger().log(5, "Finished directory fetch('%s'), Err=%d",
+                   RVLogger::oneLine(m_url).constData(), static_cast<int>(m_error));
     m_listing.clear();
     reply->deleteLater();
     if (m_error != QNetworkReply::NoError) {
@@ -284,7 +278,7 @@ void RVRepository::fetchDescriptors()
             return;
         }
     }
-    RVLogger().log(5, "Beginning descriptor fetch for '%s'", loggable(m_url).constData());
+    RVLogger().log(5, "Beginning descriptor fetch for '%s'", RVLogger::oneLine(m_url).constData());
     m_descFetch = new RVDescFetch(m_entries, m_user, m_password, this);
     m_descFetch->proxyHost = m_proxyHost;
     m_descFetch->proxyPort = m_proxyPort;
@@ -305,7 +299,7 @@ void RVRepository::fetchDescriptors()
 
 void RVRepository::descFetchFinished()
 {
-    RVLogger().log(5, "Descriptor fetch finished for '%s'", loggable(m_url).constData());
+    RVLogger().log(5, "Descriptor fetch finished for '%s'", RVLogger::oneLine(m_url).constData());
     if (m_descFetch) {
         m_descFetch->disconnect(this);
         disconnect(m_descFetch);

@@ -3,6 +3,7 @@
 #include "ui/ItemDetailsDialog.h"
 
 #include "core/ByteSize.h"
+#include "core/RVUrl.h"
 #include "descriptor/DataXML.h"
 #include "descriptor/DescriptorGeneric.h"
 #include "ui/NotesDocument.h"
@@ -201,7 +202,7 @@ QString ItemDetailsDialog::information() const
     }
     const QUrl &url = m_descriptor->url();
     if (!url.isEmpty()) {
-        addLine(tr("URI:  <b>%1</b>"), url.toString(QUrl::RemovePassword));
+        addLine(tr("URI:  <b>%1</b>"), RVUrl::shown(url));
     }
     const QStringList releases = m_descriptor->baseReleases();
     if (!releases.isEmpty()) {

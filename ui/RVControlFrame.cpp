@@ -4,6 +4,7 @@
 
 #include "core/OSInfoBaseClass.h"
 #include "core/RVOrigin.h"
+#include "core/RVUrl.h"
 #include "repository/RVEligibility.h"
 #include "repository/RVRepository.h"
 #include "ui/RVStyle.h"
@@ -506,7 +507,7 @@ void RVControlFrame::focusPage()
 
 void RVControlFrame::showLocation()
 {
-    const QString location = shown(m_repository->url().toDisplayString());
+    const QString location = shown(RVUrl::shown(m_repository->url()));
     m_retrievalLabel->setText(
         tr("Retrieving data from repository<br /> <i>%1</i>", "The argument is a repository URI.")
             .arg(location));

@@ -3,6 +3,7 @@
 #include "ui/RVErrorDialog.h"
 
 #include "core/RVLogger.h"
+#include "core/RVUrl.h"
 #include "network/XNetworkError.h"
 
 #include <QApplication>
@@ -29,8 +30,7 @@ RVErrorDialog::~RVErrorDialog() = default;
 
 void RVErrorDialog::showNetworkError(const QNetworkReply *reply)
 {
-    const QString text =
-        messageFor(qt4Error(reply->error()), reply->url().toString(QUrl::RemovePassword));
+    const QString text = messageFor(qt4Error(reply->error()), RVUrl::shown(reply->url()));
     if (text.isEmpty()) {
         return;
     }

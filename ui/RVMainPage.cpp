@@ -290,7 +290,7 @@ void RVMainPage::networkError(const QNetworkReply *reply)
     }
     m_reportedReply = reply;
     m_logger->log(3, "Network Error '%d' for '%s'", static_cast<int>(qt4Error(reply->error())),
-                  qUtf8Printable(reply->url().toDisplayString()));
+                  RVLogger::oneLine(reply->url()).constData());
     m_errorDialog->showNetworkError(reply);
 }
 

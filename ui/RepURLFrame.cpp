@@ -43,10 +43,10 @@ public:
     }
 };
 
-/// For the log, which never shows a password.
+/// For the log, which never shows a password: what the user typed, or the URL without it.
 QByteArray loggable(const QString &text, const QUrl &url)
 {
-    return (url.password().isEmpty() ? text : url.toString(QUrl::RemovePassword)).toUtf8();
+    return url.password().isEmpty() ? RVLogger::oneLine(text) : RVLogger::oneLine(url);
 }
 
 } // namespace

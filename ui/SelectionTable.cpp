@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "ui/SelectionTable.h"
 
-#include "archive/RVInstallProc.h"
 #include "core/OSInfoBaseClass.h"
 #include "core/RVLogger.h"
 #include "core/RVOrigin.h"
 #include "descriptor/DataXML.h"
+#include "install/RVInstallProc.h"
 #include "ui/BusyDialog.h"
 #include "ui/ItemDetailsDialog.h"
 #include "ui/RVChoiceItem.h"

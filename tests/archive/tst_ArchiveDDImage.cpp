@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "archive/ArchiveDDImage.h"
 #include "archive/ImageQuestion.h"
-#include "archive/RVInstallProc.h"
+#include "install/RVInstallProc.h"
 #include "tests/support/FakeRoot.h"
 #include "tests/support/LogFile.h"
 #include "tests/support/WarningGuard.h"

@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "descriptor/XmlCheck.h"
+#include "lint/RVLintDefinition.h"
+#include "lint/RVLintDescriptor.h"
+#include "lint/RVLintReport.h"
 #include "tests/support/DpkgRoot.h"
 #include "tests/support/FakeRoot.h"
 #include "tests/support/HttpServer.h"
@@ -20,10 +23,6 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include "cli/RVLintDefinition.h"
-#include "cli/RVLintDescriptor.h"
-#include "cli/RVLintReport.h"
 
 namespace
 {

@@ -50,6 +50,7 @@ private Q_SLOTS:
 
     void oneLine_data();
     void oneLine();
+    void oneLineOfAUrl();
     void headerAtTheFirstEntry();
     void headerAfterClose();
     void constructionOpens();
@@ -112,6 +113,15 @@ void tst_RVLogger::oneLine_data()
     QTest::newRow("C1 control") << QString(QChar(0x9b)) << QByteArray("?");
     QTest::newRow("line separator") << QString(QChar(0x2028)) << QByteArray("?");
     QTest::newRow("NUL") << QString(QChar(0)) << QByteArray("?");
+    QTest::newRow("right-to-left override") << QString(QChar(0x202e)) << QByteArray("?");
+    const uint tag = 0xe0041;
+    QTest::newRow("format character beyond the base plane")
+        << QString::fromUcs4(&tag, 1) << QByteArray("?");
+    QTest::newRow("half a character") << QString(QChar(0xd800)) << QByteArray("?");
+    const QString longest(RVLogger::longestText, QLatin1Char('a'));
+    QTest::newRow("as long as can be") << longest << longest.toUtf8();
+    QTest::newRow("longer") << longest + QLatin1Char('b')
+                            << longest.toUtf8().chopped(1) + "\xe2\x80\xa6";
 }
 
 void tst_RVLogger::oneLine()
@@ -119,6 +129,12 @@ void tst_RVLogger::oneLine()
     QFETCH(QString, text);
     QFETCH(QByteArray, expected);
     QCOMPARE(RVLogger::oneLine(text), expected);
+}
+
+void tst_RVLogger::oneLineOfAUrl()
+{
+    const QUrl url(QStringLiteral("http://me:secret@h/a%20b/%E2%80%AE%C2%9B%E2%80%A8#.deb"));
+    QCOMPARE(RVLogger::oneLine(url), QByteArray("http://me@h/a b/???#.deb"));
 }
 
 void tst_RVLogger::headerAtTheFirstEntry()

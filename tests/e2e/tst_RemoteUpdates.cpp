@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "archive/RVInstallProc.h"
+#include "install/RVInstallProc.h"
 #include "repository/RVRepository.h"
 #include "tests/support/DpkgRoot.h"
 #include "tests/support/FtpServers.h"

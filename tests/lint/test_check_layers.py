@@ -33,10 +33,18 @@ class CheckLayers(unittest.TestCase):
         self.assertTrue(self.found({"repository/A.h": "#include <plume/WizardPage.h>\n"}))
         self.assertFalse(self.found({"repository/A.h": "#include <plume/LocaleString.h>\n"}))
 
-    def test_single_file_exceptions(self):
-        include = '#include "repository/RVData.h"\n'
-        self.assertFalse(self.found({"archive/RVInstallProc.h": include}))
-        self.assertTrue(self.found({"archive/ArchiveDeb.h": include}))
+    def test_formats_know_neither_network_nor_each_other(self):
+        for header in ("network/XFtp.h", "repository/RVData.h", "archive/ArchiveDeb.h"):
+            self.assertTrue(self.found({"descriptor/A.h": f'#include "{header}"\n'}))
+        for header in ("network/XFtp.h", "repository/RVData.h", "descriptor/DescriptorDeb.h"):
+            self.assertTrue(self.found({"archive/A.h": f'#include "{header}"\n'}))
+        self.assertFalse(self.found({"archive/A.h": '#include "core/RVPaths.h"\n'}))
+
+    def test_linter_stands_on_the_engine_alone(self):
+        self.assertFalse(self.found({"lint/A.h": '#include "install/RVInstallProc.h"\n'}))
+        self.assertTrue(self.found({"lint/A.h": '#include "cli/RVCtlText.h"\n'}))
+        self.assertTrue(self.found({"install/A.h": '#include "lint/RVLintReport.h"\n'}))
+        self.assertFalse(self.found({"cli/A.h": '#include "lint/RVLintReport.h"\n'}))
 
     def test_fences(self):
         self.assertTrue(self.found({"core/RVLogger.cpp": "#include <apt-pkg/error.h>\n"}))

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "descriptor/RVDescFetch.h"
 #include "network/XNetworkAccessManager.h"
 #include "network/XNetworkReply.h"
+#include "repository/RVDescFetch.h"
 #include "repository/RVRepository.h"
 #include "tests/support/HttpServer.h"
 #include "tests/support/LogFile.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "descriptor/DescriptorGeneric.h"
-#include "descriptor/RVDescFetch.h"
+#include "repository/RVDescFetch.h"
 #include "repository/RVRepository.h"
 #include "tests/support/LogFile.h"
 #include "tests/support/WarningGuard.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "archive/RVInstallProc.h"
+#include "install/RVInstallProc.h"
 #include "repository/RVRepository.h"
 #include "tests/support/LogFile.h"
 #include "tests/support/WarningGuard.h"

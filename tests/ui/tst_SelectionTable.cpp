@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "archive/RVInstallProc.h"
 #include "core/RVOrigin.h"
+#include "install/RVInstallProc.h"
 #include "tests/support/HttpServer.h"
 #include "tests/support/LogFile.h"
 #include "tests/support/WarningGuard.h"

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVLintDefinition.h"
+#include "lint/RVLintDefinition.h"
 
 #include "core/RVPattern.h"
+#include "lint/RVLintDocument.h"
 #include "network/XNetworkAccessManager.h"
 #include "repository/RVDefinitions.h"
 #include "repository/RVRepDesc.h"
@@ -11,8 +12,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-
-#include "cli/RVLintDocument.h"
 
 namespace
 {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "descriptor/RVDescFetch.h"
 #include "descriptor/XmlCheck.h"
+#include "repository/RVDescFetch.h"
 #include "tests/support/BrokenDownload.h"
 #include "tests/support/HttpServer.h"
 #include "tests/support/InlineFtpServer.h"

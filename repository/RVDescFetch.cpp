@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "descriptor/RVDescFetch.h"
+#include "repository/RVDescFetch.h"
 
 #include "core/RVLogger.h"
 #include "core/RVOrigin.h"
@@ -18,17 +18,12 @@
 namespace
 {
 
-QByteArray forLog(const QUrl &url)
-{
-    return url.toString(QUrl::RemovePassword).toUtf8();
-}
-
 void boundXmlBody(QNetworkReply *reply)
 {
     QObject::connect(reply, &QNetworkReply::readyRead, reply, [reply] {
         if (reply->bytesAvailable() > XmlCheck::maxBytes) {
             RVLogger().log(4, "Descriptor larger than %d bytes, aborting %s", XmlCheck::maxBytes,
-                           forLog(reply->url()).constData());
+                           RVLogger::oneLine(reply->url()).constData());
             reply->abort();
         }
     });
@@ -105,8 +100,9 @@ void RVDescFetch::start(const RVData &entry)
     QUrl url = entry.descriptorUrl();
     DescriptorGeneric *descriptor = entry.descriptor().data();
     if (!descriptor) {
-        qCritical("Null descriptor in RVDescFetch for '%s'", forLog(url).constData());
-        RVLogger().log(3, "Null descriptor in RVDescFetch for '%s'", forLog(url).constData());
+        qCritical("Null descriptor in RVDescFetch for '%s'", RVLogger::oneLine(url).constData());
+        RVLogger().log(3, "Null descriptor in RVDescFetch for '%s'",
+                       RVLogger::oneLine(url).constData());
         return;
     }
     // Copies of one entry share the descriptor; the download in flight fills it for all of them.
@@ -114,7 +110,8 @@ void RVDescFetch::start(const RVData &entry)
         return;
     }
     if (isSpecialFile(url)) {
-        RVLogger().log(4, "Descriptor is not a regular file: %s", forLog(url).constData());
+        RVLogger().log(4, "Descriptor is not a regular file: %s",
+                       RVLogger::oneLine(url).constData());
         return;
     }
     const bool isFtp = url.scheme() == QLatin1String("ftp");
@@ -203,7 +200,7 @@ void RVDescFetch::relayNetworkError(QNetworkReply::NetworkError /*err*/)
 {
     const auto *reply = qobject_cast<QNetworkReply *>(sender());
     RVLogger().log(4, "Descriptor fetch error %d from %s", static_cast<int>(reply->error()),
-                   forLog(reply->url()).constData());
+                   RVLogger::oneLine(reply->url()).constData());
     Q_EMIT networkError(reply);
 }
 

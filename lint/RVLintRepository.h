@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "lint/RVLintDefinition.h"
 #include "network/XUrlInfo.h"
 #include "repository/RVData.h"
 
@@ -9,12 +10,10 @@
 #include <QSet>
 #include <QUrl>
 
-#include "cli/RVCtlRefresh.h"
-#include "cli/RVLintDefinition.h"
+#include <functional>
 
 class OSInfoBaseClass;
 class QNetworkReply;
-class RVCtlDeadline;
 class RVRepository;
 
 /// Checks what a refreshed repository lists: how archives and descriptors belong together, each
@@ -29,9 +28,10 @@ public:
     void checkDownload(QNetworkReply *reply);
     /// Other sections of the same location: what is for them is not out of place.
     void setSiblings(const QVector<RVLintDefinition::Section> &siblings);
-    /// `system` may be null: then nothing is said of what fits it. Ends early with the deadline.
-    void check(const QList<RVCtlRefresh::Failure> &failures, const OSInfoBaseClass *system,
-               const RVCtlDeadline &deadline);
+    /// `notFetched`: why a descriptor could not be had, by its address. `system` may be null: then
+    /// nothing is said of what fits it. Asks `isOver` for each entry, and ends early when it is.
+    void check(const QHash<QUrl, QString> &notFetched, const OSInfoBaseClass *system,
+               const std::function<bool()> &isOver);
 
     /// A path, or an address without its password.
     static QString fileOf(const QUrl &url);
@@ -45,8 +45,8 @@ private:
     bool isDescriptor(const XUrlInfo &item) const;
     /// Adds what stands behind the descriptor that an archive takes.
     void checkPairs(const QRegExp &archive, const QRegExp &descriptor, QSet<QUrl> *paired);
-    void checkEntries(const QList<RVCtlRefresh::Failure> &failures, const OSInfoBaseClass *system,
-                      const RVCtlDeadline &deadline);
+    void checkEntries(const QHash<QUrl, QString> &notFetched, const OSInfoBaseClass *system,
+                      const std::function<bool()> &isOver);
     void checkDescriptor(const RVData &entry, const QHash<QUrl, QString> &failures);
     void checkArchive(const RVData &entry);
     void checkPackage(const RVData &entry, const QString &path);

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVLintDocument.h"
+#include "lint/RVLintDocument.h"
 
 #include "descriptor/XmlCheck.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "archive/RVInstallProc.h"
 #include "core/RVLimits.h"
+#include "install/RVInstallProc.h"
 #include "tests/support/BrokenDownload.h"
 #include "tests/support/DpkgRoot.h"
 #include "tests/support/HttpServer.h"

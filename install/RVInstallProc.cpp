@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "archive/RVInstallProc.h"
+#include "install/RVInstallProc.h"
 
 #include "core/RVLimits.h"
 #include "core/RVLogger.h"
 #include "core/RVOrigin.h"
+#include "core/RVUrl.h"
 #include "core/SpecialFile.h"
 #include "descriptor/DescriptorGeneric.h"
 #include "network/XHttpReply.h"
@@ -190,7 +191,7 @@ void RVInstallProc::startDownload(int index)
     QUrl url = entry.archiveUrl();
     if (!archive->useExtract()) {
         RVLogger().log(4, "'%s' cannot be installed together with other updates",
-                       qUtf8Printable(url.toString(QUrl::RemovePassword)));
+                       RVLogger::oneLine(url).constData());
         return;
     }
 
@@ -295,8 +296,7 @@ void RVInstallProc::startInstallation()
     // goes away.
     const QSharedPointer<ArchiveGeneric> first = m_entries.first().archive();
     if (!first->urlIsHandled()) {
-        fail(QStringLiteral("There is no installer for '%1'")
-                 .arg(first->url().toString(QUrl::RemovePassword)));
+        fail(QStringLiteral("There is no installer for '%1'").arg(RVUrl::shown(first->url())));
         return;
     }
     connect(first.data(), &ArchiveGeneric::installStarted, this,

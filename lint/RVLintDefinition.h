@@ -3,12 +3,11 @@
 #pragma once
 
 #include "core/RVPaths.h"
+#include "lint/RVLintReport.h"
 
 #include <QHash>
 #include <QSharedPointer>
 #include <QVector>
-
-#include "cli/RVLintReport.h"
 
 class QDomElement;
 class RVLintDocument;

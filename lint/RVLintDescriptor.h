@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "cli/RVLintDocument.h"
+#include "lint/RVLintDocument.h"
 
 class DescriptorBaseClass;
 

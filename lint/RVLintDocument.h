@@ -3,11 +3,10 @@
 #pragma once
 
 #include "descriptor/DataXML.h"
+#include "lint/RVLintReport.h"
 
 #include <QHash>
 #include <QVector>
-
-#include "cli/RVLintReport.h"
 
 class QIODevice;
 

@@ -1,13 +1,15 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVLintRepository.h"
+#include "lint/RVLintRepository.h"
 
 #include "core/OSInfoBaseClass.h"
+#include "core/RVUrl.h"
 #include "core/XarToc.h"
 #include "descriptor/DataXML.h"
 #include "descriptor/DescriptorDeb.h"
 #include "descriptor/DescriptorXML.h"
 #include "descriptor/XmlCheck.h"
+#include "lint/RVLintDescriptor.h"
 #include "repository/RVEligibility.h"
 #include "repository/RVFilter.h"
 #include "repository/RVRepDesc.h"
@@ -20,9 +22,6 @@
 #include <algorithm>
 #include <fnmatch.h>
 
-#include "cli/RVCtlDeadline.h"
-#include "cli/RVLintDescriptor.h"
-
 namespace
 {
 
@@ -32,11 +31,6 @@ constexpr int mostVersions = 100;
 QUrl withoutLogin(const QUrl &url)
 {
     return url.adjusted(QUrl::RemoveUserInfo);
-}
-
-QString fileName(const QUrl &url)
-{
-    return QFileInfo(url.path()).fileName();
 }
 
 bool hasSuffix(const QUrl &url, const char *suffix)
@@ -60,7 +54,7 @@ bool isInstalledByScript(const ArchiveGeneric &archive, const QUrl &url)
     const QString pattern = word.match(script).captured(1);
     return pattern.isEmpty()
         || ::fnmatch(QFile::encodeName(pattern).constData(),
-                     QFile::encodeName(fileName(url)).constData(), FNM_PERIOD)
+                     QFile::encodeName(RVUrl::fileName(url)).constData(), FNM_PERIOD)
         == 0;
 }
 
@@ -91,7 +85,7 @@ RVLintRepository::RVLintRepository(const RVRepository &repository,
 
 QString RVLintRepository::fileOf(const QUrl &url)
 {
-    return url.isLocalFile() ? url.toLocalFile() : url.toString(QUrl::RemovePassword);
+    return url.isLocalFile() ? url.toLocalFile() : RVUrl::shown(url);
 }
 
 void RVLintRepository::checkDownload(QNetworkReply *reply)
@@ -135,8 +129,8 @@ void RVLintRepository::use(const QList<RVData> &entries)
     }
 }
 
-void RVLintRepository::check(const QList<RVCtlRefresh::Failure> &failures,
-                             const OSInfoBaseClass *system, const RVCtlDeadline &deadline)
+void RVLintRepository::check(const QHash<QUrl, QString> &notFetched, const OSInfoBaseClass *system,
+                             const std::function<bool()> &isOver)
 {
     const QList<XUrlInfo> &listing = m_repository.listing();
     const bool isEmpty = std::all_of(listing.cbegin(), listing.cend(), [](const XUrlInfo &item) {
@@ -149,7 +143,7 @@ void RVLintRepository::check(const QList<RVCtlRefresh::Failure> &failures,
     use(m_repository.entries());
     checkPatterns();
     checkListing();
-    checkEntries(failures, system, deadline);
+    checkEntries(notFetched, system, isOver);
     checkTogether();
     checkVersions();
     checkInstallers();
@@ -234,21 +228,23 @@ void RVLintRepository::checkPairs(const QRegExp &archive, const QRegExp &descrip
         if (first != item.name() && cores.contains(core)) {
             const QUrl url = RVFilter::urlOf(item);
             paired->insert(url);
-            m_report->add(RVLintKind::DescriptorAmbiguous, fileOf(url), 0, fileName(QUrl(first)));
+            m_report->add(RVLintKind::DescriptorAmbiguous, fileOf(url), 0,
+                          RVUrl::fileName(QUrl(first)));
         }
     }
 }
 
-void RVLintRepository::checkEntries(const QList<RVCtlRefresh::Failure> &failures,
-                                    const OSInfoBaseClass *system, const RVCtlDeadline &deadline)
+void RVLintRepository::checkEntries(const QHash<QUrl, QString> &notFetched,
+                                    const OSInfoBaseClass *system,
+                                    const std::function<bool()> &isOver)
 {
     QHash<QUrl, QString> reasons;
-    for (const RVCtlRefresh::Failure &failure : failures) {
-        reasons.insert(withoutLogin(failure.url), failure.text);
+    for (auto it = notFetched.cbegin(); it != notFetched.cend(); ++it) {
+        reasons.insert(withoutLogin(it.key()), it.value());
     }
     QSet<QUrl> seen;
     for (const RVData &entry : m_repository.entries()) {
-        if (deadline.isOver()) {
+        if (isOver()) {
             return;
         }
         if (seen.contains(entry.archiveUrl())) {
@@ -383,14 +379,14 @@ void RVLintRepository::checkTogether()
         const QUrl other = archiveOf.value(entry.descriptorUrl(), archive);
         if (other != archive) {
             m_report->add(RVLintKind::DescriptorShared, fileOf(entry.descriptorUrl()), 0,
-                          fileName(archive));
+                          RVUrl::fileName(archive));
         }
         archiveOf.insert(entry.descriptorUrl(), archive);
-        const QUrl namesake = byFileName.value(fileName(archive), archive);
+        const QUrl namesake = byFileName.value(RVUrl::fileName(archive), archive);
         if (namesake != archive) {
             m_report->add(RVLintKind::FileNamesCollide, fileOf(archive), 0, fileOf(namesake));
         }
-        byFileName.insert(fileName(archive), archive);
+        byFileName.insert(RVUrl::fileName(archive), archive);
     }
 }
 

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVLintReport.h"
+#include "lint/RVLintReport.h"
+
+#include "core/RVText.h"
 
 #include <algorithm>
 #include <tuple>
-
-#include "cli/RVCtlText.h"
 
 namespace
 {
@@ -252,7 +252,7 @@ QString RVLintFinding::toText() const
     if (!detail.isEmpty()) {
         text += QLatin1String(": ") + detail;
     }
-    return RVCtlText::safe(text) + QLatin1String(" [") + QLatin1String(rule.id) + QLatin1Char(']');
+    return RVText::safe(text) + QLatin1String(" [") + QLatin1String(rule.id) + QLatin1Char(']');
 }
 
 QJsonObject RVLintFinding::toJson() const
@@ -286,7 +286,7 @@ void RVLintReport::add(RVLintKind kind, const QString &file, int line, const QSt
     m_known.insert(whole);
     const int count = ++m_counts[{file, static_cast<int>(kind)}];
     if (count <= mostOfOneKind) {
-        m_findings.append({kind, file, qMax(0, line), RVCtlText::shortened(detail, longestDetail)});
+        m_findings.append({kind, file, qMax(0, line), RVText::shortened(detail, longestDetail)});
     } else {
         m_findings.append({RVLintKind::MoreOfTheSame, file, qMax(0, line),
                            QLatin1String(RVLintRule::of(kind).id)});

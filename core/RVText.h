@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 Ravel developers
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QString>
+
+/// Texts that come from outside: names, titles, notes and addresses of servers. Wherever one is
+/// shown it must not move the cursor, start a line of its own or be read in another order.
+namespace RVText
+{
+
+/// Not a control, format or separator character, nor one that has no meaning.
+bool isVisible(uint character);
+/// On one line: every character that is not visible becomes its code, "\u001b".
+QString safe(const QString &text);
+/// The same for each line of a text of several lines.
+QString safeLines(const QString &text);
+/// At most `length` characters, the last of them an ellipsis when something is left out.
+QString shortened(const QString &text, int length);
+
+} // namespace RVText
