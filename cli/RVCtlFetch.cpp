@@ -6,9 +6,6 @@
 #include "cli/RVCtlArchive.h"
 #include "cli/RVCtlDeadline.h"
 #include "cli/RVCtlFolder.h"
-#include "core/RVOrigin.h"
-#include "core/SpecialFile.h"
-#include "network/RVKeyring.h"
 #include "network/XNetworkAccessManager.h"
 #include "repository/RVRepository.h"
 
@@ -23,11 +20,6 @@ namespace
 constexpr int pieceSize = 64 * 1024;
 /// Images are larger than what is spooled elsewhere.
 constexpr qint64 largestFile = qint64(64) << 30;
-
-bool isFtp(const QUrl &url)
-{
-    return url.scheme().compare(QLatin1String("ftp"), Qt::CaseInsensitive) == 0;
-}
 
 RVCtlFault ofDisk(int reason)
 {
@@ -63,18 +55,19 @@ bool isSound(const QString &file, const QByteArray &name)
 } // namespace
 
 RVCtlFetch::RVCtlFetch(const RVRepository &repository, RVCtlAccess *access, RVCtlDeadline *deadline)
-    : m_repository(repository)
+    : m_source(repository.access())
     , m_access(access)
     , m_deadline(deadline)
     , m_manager(std::make_unique<XNetworkAccessManager>())
 {
-    m_manager->setKeyring(repository.keyring());
-    m_manager->bodyLimit = largestFile;
+    m_source.bodyLimit = largestFile;
     connect(m_manager.get(), &QNetworkAccessManager::authenticationRequired, this,
-            &RVCtlFetch::authenticationRequired);
+            [this](QNetworkReply *reply, QAuthenticator *auth) {
+                m_source.answer(reply, auth);
+            });
     connect(m_manager.get(), &QNetworkAccessManager::proxyAuthenticationRequired, this,
             [this](const QNetworkProxy &proxy, QAuthenticator *auth) {
-                m_repository.keyring()->answer(proxy, auth);
+                m_source.answer(proxy, auth);
             });
     connect(m_manager.get(), &QNetworkAccessManager::sslErrors, this,
             [this](QNetworkReply *reply, const QList<QSslError> &errors) {
@@ -105,27 +98,12 @@ RVCtlFault RVCtlFetch::fetch(const QUrl &url, const QByteArray &name, const RVCt
     return fault;
 }
 
-RVCtlFault RVCtlFetch::transfer(const QUrl &from, QFile *part,
+RVCtlFault RVCtlFetch::transfer(const QUrl &url, QFile *part,
                                 const std::function<void(qint64)> &progress)
 {
-    QUrl url = from;
-    if (!m_repository.proxyHost().isEmpty() && m_repository.proxyPort() > 0) {
-        m_manager->setProxy(QNetworkProxy(
-            isFtp(url) ? QNetworkProxy::FtpCachingProxy : QNetworkProxy::HttpProxy,
-            m_repository.proxyHost(), static_cast<quint16>(m_repository.proxyPort())));
-    }
-    // Other schemes ask for credentials when the server wants them; ftp cannot.
-    if (isFtp(url) && isSameOrigin(url, m_repository.url()) && !m_access->user().isEmpty()
-        && !m_access->password().isEmpty()) {
-        url.setUserName(m_access->user());
-        url.setPassword(m_access->password());
-    }
-    if (isSpecialFile(url)) {
-        // Opening it would block; opening it as a directory fails.
-        url.setPath(url.path() + QLatin1Char('/'));
-    }
-
-    const std::unique_ptr<QNetworkReply> reply(m_manager->get(QNetworkRequest(url)));
+    m_source.configure(m_manager.get(), url);
+    const std::unique_ptr<QNetworkReply> reply(
+        m_manager->get(QNetworkRequest(m_source.withLogin(url))));
     RVCtlFault fault;
     QEventLoop loop;
     const auto take = [&] {
@@ -147,12 +125,4 @@ RVCtlFault RVCtlFetch::transfer(const QUrl &from, QFile *part,
         take();
     }
     return fault;
-}
-
-void RVCtlFetch::authenticationRequired(QNetworkReply *reply, QAuthenticator *auth)
-{
-    const RVLogin login = !reply || isSameOrigin(reply->url(), m_repository.url())
-        ? RVLogin{m_access->user(), m_access->password()}
-        : m_repository.keyring()->login(originOf(reply->url()));
-    answerChallenge(login, reply, auth);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "cli/RVCtlFault.h"
+#include "network/RVAccess.h"
 
 #include <QFile>
 #include <QObject>
@@ -34,10 +35,9 @@ public:
                      const std::function<void(qint64)> &progress);
 
 private:
-    RVCtlFault transfer(const QUrl &from, QFile *part, const std::function<void(qint64)> &progress);
-    void authenticationRequired(QNetworkReply *reply, class QAuthenticator *auth);
+    RVCtlFault transfer(const QUrl &url, QFile *part, const std::function<void(qint64)> &progress);
 
-    const RVRepository &m_repository;
+    RVAccess m_source;
     RVCtlAccess *m_access;
     RVCtlDeadline *m_deadline;
     std::unique_ptr<XNetworkAccessManager> m_manager;

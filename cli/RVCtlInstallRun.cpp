@@ -10,10 +10,8 @@
 #include "cli/RVCtlMessages.h"
 #include "cli/RVCtlSpace.h"
 #include "cli/RVCtlText.h"
-#include "core/RVOrigin.h"
 #include "core/RVUrl.h"
 #include "install/RVInstallProc.h"
-#include "network/RVKeyring.h"
 #include "repository/RVRepository.h"
 
 #include <QCommandLineParser>
@@ -58,9 +56,7 @@ qint64 sizeOf(const RVData &data)
 
 bool isSameFile(const QUrl &a, const QUrl &b)
 {
-    // A pipe or device is asked for as a directory, which fails.
-    constexpr auto options = QUrl::RemoveUserInfo | QUrl::StripTrailingSlash;
-    return a.adjusted(options) == b.adjusted(options);
+    return a.adjusted(QUrl::RemoveUserInfo) == b.adjusted(QUrl::RemoveUserInfo);
 }
 
 } // namespace
@@ -132,22 +128,21 @@ bool RVCtlInstallRun::awaitDatabase(QString *error)
 void RVCtlInstallRun::run()
 {
     Confirmed confirmed;
-    m_process = std::make_unique<Installer>(m_batch.entries, m_access->user(), m_access->password(),
-                                            nullptr, m_call.world.paths());
-    m_process->proxyHost = m_repository.proxyHost();
-    m_process->proxyPort = m_repository.proxyPort();
-    m_process->credentialsFor = m_repository.url();
-    m_process->keyring = m_repository.keyring();
+    m_process = std::make_unique<Installer>(m_batch.entries, m_repository.user(),
+                                            m_repository.password(), nullptr, m_call.world.paths());
+    m_process->access = m_repository.access();
     m_process->imageQuestion = &confirmed;
     // What it writes stays in its order.
     m_process->setProcessChannelMode(QProcess::MergedChannels);
 
     connect(m_process.get(), &RVInstallProc::networkError, this, &RVCtlInstallRun::networkError);
     connect(m_process.get(), &RVInstallProc::authenticationRequired, this,
-            &RVCtlInstallRun::authenticationRequired);
+            [this](QNetworkReply *reply, QAuthenticator *auth) {
+                m_repository.access().answer(reply, auth);
+            });
     connect(m_process.get(), &RVInstallProc::proxyAuthenticationRequired, this,
             [this](const QNetworkProxy &proxy, QAuthenticator *auth) {
-                m_repository.keyring()->answer(proxy, auth);
+                m_repository.access().answer(proxy, auth);
             });
     connect(m_process.get(), &RVInstallProc::sslErrors, this,
             [this](QNetworkReply *reply, const QList<QSslError> &errors) {
@@ -221,15 +216,6 @@ void RVCtlInstallRun::networkError(const QNetworkReply *reply)
             return;
         }
     }
-}
-
-void RVCtlInstallRun::authenticationRequired(QNetworkReply *reply, QAuthenticator *auth)
-{
-    // The archive may lie on any other server.
-    const RVLogin login = !reply || isSameOrigin(reply->url(), m_repository.url())
-        ? RVLogin{m_access->user(), m_access->password()}
-        : m_repository.keyring()->login(originOf(reply->url()));
-    answerChallenge(login, reply, auth);
 }
 
 void RVCtlInstallRun::beforeInstaller()

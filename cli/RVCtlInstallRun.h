@@ -48,7 +48,6 @@ private:
     };
 
     void networkError(const QNetworkReply *reply);
-    void authenticationRequired(QNetworkReply *reply, QAuthenticator *auth);
     /// Everything is downloaded that can be: the last moment at which nothing is changed yet.
     void beforeInstaller();
     void judgeArchive(int index);

@@ -10,14 +10,6 @@
 #include "repository/RVRepository.h"
 
 #include <QEventLoop>
-#include <QTimer>
-
-namespace
-{
-
-constexpr int lookIntervalMs = 50;
-
-} // namespace
 
 QJsonObject RVCtlRefresh::Failure::toJson() const
 {
@@ -40,7 +32,10 @@ RVCtlRefresh::RVCtlRefresh(RVRepository *repository, RVCtlAccess *access, RVCtlD
     connect(repository, &RVRepository::networkError, this, &RVCtlRefresh::networkError);
     connect(repository, &RVRepository::refreshDone, this, [this] {
         m_done = true;
-        QMetaObject::invokeMethod(this, &RVCtlRefresh::checkEnd, Qt::QueuedConnection);
+    });
+    connect(repository, &RVRepository::refreshEnded, this, [this] {
+        m_ended = true;
+        Q_EMIT ended();
     });
     connect(repository, &RVRepository::sslErrors, this,
             [this](QNetworkReply *reply, const QList<QSslError> &errors) {
@@ -60,12 +55,7 @@ void RVCtlRefresh::run()
     QEventLoop loop;
     connect(this, &RVCtlRefresh::ended, &loop, &QEventLoop::quit);
     connect(m_deadline, &RVCtlDeadline::over, &loop, &QEventLoop::quit);
-    // Where no descriptor could even be asked for, there is no signal at all.
-    QTimer look;
-    connect(&look, &QTimer::timeout, this, &RVCtlRefresh::checkEnd);
-    look.start(lookIntervalMs);
     m_repository->refresh();
-    checkEnd();
     if (!m_ended && !m_deadline->isOver()) {
         loop.exec();
     }
@@ -97,15 +87,5 @@ void RVCtlRefresh::networkError(const QNetworkReply *reply)
         m_failure = failure;
     } else {
         m_descriptorFailures.append(failure);
-    }
-    // Where no refreshDone() follows, this was the last signal.
-    QMetaObject::invokeMethod(this, &RVCtlRefresh::checkEnd, Qt::QueuedConnection);
-}
-
-void RVCtlRefresh::checkEnd()
-{
-    if (!m_ended && !m_repository->isRefreshing()) {
-        m_ended = true;
-        Q_EMIT ended();
     }
 }

@@ -13,7 +13,7 @@ class RVCtlAccess;
 class RVCtlDeadline;
 class RVRepository;
 
-/// One refresh of one repository, from its start to its last signal, whichever that is.
+/// One refresh of one repository, from its start to its end.
 class RVCtlRefresh : public QObject
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ public:
     RVCtlRefresh(RVRepository *repository, RVCtlAccess *access, RVCtlDeadline *deadline);
     ~RVCtlRefresh() override;
 
-    /// Runs an event loop until the repository has nothing more to say, or time is up.
+    /// Runs an event loop until the refresh has ended, or time is up.
     void run();
 
     /// Why there is nothing to select from: the listing failed, or nothing could be described.
@@ -43,9 +43,11 @@ public:
     /// Single descriptors that could not be had.
     const QList<Failure> &descriptorFailures() const { return m_descriptorFailures; }
 
+Q_SIGNALS:
+    void ended();
+
 private:
     void networkError(const QNetworkReply *reply);
-    void checkEnd();
 
     RVRepository *m_repository;
     RVCtlAccess *m_access;
@@ -54,7 +56,4 @@ private:
     QList<Failure> m_descriptorFailures;
     bool m_done = false;
     bool m_ended = false;
-
-Q_SIGNALS:
-    void ended();
 };

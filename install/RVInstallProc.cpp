@@ -4,9 +4,7 @@
 
 #include "core/RVLimits.h"
 #include "core/RVLogger.h"
-#include "core/RVOrigin.h"
 #include "core/RVUrl.h"
-#include "core/SpecialFile.h"
 #include "descriptor/DescriptorGeneric.h"
 #include "network/XHttpReply.h"
 #include "network/XNetworkAccessManager.h"
@@ -52,20 +50,14 @@ qint64 boundedSum(qint64 a, qint64 b)
     return sum;
 }
 
-bool isFtp(const QUrl &url)
-{
-    return url.scheme().compare(QLatin1String("ftp"), Qt::CaseInsensitive) == 0;
-}
-
 } // namespace
 
 RVInstallProc::RVInstallProc(const QList<RVData> &entries, const QString &user,
                              const QString &password, QObject *parent, const RVPaths &paths)
     : QProcess(parent)
     , m_entries(withArchiveOnce(entries))
-    , m_user(user)
-    , m_password(password)
 {
+    access.login = {user, password};
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const QString &assignment : paths.installerEnvironment) {
         environment.insert(assignment.section(QLatin1Char('='), 0, 0),
@@ -188,7 +180,7 @@ void RVInstallProc::startDownload(int index)
 {
     const RVData &entry = m_entries.at(index);
     ArchiveGeneric *archive = entry.archive().data();
-    QUrl url = entry.archiveUrl();
+    const QUrl &url = entry.archiveUrl();
     if (!archive->useExtract()) {
         RVLogger().log(4, "'%s' cannot be installed together with other updates",
                        RVLogger::oneLine(url).constData());
@@ -196,12 +188,8 @@ void RVInstallProc::startDownload(int index)
     }
 
     auto *manager = new XNetworkAccessManager(this);
-    manager->setKeyring(keyring);
-    manager->inactivityLimit = inactivityLimit;
-    if (!proxyHost.isEmpty() && proxyPort > 0) {
-        manager->setProxy(
-            QNetworkProxy(isFtp(url) ? QNetworkProxy::FtpCachingProxy : QNetworkProxy::HttpProxy,
-                          proxyHost, static_cast<quint16>(proxyPort)));
+    access.configure(manager, url);
+    if (access.hasProxy()) {
         archive->setProxy(proxyHost, proxyPort);
     }
     connect(manager, &QNetworkAccessManager::authenticationRequired, this,
@@ -210,17 +198,7 @@ void RVInstallProc::startDownload(int index)
             &RVInstallProc::relayProxyAuthenticationRequired);
     connect(manager, &QNetworkAccessManager::sslErrors, this, &RVInstallProc::relaySslErrors);
 
-    // Other schemes ask for credentials when the server wants them; ftp cannot.
-    const bool isOurs = credentialsFor.isEmpty() || isSameOrigin(url, credentialsFor);
-    if (isFtp(url) && isOurs && !m_user.isEmpty() && !m_password.isEmpty()) {
-        url.setUserName(m_user);
-        url.setPassword(m_password);
-    }
-    if (isSpecialFile(url)) {
-        // Opening it would block the event loop; opening it as a directory fails at once.
-        url.setPath(url.path() + QLatin1Char('/'));
-    }
-    QNetworkReply *reply = manager->get(QNetworkRequest(url));
+    QNetworkReply *reply = manager->get(QNetworkRequest(access.withLogin(url)));
     if (reply->error() != QNetworkReply::NoError) {
         Q_EMIT networkError(reply);
         reply->abort();
@@ -301,7 +279,7 @@ void RVInstallProc::startInstallation()
     }
     connect(first.data(), &ArchiveGeneric::installStarted, this,
             &RVInstallProc::relayInstallStarted, Qt::UniqueConnection);
-    if (!proxyHost.isEmpty() && proxyPort > 0) {
+    if (access.hasProxy()) {
         first->setProxy(proxyHost, proxyPort);
     }
     first->setImageQuestion(imageQuestion);

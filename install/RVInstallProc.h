@@ -4,7 +4,7 @@
 
 #include "core/RVLimits.h"
 #include "core/RVPaths.h"
-#include "network/XSpooledReply.h"
+#include "network/RVAccess.h"
 #include "repository/RVData.h"
 
 #include <QList>
@@ -12,15 +12,12 @@
 #include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QProcess>
-#include <QSharedPointer>
 #include <QSslError>
-#include <QUrl>
 #include <QVector>
 
 #include <memory>
 
 class ImageQuestion;
-class RVKeyring;
 class TemporaryDir;
 
 /// Downloads and unpacks a batch of updates and is itself the process in which their installer
@@ -37,7 +34,7 @@ class RVInstallProc : public QProcess
     Q_DISABLE_COPY_MOVE(RVInstallProc)
 
 public:
-    /// The credentials go into ftp URLs, and only when both are set. Nothing is started.
+    /// The login of `access`. Nothing is started.
     RVInstallProc(const QList<RVData> &entries, const QString &user, const QString &password,
                   QObject *parent = nullptr, const RVPaths &paths = {});
     explicit RVInstallProc(const RVData &entry, QObject *parent = nullptr,
@@ -47,15 +44,10 @@ public:
     /// fetches itself; beside other archives an image is left out.
     static QList<RVData> downloads(const QList<RVData> &entries);
 
-    /// Written before start(); a port of 0 or less means no proxy.
-    QString proxyHost;
-    int proxyPort = -2;
-    /// Written before start(): the server that the credentials are for, any if it is empty, and
-    /// where logins for proxies are kept.
-    QUrl credentialsFor;
-    QSharedPointer<RVKeyring> keyring;
-    /// Milliseconds; see XSpooledReply::setInactivityLimit().
-    int inactivityLimit = XSpooledReply::defaultInactivityMs;
+    /// Written before start().
+    RVAccess access;
+    QString &proxyHost = access.proxyHost;
+    int &proxyPort = access.proxyPort;
     /// Written before start(); not owned, and alive until the installation has begun. Without one a
     /// full image is never installed.
     ImageQuestion *imageQuestion = nullptr;
@@ -115,8 +107,6 @@ private:
 
     /// Each with an archive, no archive twice. The copies keep the archives and descriptors alive.
     const QList<RVData> m_entries;
-    const QString m_user;
-    const QString m_password;
     State m_state = State::Idle;
     QString m_previousDir;
     std::unique_ptr<TemporaryDir> m_temporaryDir;

@@ -46,7 +46,7 @@ QString firstOf(const QString &own, const Texts &byUrl, const Texts &byHost, con
     return byHost.value(originOf(url), anonymous);
 }
 
-void remember(const QUrl &url, const Login &login)
+void remember(const QUrl &url, const RVLogin &login)
 {
     Remembered &all = remembered();
     all.userByUrl.insert(url.toString(), login.user);
@@ -60,7 +60,7 @@ void remember(const QUrl &url, const Login &login)
 
 } // namespace
 
-Login forUrl(const QUrl &url)
+RVLogin forUrl(const QUrl &url)
 {
     const Remembered &all = remembered();
     return {firstOf(url.userName(QUrl::FullyDecoded), all.userByUrl, all.userByHost, url,
@@ -70,7 +70,7 @@ Login forUrl(const QUrl &url)
 }
 
 Answer ask(XNetworkAccessManager *manager, QNetworkReply *reply, const QUrl &url,
-           const Login &refused)
+           const RVLogin &refused)
 {
     if (!manager || (!url.userName().isEmpty() && !url.password().isEmpty())) {
         return Refused;
@@ -82,7 +82,7 @@ Answer ask(XNetworkAccessManager *manager, QNetworkReply *reply, const QUrl &url
     if (authenticator.isNull() || authenticator.user().isEmpty()) {
         return Canceled;
     }
-    const Login given{authenticator.user(), authenticator.password()};
+    const RVLogin given{authenticator.user(), authenticator.password()};
     if (given == refused) {
         return Refused;
     }

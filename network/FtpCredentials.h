@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "network/RVLogin.h"
+
 #include <QNetworkProxy>
 #include <QString>
 
@@ -16,19 +18,9 @@ class XNetworkAccessManager;
 namespace FtpCredentials
 {
 
-struct Login {
-    QString user;
-    QString password;
-
-    bool operator==(const Login &other) const
-    {
-        return user == other.user && password == other.password;
-    }
-};
-
 /// User and password are looked for apart, each in the URL itself, then among what was given for
 /// this URL, then for its host and port; else they are those of an anonymous login.
-Login forUrl(const QUrl &url);
+RVLogin forUrl(const QUrl &url);
 
 enum Answer {
     /// Nobody was asked, nobody answered, or the answer was the refused login again.
@@ -44,7 +36,7 @@ enum Answer {
 /// Nobody is asked about a URL that brings user and password itself. The receivers of the signal
 /// may delete the reply, the manager and whoever called this.
 Answer ask(XNetworkAccessManager *manager, QNetworkReply *reply, const QUrl &url,
-           const Login &refused);
+           const RVLogin &refused);
 
 /// The proxy that the manager uses for this URL, as far as FTP can use one: an FTP caching proxy,
 /// or NoProxy.

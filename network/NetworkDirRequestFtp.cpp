@@ -100,7 +100,7 @@ void NetworkDirRequestFtp::requestFtpListing()
     }
     m_host = m_url.host().isEmpty() ? QStringLiteral("127.0.0.1") : m_url.host();
     m_port = m_url.port(ftpPort);
-    const FtpCredentials::Login login = FtpCredentials::forUrl(m_url);
+    const RVLogin login = FtpCredentials::forUrl(m_url);
     m_user = login.user;
     m_password = login.password;
     m_path = FtpCredentials::rawPath(m_url);

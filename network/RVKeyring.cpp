@@ -4,8 +4,6 @@
 
 #include <QAuthenticator>
 #include <QNetworkProxy>
-#include <QNetworkReply>
-#include <QVariant>
 
 QString RVKeyring::placeOf(const QNetworkProxy &proxy)
 {
@@ -29,24 +27,5 @@ bool RVKeyring::answer(const QNetworkProxy &proxy, QAuthenticator *auth)
     }
     auth->setUser(kept.user);
     auth->setPassword(kept.password);
-    return true;
-}
-
-bool answerChallenge(const RVLogin &login, QNetworkReply *reply, QAuthenticator *auth)
-{
-    // Also when the authenticator shows another one by now: an empty answer of the user is
-    // challenged as well, and to offer the refused login after it would go on for ever.
-    constexpr char refused[] = "_ravel_login_refused";
-    if (login.isEmpty() || (reply && reply->property(refused).toBool())) {
-        return false;
-    }
-    if (auth->user() == login.user && auth->password() == login.password) {
-        if (reply) {
-            reply->setProperty(refused, true);
-        }
-        return false;
-    }
-    auth->setUser(login.user);
-    auth->setPassword(login.password);
     return true;
 }

@@ -2,24 +2,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "network/RVLogin.h"
+
 #include <QHash>
 #include <QString>
 
 class QAuthenticator;
 class QNetworkProxy;
-class QNetworkReply;
-
-/// A user name and a password.
-struct RVLogin {
-    QString user;
-    QString password;
-
-    bool isEmpty() const { return user.isEmpty() && password.isEmpty(); }
-    bool operator==(const RVLogin &other) const
-    {
-        return user == other.user && password == other.password;
-    }
-};
 
 /// What the user typed in this run for places that are no repository of ours: the servers that a
 /// listing leads to, and the proxies. The sections of a page share one; nothing of it is stored.
@@ -43,7 +32,3 @@ public:
 private:
     QHash<QString, RVLogin> m_logins;
 };
-
-/// Answers a server's challenge with `login`. False when there is none, or when the server refused
-/// it for this reply: the user has to be asked.
-bool answerChallenge(const RVLogin &login, QNetworkReply *reply, QAuthenticator *auth);

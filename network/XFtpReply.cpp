@@ -27,7 +27,7 @@ void XFtpReply::start()
     if (proxy.type() == QNetworkProxy::FtpCachingProxy) {
         m_ftp->setProxy(proxy.hostName(), proxy.port());
     }
-    const FtpCredentials::Login login = FtpCredentials::forUrl(url());
+    const RVLogin login = FtpCredentials::forUrl(url());
     m_user = login.user;
     m_password = login.password;
     const QString host = url().host();

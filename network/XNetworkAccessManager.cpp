@@ -4,6 +4,7 @@
 
 #include "core/RVLogger.h"
 #include "network/NetworkDirRequest.h"
+#include "network/XFileReply.h"
 #include "network/XFtpReply.h"
 #include "network/XHttpReply.h"
 #include "network/XNetworkReply.h"
@@ -126,6 +127,10 @@ QNetworkReply *XNetworkAccessManager::createRequest(Operation operation,
                                                     QIODevice *outgoingData)
 {
     const QString scheme = request.url().scheme();
+    // The one gate to files of this system, whoever asks for them.
+    if ((scheme.isEmpty() || scheme == QLatin1String("file")) && operation == GetOperation) {
+        return new XFileReply(request, this);
+    }
     if (scheme == QLatin1String("ftp") && operation == GetOperation) {
         auto *reply = new XFtpReply(this, request);
         reply->setInactivityLimit(inactivityLimit);

@@ -22,7 +22,7 @@ class XNetworkReply;
 /// Qt's network access manager with one more operation, the listing of a directory, and the one
 /// place of policy for transfers: over http and https, redirects are not followed, HTTP/2 and
 /// pipelining are off, no compression is asked for, and what get() returns is an XHttpReply; over
-/// ftp it is an XFtpReply.
+/// ftp it is an XFtpReply, and for a file of this system an XFileReply.
 class XNetworkAccessManager : public QNetworkAccessManager
 {
     Q_OBJECT

@@ -3,8 +3,6 @@
 #include "repository/RVDescFetch.h"
 
 #include "core/RVLogger.h"
-#include "core/RVOrigin.h"
-#include "core/SpecialFile.h"
 #include "descriptor/DescriptorXML.h"
 #include "descriptor/XmlCheck.h"
 #include "network/XHttpReply.h"
@@ -35,9 +33,8 @@ RVDescFetch::RVDescFetch(QList<RVData> &entries, const QString &ftpUser, const Q
                          QObject *parent)
     : QObject(parent)
     , m_entries(entries)
-    , m_ftpUser(ftpUser)
-    , m_ftpPassword(ftpPassword)
 {
+    access.login = {ftpUser, ftpPassword};
 }
 
 RVDescFetch::~RVDescFetch() = default;
@@ -97,7 +94,7 @@ bool RVDescFetch::startWaiting()
 
 void RVDescFetch::start(const RVData &entry)
 {
-    QUrl url = entry.descriptorUrl();
+    const QUrl &url = entry.descriptorUrl();
     DescriptorGeneric *descriptor = entry.descriptor().data();
     if (!descriptor) {
         qCritical("Null descriptor in RVDescFetch for '%s'", RVLogger::oneLine(url).constData());
@@ -109,26 +106,8 @@ void RVDescFetch::start(const RVData &entry)
     if (m_fetches.contains(descriptor)) {
         return;
     }
-    if (isSpecialFile(url)) {
-        RVLogger().log(4, "Descriptor is not a regular file: %s",
-                       RVLogger::oneLine(url).constData());
-        return;
-    }
-    const bool isFtp = url.scheme() == QLatin1String("ftp");
-    const bool isOurs = credentialsFor.isEmpty() || isSameOrigin(url, credentialsFor);
-    if (isFtp && isOurs && !m_ftpUser.isEmpty() && !m_ftpPassword.isEmpty()) {
-        url.setUserName(m_ftpUser, QUrl::DecodedMode);
-        url.setPassword(m_ftpPassword, QUrl::DecodedMode);
-    }
-
     auto *manager = new XNetworkAccessManager(this);
-    manager->setKeyring(keyring);
-    manager->inactivityLimit = inactivityLimit;
-    if (!proxyHost.isEmpty() && proxyPort > 0) {
-        manager->setProxy(
-            QNetworkProxy(isFtp ? QNetworkProxy::FtpCachingProxy : QNetworkProxy::HttpProxy,
-                          proxyHost, static_cast<quint16>(proxyPort)));
-    }
+    access.configure(manager, url);
     connect(manager, &QNetworkAccessManager::finished, this, &RVDescFetch::descriptorArrived);
     connect(manager, &QNetworkAccessManager::finished, descriptor,
             qOverload<QNetworkReply *>(&DescriptorGeneric::read));
@@ -140,7 +119,7 @@ void RVDescFetch::start(const RVData &entry)
             &RVDescFetch::relayProxyAuthenticationRequired);
     connect(manager, &QNetworkAccessManager::sslErrors, this, &RVDescFetch::relaySslErrors);
 
-    QNetworkReply *reply = manager->get(QNetworkRequest(url));
+    QNetworkReply *reply = manager->get(QNetworkRequest(access.withLogin(url)));
     if (reply->error() == QNetworkReply::NoError) {
         m_fetches.insert(descriptor, reply);
         connect(reply, &QNetworkReply::errorOccurred, this, &RVDescFetch::relayNetworkError);

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/RVLimits.h"
-#include "network/XSpooledReply.h"
+#include "network/RVAccess.h"
 #include "repository/RVData.h"
 
 #include <QList>
@@ -11,11 +11,7 @@
 #include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QPointer>
-#include <QSharedPointer>
 #include <QSslError>
-#include <QUrl>
-
-class RVKeyring;
 
 /// Downloads and reads the descriptors of one repository's entries. Owned by its repository.
 /// Its final signal is finished(), once for each fetchAll() that leaves something to wait for and
@@ -26,20 +22,15 @@ class RVDescFetch : public QObject
     Q_DISABLE_COPY_MOVE(RVDescFetch)
 
 public:
-    /// The credentials go into ftp URLs, and only when both are set.
+    /// The login of `access`.
     RVDescFetch(QList<RVData> &entries, const QString &ftpUser, const QString &ftpPassword,
                 QObject *parent = nullptr);
     ~RVDescFetch() override;
 
-    /// Written before fetchAll(); a port of 0 or less means no proxy.
-    QString proxyHost;
-    int proxyPort = -2;
-    /// Written before fetchAll(): the server that the credentials are for, any if it is empty, and
-    /// where logins for proxies are kept.
-    QUrl credentialsFor;
-    QSharedPointer<RVKeyring> keyring;
-    /// Milliseconds; see XSpooledReply::setInactivityLimit().
-    int inactivityLimit = XSpooledReply::defaultInactivityMs;
+    /// Written before fetchAll().
+    RVAccess access;
+    QString &proxyHost = access.proxyHost;
+    int &proxyPort = access.proxyPort;
 
     /// True between fetchAll() and finished(). False right after fetchAll() means that finished()
     /// has been emitted, or, where every entry failed at once, that it will not be.
@@ -84,8 +75,6 @@ private:
     QList<RVData> m_entries;
     /// What is in flight. Entries from m_next on wait.
     QMap<DescriptorGeneric *, QNetworkReply *> m_fetches;
-    QString m_ftpUser;
-    QString m_ftpPassword;
     int m_next = 0;
     bool m_active = false;
 };

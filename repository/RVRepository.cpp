@@ -3,7 +3,6 @@
 #include "repository/RVRepository.h"
 
 #include "core/RVLogger.h"
-#include "core/RVOrigin.h"
 #include "core/RVSettings.h"
 #include "network/NetworkDirRequest.h"
 #include "network/XNetworkAccessManager.h"
@@ -15,6 +14,7 @@
 #include <QSettings>
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -33,12 +33,13 @@ RVRepository::RVRepository(const QString &organisation, const QString &applicati
     , m_description(description)
     , m_url(defaultUrl)
     , m_sortKey(sortKey)
-    , m_keyring(QSharedPointer<RVKeyring>::create())
 {
     RVLogger().log(5, "Setting up repository('%s')", qUtf8Printable(m_description));
     if (!m_settingsKey.isEmpty()) {
         m_url = QUrl(m_settings->value(m_settingsKey, m_defaultUrl.toString()).toString());
     }
+    m_access.server = m_url;
+    m_access.proxyPort = 0;
 }
 
 RVRepository *RVRepository::fromDefinition(const RVRepDesc &definition, QObject *parent,
@@ -84,25 +85,21 @@ bool RVRepository::selects(const XUrlInfo &item) const
     });
 }
 
-bool RVRepository::isRefreshing() const
-{
-    return m_reply || (m_descFetch && m_descFetch->isActive());
-}
-
 void RVRepository::setProxy(const QString &host, int port)
 {
-    m_proxyHost = host;
-    m_proxyPort = port;
+    m_access.proxyHost = host;
+    m_access.proxyPort = port;
 }
 
 void RVRepository::setKeyring(const QSharedPointer<RVKeyring> &keyring)
 {
-    m_keyring = keyring;
+    m_access.keyring = keyring;
 }
 
 void RVRepository::setUrl(const QUrl &url)
 {
     m_url = url;
+    m_access.server = url;
     if (m_settingsKey.isEmpty()) {
         return;
     }
@@ -121,8 +118,7 @@ void RVRepository::setUrl(const QString &urlStr)
 
 void RVRepository::setAuthenticationCredentials(const QString &user, const QString &password)
 {
-    m_user = user;
-    m_password = password;
+    m_access.login = {user, password};
 }
 
 void RVRepository::cancel()
@@ -148,18 +144,42 @@ void RVRepository::dropRefresh()
             reply->deleteLater();
         }
     }
-    if (m_descFetch) {
-        m_descFetch->disconnect(this);
-        disconnect(m_descFetch);
-        m_descFetch->cancel();
-        m_descFetch->deleteLater();
-        m_descFetch = nullptr;
+    if (RVDescFetch *descFetch = m_descFetch) {
+        dropDescFetch();
+        descFetch->cancel();
     }
+}
+
+void RVRepository::dropDescFetch()
+{
+    m_descFetch->disconnect(this);
+    disconnect(m_descFetch);
+    m_descFetch->deleteLater();
+    m_descFetch = nullptr;
+}
+
+// False when a receiver of the dropped one's end has begun another.
+bool RVRepository::beginRefresh()
+{
+    dropRefresh();
+    const int generation = m_generation;
+    if (std::exchange(m_isRefreshing, true)) {
+        Q_EMIT refreshEnded();
+    }
+    return generation == m_generation;
+}
+
+void RVRepository::endRefresh()
+{
+    m_isRefreshing = false;
+    Q_EMIT refreshEnded();
 }
 
 void RVRepository::refresh()
 {
-    dropRefresh();
+    if (!beginRefresh()) {
+        return;
+    }
     const int generation = m_generation;
     RVLogger log;
     log.log(5, "Refreshing repository('%s')", RVLogger::oneLine(m_url).constData());
@@ -167,17 +187,16 @@ void RVRepository::refresh()
         m_listing.clear();
         m_entries.clear();
         Q_EMIT refreshDone(QNetworkReply::NoError);
+        if (generation == m_generation) {
+            endRefresh();
+        }
         return;
     }
 
     m_manager = new XNetworkAccessManager(this);
-    m_manager->setKeyring(m_keyring);
-    if (!m_proxyHost.isEmpty() && m_proxyPort > 0) {
-        const bool isFtp = m_url.scheme().toLower() == QLatin1String("ftp");
-        m_manager->setProxy(
-            QNetworkProxy(isFtp ? QNetworkProxy::FtpCachingProxy : QNetworkProxy::HttpProxy,
-                          m_proxyHost, static_cast<quint16>(m_proxyPort)));
-        log.log(5, "  Using proxy %s:%d", qUtf8Printable(m_proxyHost), m_proxyPort);
+    m_access.configure(m_manager, m_url);
+    if (m_access.hasProxy()) {
+        log.log(5, "  Using proxy %s:%d", qUtf8Printable(m_access.proxyHost), m_access.proxyPort);
     }
     connect(m_manager, &QNetworkAccessManager::authenticationRequired, this,
             &RVRepository::attemptAuthentication);
@@ -198,7 +217,7 @@ void RVRepository::refresh()
     m_manager.clear();
     if (reply->finished) {
         m_reply = reply;
-        directoryFinished(reply);
+        takeListing(reply);
     }
     if (error == QNetworkReply::NoError || generation != m_generation) {
         return;
@@ -213,6 +232,9 @@ void RVRepository::refresh()
     }
     if (generation == m_generation) {
         Q_EMIT refreshDone(error);
+    }
+    if (generation == m_generation) {
+        endRefresh();
     }
 }
 
@@ -235,6 +257,15 @@ void RVRepository::directoryFinished(XNetworkReply *reply)
     if (reply != m_reply) {
         return; // its result is in already
     }
+    const int generation = m_generation;
+    takeListing(reply);
+    if (generation == m_generation && m_error != QNetworkReply::NoError) {
+        endRefresh();
+    }
+}
+
+void RVRepository::takeListing(XNetworkReply *reply)
+{
     m_reply.clear();
     disconnect(this, nullptr, reply, nullptr);
     m_error = reply->error();
@@ -273,17 +304,14 @@ void RVRepository::fetchDescriptors()
     const int generation = m_generation;
     if (m_entries.isEmpty()) {
         // The empty fetch below reports once more.
-        descFetchFinished();
+        reportDone();
         if (generation != m_generation) {
             return;
         }
     }
     RVLogger().log(5, "Beginning descriptor fetch for '%s'", RVLogger::oneLine(m_url).constData());
-    m_descFetch = new RVDescFetch(m_entries, m_user, m_password, this);
-    m_descFetch->proxyHost = m_proxyHost;
-    m_descFetch->proxyPort = m_proxyPort;
-    m_descFetch->credentialsFor = m_url;
-    m_descFetch->keyring = m_keyring;
+    m_descFetch = new RVDescFetch(m_entries, user(), password(), this);
+    m_descFetch->access = m_access;
     connect(m_descFetch, &RVDescFetch::finished, this, &RVRepository::descFetchFinished);
     connect(m_descFetch, &RVDescFetch::descriptorArrived, this, &RVRepository::descriptorArrived);
     connect(m_descFetch, &RVDescFetch::authenticationRequired, this,
@@ -295,28 +323,33 @@ void RVRepository::fetchDescriptors()
     connect(m_descFetch, &RVDescFetch::sslErrors, this, &RVRepository::relaySslErrors);
     connect(this, &RVRepository::cancelRefresh, m_descFetch, &RVDescFetch::cancel);
     m_descFetch->fetchAll();
+    if (generation == m_generation && m_descFetch && !m_descFetch->isActive()) {
+        // Nothing could be asked for, which has been told one by one.
+        dropDescFetch();
+        endRefresh();
+    }
 }
 
 void RVRepository::descFetchFinished()
 {
-    RVLogger().log(5, "Descriptor fetch finished for '%s'", RVLogger::oneLine(m_url).constData());
-    if (m_descFetch) {
-        m_descFetch->disconnect(this);
-        disconnect(m_descFetch);
-        m_descFetch->deleteLater();
-        m_descFetch = nullptr;
+    const int generation = m_generation;
+    dropDescFetch();
+    reportDone();
+    if (generation == m_generation) {
+        endRefresh();
     }
+}
+
+void RVRepository::reportDone()
+{
+    RVLogger().log(5, "Descriptor fetch finished for '%s'", RVLogger::oneLine(m_url).constData());
     sortEntries(m_entries, m_sortKey);
     Q_EMIT refreshDone(m_error);
 }
 
 void RVRepository::attemptAuthentication(QNetworkReply *reply, QAuthenticator *auth)
 {
-    // A listing may lead to any other server.
-    const RVLogin login = isSameOrigin(reply->url(), m_url)
-        ? RVLogin{m_user, m_password}
-        : m_keyring->login(originOf(reply->url()));
-    if (!answerChallenge(login, reply, auth)) {
+    if (!m_access.answer(reply, auth)) {
         Q_EMIT authenticationRequired(reply, auth);
     }
 }
@@ -334,7 +367,7 @@ void RVRepository::relayNetworkError(QNetworkReply::NetworkError /*error*/)
 void RVRepository::relayProxyAuthenticationRequired(const QNetworkProxy &proxy,
                                                     QAuthenticator *auth)
 {
-    if (!m_keyring->answer(proxy, auth)) {
+    if (!m_access.answer(proxy, auth)) {
         Q_EMIT proxyAuthenticationRequired(proxy, auth);
     }
 }

@@ -3,19 +3,17 @@
 #pragma once
 
 #include "core/RVPaths.h"
-#include "network/RVKeyring.h"
+#include "network/RVAccess.h"
 #include "network/XUrlInfo.h"
 #include "repository/RVData.h"
 #include "repository/RVSort.h"
 
 #include <QAuthenticator>
 #include <QList>
-#include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QObject>
 #include <QPointer>
 #include <QRegExp>
-#include <QSharedPointer>
 #include <QSslError>
 #include <QUrl>
 
@@ -27,10 +25,11 @@ class XNetworkAccessManager;
 class XNetworkReply;
 
 /// One update repository at run time: where it is, what it lists, and its current entries.
-/// refresh() ends with refreshDone(): twice when the location lists no entry, after networkError()
-/// when the listing could not start, and not at all, networkError() being the last signal, when the
-/// listing failed later or no descriptor could be asked for. In slots of its own signals use
-/// deleteLater().
+/// What a refresh() finds it tells by refreshDone(): twice when the location lists no entry, after
+/// networkError() when the listing could not start, and not at all, but for networkError(), when
+/// the listing failed later or no descriptor could be asked for. Its final signal is
+/// refreshEnded(), once for each refresh(), whatever became of it; a deleted repository gives none.
+/// In slots of its own signals use deleteLater().
 class RVRepository : public QObject
 {
     Q_OBJECT
@@ -57,30 +56,34 @@ public:
     const QList<XUrlInfo> &listing() const { return m_listing; }
     /// Whether a filter picks this file as an archive.
     bool selects(const XUrlInfo &item) const;
-    /// Seen from the event loop: false once a refresh has given its last signal, whichever that
-    /// was.
-    bool isRefreshing() const;
-    const QString &user() const { return m_user; }
-    const QString &password() const { return m_password; }
-    const QString &proxyHost() const { return m_proxyHost; }
-    int proxyPort() const { return m_proxyPort; }
+    /// Between refresh() and refreshEnded().
+    bool isRefreshing() const { return m_isRefreshing; }
+    /// What its transfers are given.
+    const RVAccess &access() const { return m_access; }
+    const QString &user() const { return m_access.login.user; }
+    const QString &password() const { return m_access.login.password; }
+    const QString &proxyHost() const { return m_access.proxyHost; }
+    int proxyPort() const { return m_access.proxyPort; }
     /// Used from the next refresh on; an empty host or a port of 0 or less means no proxy.
     void setProxy(const QString &host, int port);
     /// Logins for other servers and for proxies; one of its own unless set, never null.
-    const QSharedPointer<RVKeyring> &keyring() const { return m_keyring; }
+    const QSharedPointer<RVKeyring> &keyring() const { return m_access.keyring; }
     void setKeyring(const QSharedPointer<RVKeyring> &keyring);
 
 public Q_SLOTS:
     /// Stores a location that differs from the default, and forgets the stored one if it does not.
     void setUrl(const QUrl &url);
     void setUrl(const QString &urlStr);
-    /// A second refresh drops what the first has still under way.
+    /// A second refresh drops what the first has still under way, whose refreshEnded() comes
+    /// inside this call.
     void refresh();
     void cancel();
     void setAuthenticationCredentials(const QString &user, const QString &password);
 
 Q_SIGNALS:
     void refreshDone(QNetworkReply::NetworkError error);
+    /// The refresh has given every other signal that it gives.
+    void refreshEnded();
     /// Each descriptor's download that has ended, failed ones too, before it is read: receivers
     /// may peek into it, no more.
     void descriptorArrived(QNetworkReply *reply);
@@ -104,6 +107,11 @@ private:
     friend struct RVRepositoryTestAccess;
 
     void dropRefresh();
+    bool beginRefresh();
+    void endRefresh();
+    void dropDescFetch();
+    void takeListing(XNetworkReply *reply);
+    void reportDone();
     void follow(XNetworkAccessManager *manager, XNetworkReply *reply);
     void filter();
     void fetchDescriptors();
@@ -126,10 +134,6 @@ private:
     int m_questions = 0;
     QNetworkReply::NetworkError m_error = QNetworkReply::NoError;
     SortKey m_sortKey;
-    QString m_proxyHost;
-    int m_proxyPort = 0;
-    /// For the location's own scheme, host and port, and for nobody else.
-    QString m_user;
-    QString m_password;
-    QSharedPointer<RVKeyring> m_keyring;
+    RVAccess m_access;
+    bool m_isRefreshing = false;
 };

@@ -195,6 +195,15 @@ void RVControlFrame::refreshTableData(QNetworkReply::NetworkError error)
     }
 }
 
+void RVControlFrame::leaveRetrievalState()
+{
+    // Where nothing has told what was found, nothing was. One refresh may end because the next one
+    // has begun.
+    if (currentPage() == RetrievalPage && !m_repository->isRefreshing()) {
+        refreshTableData(QNetworkReply::NoError);
+    }
+}
+
 void RVControlFrame::refreshTableData()
 {
     const QHash<QUrl, Qt::CheckState> choices = m_table->userChoices();
@@ -381,6 +390,7 @@ void RVControlFrame::connectRepository()
     connect(m_repository, &RVRepository::proxyAuthenticationRequired, this,
             &RVControlFrame::relayProxyAuthenticationRequired);
     connect(m_repository, &RVRepository::networkError, this, &RVControlFrame::refreshFailed);
+    connect(m_repository, &RVRepository::refreshEnded, this, &RVControlFrame::leaveRetrievalState);
 }
 
 void RVControlFrame::connectTableSignals()
@@ -424,9 +434,7 @@ void RVControlFrame::retireTable(SelectionTable *table)
 SelectionTable *RVControlFrame::makeTable(const QList<RVData> &entries)
 {
     auto *table = new SelectionTable(entries, m_type, m_osInfo, this, m_paths);
-    table->setRepository(m_repository->url(), m_repository->keyring());
-    table->setAuthenticationCredentials(m_repository->user(), m_repository->password());
-    table->setProxy(m_repository->proxyHost(), m_repository->proxyPort());
+    table->setAccess(m_repository->access());
     return table;
 }
 

@@ -95,6 +95,7 @@ private Q_SLOTS:
     void answerQuestion();
     void incInstallFinished();
     void cancelFromRetrieval();
+    void leaveRetrievalState();
     void refreshFailed(const QNetworkReply *reply);
     void relayNetworkError(const QNetworkReply *reply);
     void relayProxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *auth);

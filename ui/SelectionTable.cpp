@@ -4,7 +4,6 @@
 
 #include "core/OSInfoBaseClass.h"
 #include "core/RVLogger.h"
-#include "core/RVOrigin.h"
 #include "descriptor/DataXML.h"
 #include "install/RVInstallProc.h"
 #include "ui/BusyDialog.h"
@@ -110,7 +109,6 @@ SelectionTable::SelectionTable(const QList<RVData> &entries, SelectionTableType 
     , m_type(type)
     , m_labelItem(new TableLabelItem(true, this))
     , m_rows(entries.size())
-    , m_keyring(QSharedPointer<RVKeyring>::create())
 {
     setObjectName(QStringLiteral("RVSelectionTable"));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -167,14 +165,8 @@ SelectionTable::~SelectionTable()
 
 void SelectionTable::setProxy(const QString &host, int port)
 {
-    m_proxyHost = host;
-    m_proxyPort = port;
-}
-
-void SelectionTable::setRepository(const QUrl &url, const QSharedPointer<RVKeyring> &keyring)
-{
-    m_repositoryUrl = url;
-    m_keyring = keyring;
+    m_access.proxyHost = host;
+    m_access.proxyPort = port;
 }
 
 QHash<QUrl, Qt::CheckState> SelectionTable::userChoices() const
@@ -253,11 +245,9 @@ void SelectionTable::install()
     if (batch.isEmpty()) {
         return;
     }
-    m_procedure = new RVInstallProc(batch, m_user, m_password, this, m_paths);
-    m_procedure->proxyHost = m_proxyHost;
-    m_procedure->proxyPort = m_proxyPort;
-    m_procedure->credentialsFor = m_repositoryUrl;
-    m_procedure->keyring = m_keyring;
+    m_procedure =
+        new RVInstallProc(batch, m_access.login.user, m_access.login.password, this, m_paths);
+    m_procedure->access = m_access;
     m_procedure->imageQuestion = &m_imageQuestion;
     connect(m_procedure, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
             &SelectionTable::incInstallFinished);
@@ -296,8 +286,7 @@ void SelectionTable::install()
 
 void SelectionTable::setAuthenticationCredentials(const QString &user, const QString &password)
 {
-    m_user = user;
-    m_password = password;
+    m_access.login = {user, password};
 }
 
 void SelectionTable::selectAll()
@@ -354,11 +343,7 @@ void SelectionTable::relayProcessError(QProcess::ProcessError error)
 
 void SelectionTable::relayAuthenticationRequired(QNetworkReply *reply, QAuthenticator *auth)
 {
-    // The archive may lie on any other server.
-    const RVLogin login = !reply || isSameOrigin(reply->url(), m_repositoryUrl)
-        ? RVLogin{m_user, m_password}
-        : m_keyring->login(originOf(reply->url()));
-    if (!answerChallenge(login, reply, auth)) {
+    if (!m_access.answer(reply, auth)) {
         Q_EMIT authenticationRequired(reply, auth);
     }
 }
@@ -366,7 +351,7 @@ void SelectionTable::relayAuthenticationRequired(QNetworkReply *reply, QAuthenti
 void SelectionTable::relayProxyAuthenticationRequired(const QNetworkProxy &proxy,
                                                       QAuthenticator *auth)
 {
-    if (!m_keyring->answer(proxy, auth)) {
+    if (!m_access.answer(proxy, auth)) {
         Q_EMIT proxyAuthenticationRequired(proxy, auth);
     }
 }

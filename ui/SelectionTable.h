@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/RVPaths.h"
-#include "network/RVKeyring.h"
+#include "network/RVAccess.h"
 #include "repository/RVSelection.h"
 #include "ui/ImageInstallBox.h"
 
@@ -13,7 +13,6 @@
 #include <QNetworkReply>
 #include <QPointer>
 #include <QProcess>
-#include <QSharedPointer>
 #include <QSslError>
 #include <QTableWidget>
 #include <QUrl>
@@ -61,9 +60,8 @@ public:
     SelectionTableType tableType() const { return m_type; }
     /// An empty host or a port of 0 or less means no proxy. Used from the next installation on.
     void setProxy(const QString &host, int port);
-    /// Whose updates these are: the credentials are for that server alone, the keyring has those
-    /// for others. Before install().
-    void setRepository(const QUrl &url, const QSharedPointer<RVKeyring> &keyring);
+    /// What the installation's transfers are given: the repository's.
+    void setAccess(const RVAccess &access) { m_access = access; }
     /// Between install() and installFinished().
     bool isInstalling() const { return m_procedure != nullptr; }
 
@@ -128,12 +126,7 @@ private:
     TableLabelItem *m_labelItem;
     QVector<Row> m_rows;
     int m_fixedWidth = 0;
-    QUrl m_repositoryUrl;
-    QSharedPointer<RVKeyring> m_keyring;
-    QString m_user;
-    QString m_password;
-    QString m_proxyHost;
-    int m_proxyPort = -2;
+    RVAccess m_access;
     RVInstallProc *m_procedure = nullptr;
     QPointer<BusyDialog> m_busyDialog;
     bool m_isRetrieving = false;

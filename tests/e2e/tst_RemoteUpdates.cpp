@@ -387,7 +387,7 @@ void tst_RemoteUpdates::sameAsTheLocalCopy()
     const QList<RVData> batch = refresh.entriesOf({describedFile, ownFile});
     QCOMPARE(batch.size(), 2);
     RVInstallProc procedure(batch, place.user, place.password, nullptr, root.paths());
-    procedure.credentialsFor = place.url;
+    procedure.access.server = place.url;
     procedure.proxyHost = place.proxyHost;
     procedure.proxyPort = place.proxyPort;
     QStringList failures;

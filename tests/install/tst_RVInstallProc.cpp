@@ -583,7 +583,7 @@ void tst_RVInstallProc::failedDownloadDoesNotStopTheBatch()
         QList<RVData> batch{entry(server.url(QStringLiteral("/good.deb")), paths)};
         batch.insert(isFirst ? 0 : 1, entry(bad, paths));
         RVInstallProc procedure(batch, QString(), QString(), nullptr, paths);
-        procedure.inactivityLimit = BrokenDownload::inactivityLimit;
+        procedure.access.inactivityLimit = BrokenDownload::inactivityLimit;
         Report report(&procedure);
         run(&procedure, &report);
         QCOMPARE(report.events,
@@ -651,7 +651,7 @@ void tst_RVInstallProc::specialFilesAreNotOpened()
     RVInstallProc procedure(batch, QString(), QString(), nullptr, paths);
     Report report(&procedure);
     procedure.start();
-    QCOMPARE(report.events.filter(QStringLiteral("networkError 20")).size(), 3);
+    QCOMPARE(report.events.filter(QStringLiteral("networkError 202")).size(), 3);
     QVERIFY(report.waitForEnd());
     QCOMPARE(report.events.size(), 6);
     QCOMPARE(procedure.readAllStandardOutput(), QByteArray("RVinstall.sh\ngood.deb\n"));
@@ -1141,7 +1141,7 @@ void tst_RVInstallProc::credentials()
     const RVPaths paths = installer("exit 0");
     const RVData update = entry(url, paths);
     RVInstallProc procedure({update}, user, password, nullptr, paths);
-    procedure.credentialsFor = QUrl(credentialsFor);
+    procedure.access.server = QUrl(credentialsFor);
     Report report(&procedure);
     QString asked;
     connect(&procedure, &RVInstallProc::networkError, this, [&](const QNetworkReply *reply) {

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "network/RVKeyring.h"
 #include "network/XNetworkAccessManager.h"
-#include "network/XNetworkReply.h"
 
 #include <QAuthenticator>
 #include <QNetworkProxy>
@@ -107,45 +106,6 @@ private Q_SLOTS:
         QAuthenticator auth;
         manager.relayProxyAuthenticationRequired(proxy(), &auth);
         QVERIFY(auth.isNull());
-    }
-
-    void answersServers_data()
-    {
-        QTest::addColumn<QStringList>("logins");
-        QTest::addColumn<QStringList>("expected");
-        const auto row = [](const char *title, const QStringList &logins,
-                            const QStringList &expected) {
-            QTest::newRow(title) << logins << expected;
-        };
-        const QString ask = QStringLiteral("?");
-        row("none", {QString()}, {ask});
-        row("one", {QStringLiteral("pw")}, {QStringLiteral("pw")});
-        row("a refused one", {QStringLiteral("pw"), QStringLiteral("pw")},
-            {QStringLiteral("pw"), ask});
-        // The empty answer to a question is challenged again.
-        row("a refused one for ever",
-            {QStringLiteral("pw"), QStringLiteral("pw"), QStringLiteral("pw")},
-            {QStringLiteral("pw"), ask, ask});
-        row("a new one", {QStringLiteral("old"), QStringLiteral("pw")},
-            {QStringLiteral("old"), QStringLiteral("pw")});
-    }
-    void answersServers()
-    {
-        QFETCH(QStringList, logins);
-        XNetworkReply reply;
-        QAuthenticator auth;
-        QStringList answers;
-        for (const QString &password : qAsConst(logins)) {
-            const RVLogin login{password.isEmpty() ? QString() : QStringLiteral("me"), password};
-            if (answerChallenge(login, &reply, &auth)) {
-                answers.append(auth.password());
-            } else {
-                answers.append(QStringLiteral("?"));
-                auth.setUser(QString());
-                auth.setPassword(QString());
-            }
-        }
-        QTEST(answers, "expected");
     }
 };
 

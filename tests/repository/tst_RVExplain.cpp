@@ -175,13 +175,15 @@ void tst_RVExplain::refreshingUntilTheLastSignal()
     write(QStringLiteral("a.deb"));
     describe(QStringLiteral("a"), "<thin_client>all</thin_client>");
     verdicts();
-    bool wasRefreshing = true;
-    connect(m_repository.get(), &RVRepository::refreshDone, this, [&] {
-        wasRefreshing = m_repository->isRefreshing();
-    });
+    QVector<bool> seen;
+    const auto look = [&] {
+        seen.append(m_repository->isRefreshing());
+    };
+    connect(m_repository.get(), &RVRepository::refreshDone, this, look);
+    connect(m_repository.get(), &RVRepository::refreshEnded, this, look);
     m_repository->refresh();
     QVERIFY(m_repository->isRefreshing());
-    QTRY_VERIFY(!wasRefreshing);
+    QTRY_COMPARE(seen, QVector<bool>({true, false}));
     // Where the location is not there, nothing is left to wait for either.
     m_repository->setUrl(QUrl(QStringLiteral("file:///nowhere/at/all")));
     m_repository->refresh();

@@ -25,7 +25,7 @@
 struct RVRepositoryTestAccess {
     static QPointer<XNetworkReply> startListing(RVRepository &repository)
     {
-        repository.dropRefresh();
+        repository.beginRefresh();
         auto *manager = new XNetworkAccessManager(&repository);
         auto *reply = new XNetworkReply;
         QObject::connect(reply, &XNetworkReply::finishedReply, manager,
@@ -58,6 +58,9 @@ public:
         if (withFilter) {
             repository.addFilter(pattern("\\.deb$"), pattern("\\.xml$"));
         }
+        QObject::connect(&repository, &RVRepository::refreshEnded, &repository, [] {
+            ++ended;
+        });
         QObject::connect(&repository, &RVRepository::refreshDone, &repository,
                          [this](QNetworkReply::NetworkError error) {
                              add(QStringLiteral("refreshDone %1").arg(error));
@@ -66,6 +69,25 @@ public:
                          [this](const QNetworkReply *reply) {
                              add(QStringLiteral("networkError %1").arg(reply->error()));
                          });
+    }
+
+    ~Watched()
+    {
+        if (repository.isRefreshing()) {
+            ++destroyed;
+        }
+    }
+
+    QPointer<XNetworkReply> startListing()
+    {
+        ++begun;
+        return RVRepositoryTestAccess::startListing(repository);
+    }
+
+    void refresh()
+    {
+        ++begun;
+        repository.refresh();
     }
 
     int count(const char *signal) const
@@ -87,9 +109,19 @@ public:
     /// Runs inside the slot, after the signal was noted.
     std::function<void(const QString &)> reaction;
 
+    /// Of all repositories of a test: refreshes, those that told their end, those whose repository
+    /// went, and signals that came after the end.
+    static inline int begun = 0;
+    static inline int ended = 0;
+    static inline int destroyed = 0;
+    static inline QStringList late;
+
 private:
     void add(const QString &text)
     {
+        if (!repository.isRefreshing()) {
+            late.append(text);
+        }
         signalTexts.append(text);
         if (reaction) {
             reaction(text);
@@ -196,6 +228,10 @@ void tst_RVRepository::init()
     m_log = std::make_unique<LogFile>();
     m_guard = std::make_unique<WarningGuard>();
     QSettings(organisation, application).clear();
+    Watched::begun = 0;
+    Watched::ended = 0;
+    Watched::destroyed = 0;
+    Watched::late.clear();
 }
 
 void tst_RVRepository::cleanup()
@@ -207,6 +243,9 @@ void tst_RVRepository::cleanup()
     m_log.reset();
     m_dir.reset();
     QVERIFY2(clean, report.constData());
+    // Each refresh has ended once, after its other signals.
+    QCOMPARE(Watched::ended + Watched::destroyed, Watched::begun);
+    QCOMPARE(Watched::late, QStringList());
 }
 
 void tst_RVRepository::write(const QString &name, const QByteArray &content)
@@ -321,17 +360,17 @@ void tst_RVRepository::worksWithoutSettingsKey()
 void tst_RVRepository::withoutLocationReportsAtOnce()
 {
     Watched watched{QUrl()};
-    watched.repository.refresh();
+    watched.refresh();
     QCOMPARE(watched.signalTexts, QStringList(QStringLiteral("refreshDone 0")));
     QVERIFY(!watched.repository.findChild<QNetworkAccessManager *>());
 
     addUpdate(QStringLiteral("a"), "a", "1");
     watched.repository.setUrl(location());
-    watched.repository.refresh();
+    watched.refresh();
     QTRY_COMPARE(watched.count("refreshDone"), 2);
     QCOMPARE(watched.repository.entries().size(), 1);
     watched.repository.setUrl(QUrl());
-    watched.repository.refresh();
+    watched.refresh();
     QVERIFY(watched.repository.entries().isEmpty());
     QCOMPARE(watched.signalTexts.size(), 3);
     QVERIFY(m_log->contains(QStringLiteral("Refreshing repository('')")));
@@ -356,7 +395,7 @@ void tst_RVRepository::listsReadsAndSorts()
     write(QStringLiteral("undescribed.deb"));
     QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("folder.deb")));
     Watched watched(location(), static_cast<SortKey>(sortKey));
-    watched.repository.refresh();
+    watched.refresh();
     QVERIFY(watched.signalTexts.isEmpty());
     QTRY_COMPARE(watched.signalTexts, QStringList(QStringLiteral("refreshDone 0")));
     QTEST(watched.archives(), "archives");
@@ -371,7 +410,7 @@ void tst_RVRepository::logsTheRefresh()
 {
     addUpdate(QStringLiteral("a"), "a", "1");
     Watched watched(location());
-    watched.repository.refresh();
+    watched.refresh();
     QTRY_COMPARE(watched.count("refreshDone"), 1);
     const QString url = location().toString();
     QCOMPARE(m_log->lines(),
@@ -388,7 +427,7 @@ void tst_RVRepository::logsProgress()
     const auto refresh = [this] {
         Watched watched(location());
         watched.repository.setProxy(QStringLiteral("proxy"), 3128);
-        watched.repository.refresh();
+        watched.refresh();
         QTRY_COMPARE(watched.count("refreshDone"), 1);
     };
     refresh();
@@ -419,7 +458,7 @@ void tst_RVRepository::emptyResultReportsTwice()
         write(file);
     }
     Watched watched(location(), SortByName, withFilter);
-    watched.repository.refresh();
+    watched.refresh();
     const QStringList twice{QStringLiteral("refreshDone 0"), QStringLiteral("refreshDone 0")};
     QCOMPARE(watched.signalTexts, twice);
     QVERIFY(watched.repository.entries().isEmpty());
@@ -440,7 +479,7 @@ void tst_RVRepository::filtersAreConcatenated()
     watched.repository.addFilter(pattern("b\\.xml$"), pattern("b\\.xml$"));
     watched.repository.addFilter(pattern("\\.xml$"), pattern("\\.xml$"));
     m_guard->allow(QString());
-    watched.repository.refresh();
+    watched.refresh();
     QTRY_COMPARE(watched.count("refreshDone"), 1);
     QCOMPARE(watched.archives(), QStringLiteral("b.xml a.xml b.xml"));
     for (const RVData &entry : watched.repository.entries()) {
@@ -452,11 +491,11 @@ void tst_RVRepository::refreshReplacesTheEntries()
 {
     addUpdate(QStringLiteral("a"), "a", "1");
     Watched watched(location());
-    watched.repository.refresh();
+    watched.refresh();
     QTRY_COMPARE(watched.count("refreshDone"), 1);
     QVERIFY(QFile::remove(path(QStringLiteral("a.deb"))));
     addUpdate(QStringLiteral("b"), "b", "1");
-    watched.repository.refresh();
+    watched.refresh();
     QTRY_COMPARE(watched.count("refreshDone"), 2);
     QCOMPARE(watched.archives(), QStringLiteral("b.deb"));
 }
@@ -469,7 +508,7 @@ void tst_RVRepository::awkwardNamesAreRead()
         addUpdate(name, "n", "1.0");
     }
     Watched watched(location());
-    watched.repository.refresh();
+    watched.refresh();
     QTRY_COMPARE(watched.signalTexts, QStringList(QStringLiteral("refreshDone 0")));
     QCOMPARE(watched.repository.entries().size(), names.size());
     for (const RVData &entry : watched.repository.entries()) {
@@ -503,7 +542,7 @@ void tst_RVRepository::listingThatCannotStart()
     QVERIFY(QFile::setPermissions(locked, {}));
     const QUrl location(url.contains(QLatin1Char('%')) ? url.arg(m_dir->path()) : url);
     Watched watched(location);
-    watched.repository.refresh();
+    watched.refresh();
     const QString failure = QStringLiteral("networkError %1").arg(error);
     const QStringList expected{failure, failure, QStringLiteral("refreshDone %1").arg(error)};
     QCOMPARE(watched.signalTexts, expected);
@@ -520,11 +559,11 @@ void tst_RVRepository::failedListingForgetsTheEntries()
 {
     addUpdate(QStringLiteral("a"), "a", "1");
     Watched watched(location());
-    watched.repository.refresh();
+    watched.refresh();
     QTRY_COMPARE(watched.repository.entries().size(), 1);
     QTRY_COMPARE(watched.count("refreshDone"), 1);
     watched.repository.setUrl(QStringLiteral("/does/not/exist"));
-    watched.repository.refresh();
+    watched.refresh();
     QVERIFY(watched.repository.entries().isEmpty());
 }
 
@@ -544,7 +583,7 @@ void tst_RVRepository::descriptorThatCannotBeRead()
     addUpdate(QStringLiteral("b"), "b", "1");
     addUpdate(QStringLiteral("c"), "c", "1");
     Watched watched(location());
-    const QPointer<XNetworkReply> reply = RVRepositoryTestAccess::startListing(watched.repository);
+    const QPointer<XNetworkReply> reply = watched.startListing();
     addEntries(reply, {"a.deb", "a.xml", "b.deb", "b.xml", "c.deb", "c.xml"});
     const QString bad = path(QStringLiteral("b.xml"));
     QVERIFY(gone ? QFile::remove(bad) : QFile::setPermissions(bad, {}));
@@ -560,12 +599,12 @@ void tst_RVRepository::onlyDescriptorCannotBeRead()
     addUpdate(QStringLiteral("a"), "a", "1");
     QVERIFY(QFile::setPermissions(path(QStringLiteral("a.xml")), {}));
     Watched watched(location());
-    watched.repository.refresh();
+    watched.refresh();
     deliverEverything();
     // Nothing could be asked for: the error is the last signal, and the page offers to try again.
     QCOMPARE(watched.signalTexts, QStringList(QStringLiteral("networkError 201")));
     QVERIFY(QFile::setPermissions(path(QStringLiteral("a.xml")), QFile::ReadOwner));
-    watched.repository.refresh();
+    watched.refresh();
     QTRY_COMPARE(watched.count("refreshDone"), 1);
 }
 
@@ -577,7 +616,7 @@ void tst_RVRepository::badDescriptorsAreKept()
     write(QStringLiteral("c.deb"));
     write(QStringLiteral("c.xml"), {});
     Watched watched(location());
-    watched.repository.refresh();
+    watched.refresh();
     QTRY_COMPARE(watched.signalTexts, QStringList(QStringLiteral("refreshDone 0")));
     QCOMPARE(watched.archives(), QStringLiteral("b.deb c.deb a.deb"));
 }
@@ -592,7 +631,7 @@ void tst_RVRepository::readsTwoThousandDescriptors()
     Watched watched(location());
     QElapsedTimer timer;
     timer.start();
-    watched.repository.refresh();
+    watched.refresh();
     QTRY_COMPARE_WITH_TIMEOUT(watched.signalTexts, QStringList(QStringLiteral("refreshDone 0")),
                               30000);
     QCOMPARE(watched.repository.entries().size(), number);
@@ -614,7 +653,7 @@ void tst_RVRepository::readsTwoThousandDescriptors()
 void tst_RVRepository::listingThatFailsLater()
 {
     Watched watched(location());
-    const QPointer<XNetworkReply> reply = RVRepositoryTestAccess::startListing(watched.repository);
+    const QPointer<XNetworkReply> reply = watched.startListing();
     // A backend that announces its error and one that only carries it.
     reply->fail(QNetworkReply::TimeoutError, QStringLiteral("slow"));
     QCOMPARE(watched.signalTexts, QStringList(QStringLiteral("networkError 4")));
@@ -623,7 +662,7 @@ void tst_RVRepository::listingThatFailsLater()
     deliverEverything();
     QVERIFY(!reply);
 
-    const QPointer<XNetworkReply> silent = RVRepositoryTestAccess::startListing(watched.repository);
+    const QPointer<XNetworkReply> silent = watched.startListing();
     silent->setError(QNetworkReply::TimeoutError, QStringLiteral("slow"));
     silent->finish();
     QCOMPARE(watched.signalTexts.size(), 3);
@@ -636,7 +675,7 @@ void tst_RVRepository::listingThatEndsLater()
 {
     addUpdate(QStringLiteral("a"), "a", "1");
     Watched watched(location());
-    const QPointer<XNetworkReply> reply = RVRepositoryTestAccess::startListing(watched.repository);
+    const QPointer<XNetworkReply> reply = watched.startListing();
     addEntries(reply, {"a.deb", "a.xml"});
     reply->finish();
     reply->finish();
@@ -659,7 +698,7 @@ void tst_RVRepository::cancelWhenIdle()
 void tst_RVRepository::cancelWhileListing()
 {
     Watched watched(location());
-    const QPointer<XNetworkReply> reply = RVRepositoryTestAccess::startListing(watched.repository);
+    const QPointer<XNetworkReply> reply = watched.startListing();
     QObject::connect(reply, &XNetworkReply::abortOut, reply, [&] {
         reply->setError(QNetworkReply::OperationCanceledError, QStringLiteral("cancelled"));
         reply->finish();
@@ -678,7 +717,7 @@ void tst_RVRepository::cancelWhileFetching()
     addUpdate(QStringLiteral("a"), "a", "1");
     addUpdate(QStringLiteral("b"), "b", "1");
     Watched watched(location());
-    watched.repository.refresh();
+    watched.refresh();
     QVERIFY(watched.signalTexts.isEmpty());
     watched.repository.cancel();
     QTRY_COMPARE(watched.count("refreshDone 0"), 1);
@@ -693,7 +732,7 @@ void tst_RVRepository::cancelAfterTheEnd()
 {
     addUpdate(QStringLiteral("a"), "a", "1");
     Watched watched(location());
-    watched.repository.refresh();
+    watched.refresh();
     QTRY_COMPARE(watched.signalTexts.size(), 1);
     watched.repository.cancel();
     deliverEverything();
@@ -707,10 +746,10 @@ void tst_RVRepository::secondRefreshDropsTheFetch()
     QVERIFY(QDir().mkdir(other));
     addUpdate(QStringLiteral("other/b"), "b", "1");
     Watched watched(location());
-    watched.repository.refresh();
-    watched.repository.refresh();
+    watched.refresh();
+    watched.refresh();
     watched.repository.setUrl(other);
-    watched.repository.refresh();
+    watched.refresh();
     QTRY_COMPARE(watched.count("refreshDone"), 1);
     deliverEverything();
     QCOMPARE(watched.signalTexts, QStringList(QStringLiteral("refreshDone 0")));
@@ -722,9 +761,9 @@ void tst_RVRepository::secondRefreshDropsTheListing()
 {
     addUpdate(QStringLiteral("a"), "a", "1");
     Watched watched(location());
-    const QPointer<XNetworkReply> reply = RVRepositoryTestAccess::startListing(watched.repository);
+    const QPointer<XNetworkReply> reply = watched.startListing();
     QSignalSpy aborts(reply, &XNetworkReply::abortOut);
-    watched.repository.refresh();
+    watched.refresh();
     QCOMPARE(aborts.count(), 1);
     // What the first one still says goes nowhere.
     reply->fail(QNetworkReply::OperationCanceledError, QStringLiteral("cancelled"));
@@ -767,10 +806,10 @@ void tst_RVRepository::refreshFromTheSlots()
         if (signal == trigger && !reacted) {
             reacted = true;
             watched.repository.setUrl(path(QStringLiteral("full")));
-            watched.repository.refresh();
+            watched.refresh();
         }
     };
-    watched.repository.refresh();
+    watched.refresh();
     QTRY_COMPARE(watched.signalTexts, expected);
     deliverEverything();
     QCOMPARE(watched.signalTexts, expected);
@@ -795,9 +834,9 @@ void tst_RVRepository::canBeDestroyedAtAnyTime()
         Watched watched(state == QLatin1String("failed") ? QUrl(QStringLiteral("/none"))
                                                          : location());
         if (state == QLatin1String("listing")) {
-            reply = RVRepositoryTestAccess::startListing(watched.repository);
+            reply = watched.startListing();
         } else if (state != QLatin1String("idle")) {
-            watched.repository.refresh();
+            watched.refresh();
         }
         if (state == QLatin1String("finished")) {
             QTRY_COMPARE(watched.signalTexts.size(), 1);
@@ -811,7 +850,7 @@ void tst_RVRepository::releasesWhatARefreshUsed()
     addUpdate(QStringLiteral("a"), "a", "1");
     Watched watched(location());
     for (int i = 1; i <= 3; ++i) {
-        watched.repository.refresh();
+        watched.refresh();
         QTRY_COMPARE(watched.signalTexts.size(), i);
     }
     deliverEverything();
@@ -850,7 +889,7 @@ void tst_RVRepository::proxy()
     watched.repository.setProxy(host, port);
     QCOMPARE(watched.repository.proxyHost(), host);
     QCOMPARE(watched.repository.proxyPort(), port);
-    watched.repository.refresh();
+    watched.refresh();
     const auto *manager = watched.repository.findChild<XNetworkAccessManager *>();
     QVERIFY(manager);
     const QNetworkProxy used = manager->proxy();
@@ -904,7 +943,7 @@ void tst_RVRepository::authentication()
     auth.setUser(tried.section(QLatin1Char('/'), 0, 0));
     auth.setPassword(tried.section(QLatin1Char('/'), 1));
     // As a server's challenge to the listing arrives.
-    const QPointer<XNetworkReply> reply = RVRepositoryTestAccess::startListing(watched.repository);
+    const QPointer<XNetworkReply> reply = watched.startListing();
     reply->setUrl(watched.repository.url());
     QVERIFY(QMetaObject::invokeMethod(&watched.repository, "attemptAuthentication",
                                       Q_ARG(QNetworkReply *, reply.data()),
@@ -955,7 +994,7 @@ void tst_RVRepository::loginsForOtherPlaces()
     connect(&watched.repository, &RVRepository::authenticationRequired, this, [&] {
         ++questions;
     });
-    const QPointer<XNetworkReply> reply = RVRepositoryTestAccess::startListing(watched.repository);
+    const QPointer<XNetworkReply> reply = watched.startListing();
     reply->setUrl(QUrl(asking));
     QAuthenticator auth;
     QVERIFY(QMetaObject::invokeMethod(&watched.repository, "attemptAuthentication",
@@ -1011,7 +1050,7 @@ void tst_RVRepository::serverThatAsks()
     connect(&watched.repository, &RVRepository::authenticationRequired, this, [&] {
         ++questions;
     });
-    const QPointer<XNetworkReply> reply = RVRepositoryTestAccess::startListing(watched.repository);
+    const QPointer<XNetworkReply> reply = watched.startListing();
     for (const char *name : {"/a.deb", "/a.xml"}) {
         XUrlInfo item;
         item.setName(server.url(QLatin1String(name)).toString());
@@ -1046,7 +1085,7 @@ void tst_RVRepository::passesQuestionsOn()
     const QList<QSslError> errors{QSslError(QSslError::HostNameMismatch)};
 
     XNetworkReply reply;
-    watched.repository.refresh();
+    watched.refresh();
     auto *manager = watched.repository.findChild<XNetworkAccessManager *>();
     QVERIFY(manager);
     manager->relayProxyAuthenticationRequired(proxy, &auth);
@@ -1069,12 +1108,12 @@ void tst_RVRepository::passesQuestionsOn()
 void tst_RVRepository::passwordsStayOutOfTheLog()
 {
     Watched watched(QUrl(QStringLiteral("gopher://me:secret@h/")));
-    watched.repository.refresh();
+    watched.refresh();
     watched.repository.setUrl(location());
     QUrl local = location();
     local.setUserInfo(QStringLiteral("me:secret"));
     watched.repository.setUrl(local);
-    watched.repository.refresh();
+    watched.refresh();
     QVERIFY(m_log->contains(QStringLiteral("Refreshing repository('gopher://me@h/')")));
     QVERIFY(m_log->contains(QStringLiteral("Finished directory fetch('gopher://me@h/'), Err=302")));
     QVERIFY(!m_log->raw().contains("secret"));

@@ -241,7 +241,9 @@ void TestPasswords::stayHidden_data()
         auto *table =
             keep<SelectionTable>(QList<RVData>{m_world->remoteEntry(url)},
                                  SelectionTable::CheckBoxes, &m_system, nullptr, m_world->paths());
-        table->setRepository(url, QSharedPointer<RVKeyring>::create());
+        RVAccess access;
+        access.server = url;
+        table->setAccess(access);
         table->setAuthenticationCredentials(QStringLiteral("me"), secret);
         table->show();
         m_world->setInstaller("ls -R . >&2; echo \"$0 $*\"; env; exit 3");

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "install/RVInstallProc.h"
 #include "repository/RVRepository.h"
+#include "tests/support/HttpServer.h"
 #include "tests/support/LogFile.h"
 #include "tests/support/WarningGuard.h"
 #include "tests/ui/Spoken.h"
@@ -25,6 +26,7 @@
 #include <QVBoxLayout>
 
 #include <memory>
+#include <sys/stat.h>
 
 namespace
 {
@@ -84,6 +86,8 @@ private Q_SLOTS:
     void walksItsStates_data();
     void walksItsStates();
     void showsTheErrorPageForAMissingDirectory();
+    void leavesTheRetrievalPage_data();
+    void leavesTheRetrievalPage();
     void keepsAnOpenQuestion();
     void namesWhoAsks_data();
     void namesWhoAsks();
@@ -509,6 +513,45 @@ void TestRVControlFrame::showsTheErrorPageForAMissingDirectory()
     QVERIFY(!errors.isEmpty());
     QCoreApplication::processEvents();
     QCOMPARE(frame->currentPage(), Frame::ErrorPage);
+}
+
+void TestRVControlFrame::leavesTheRetrievalPage_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<bool>("byPage");
+    QTest::newRow("a link to a pipe") << QStringLiteral("pipe") << false;
+    QTest::newRow("a link to a device") << QStringLiteral("/dev/zero") << false;
+    QTest::newRow("a link to an endless file of proc") << QStringLiteral("/proc/kmsg") << false;
+    QTest::newRow("a page that names a device") << QStringLiteral("/dev/zero") << true;
+    QTest::newRow("a page that names a file of proc, with a NUL behind it")
+        << QStringLiteral("/proc/kmsg%00.xml") << true;
+}
+
+// The only descriptor is a file that is never opened.
+void TestRVControlFrame::leavesTheRetrievalPage()
+{
+    QFETCH(QString, target);
+    QFETCH(bool, byPage);
+    const QString pipe = m_world->file(QStringLiteral("pipe"));
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    HttpServer server;
+    if (byPage) {
+        for (const char *warning : {"Found no backend", "Repositories filters", "  '", "  but"}) {
+            m_guard->allow(QLatin1String(warning));
+        }
+        server.serve(QStringLiteral("/"), "<a href='file://" + target.toUtf8() + "#.deb'>a</a>");
+        m_repository->setUrl(server.url(QStringLiteral("/")));
+    } else {
+        const QString link = m_world->repository() + QStringLiteral("/a.deb");
+        QVERIFY(QFile::link(QDir(m_world->file(QString())).filePath(target), link));
+    }
+    m_repository->addFilter(QRegExp(QStringLiteral("\\.deb$")), QRegExp(QStringLiteral("\\.deb$")));
+    const QSignalSpy ended(m_repository.get(), &RVRepository::refreshEnded);
+    const auto frame = this->frame();
+    frame->enterRetrievalState();
+    QTRY_COMPARE(ended.size(), 1);
+    QVERIFY(frame->currentPage() != Frame::RetrievalPage);
+    QVERIFY(!m_repository->isRefreshing());
 }
 
 void TestRVControlFrame::keepsAnOpenQuestion()

@@ -1039,7 +1039,9 @@ void TestSelectionTable::answersWithItsCredentials()
     const RVData entry = m_world->remoteEntry(server.url(QStringLiteral("/a.deb")));
     m_world->setInstaller("cat a.deb >" + QFile::encodeName(m_world->file(QStringLiteral("seen"))));
     Table table({entry}, Table::CheckBoxes, m_system.get(), nullptr, m_world->paths());
-    table.setRepository(server.url(QStringLiteral("/dir/")), QSharedPointer<RVKeyring>::create());
+    RVAccess access;
+    access.server = server.url(QStringLiteral("/dir/"));
+    table.setAccess(access);
     table.setAuthenticationCredentials(QStringLiteral("user"), QStringLiteral("secret"));
     QSignalSpy asked(&table, &Table::authenticationRequired);
     QSignalSpy finished(&table, &Table::installFinished);
@@ -1064,7 +1066,10 @@ void TestSelectionTable::offersItsCredentialsToNobodyElse()
     m_world->setInstaller("cat a.deb >" + QFile::encodeName(m_world->file(QStringLiteral("seen"))));
     Table table({m_world->remoteEntry(archive)}, Table::CheckBoxes, m_system.get(), nullptr,
                 m_world->paths());
-    table.setRepository(repository, keyring);
+    RVAccess access;
+    access.server = repository;
+    access.keyring = keyring;
+    table.setAccess(access);
     table.setAuthenticationCredentials(QStringLiteral("user"), QStringLiteral("secret"));
     QSignalSpy asked(&table, &Table::authenticationRequired);
     QSignalSpy failed(&table, &Table::installError);
