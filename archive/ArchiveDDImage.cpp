@@ -7,7 +7,6 @@
 #include "core/RVLogger.h"
 #include "core/RVUrl.h"
 
-#include <QFileInfo>
 #include <QPointer>
 #include <QProcessEnvironment>
 #include <QRegularExpression>
@@ -176,10 +175,9 @@ QByteArrayList ArchiveDDImage::proxyLines() const
 QByteArray ArchiveDDImage::script() const
 {
     const QString deployDir = m_paths.writableDir + QStringLiteral("/CV");
-    const bool isEtcReadOnly =
-        QFileInfo(m_paths.etcDir).isSymLink() && QFileInfo(m_paths.writableDir).isDir();
     const QString autoUpdateDir =
-        (isEtcReadOnly ? m_paths.writableDir : m_paths.etcDir) + QStringLiteral("/auto-update");
+        (m_paths.isEtcReadOnly() ? m_paths.writableDir : m_paths.etcDir)
+        + QStringLiteral("/auto-update");
     const QByteArray port = m_url.port() >= 0 ? ':' + QByteArray::number(m_url.port()) : "";
 
     // Concatenated: a value that looks like a placeholder stays what it is.

@@ -2,16 +2,19 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "core/RVPaths.h"
 
+#include <QFileInfo>
 #include <QSettings>
 
 RVPaths RVPaths::under(const QString &root)
 {
     RVPaths paths;
-    for (QString *path : {&paths.imageId, &paths.servicePackDir, &paths.hardwareTool,
-                          &paths.definitionDir, &paths.rootLog, &paths.userLog, &paths.xarInstaller,
-                          &paths.rebootTool, &paths.etcDir, &paths.writableDir}) {
+    for (QString *path :
+         {&paths.imageId, &paths.servicePackDir, &paths.hardwareTool, &paths.definitionDir,
+          &paths.rootLog, &paths.userLog, &paths.xarInstaller, &paths.rebootTool, &paths.etcDir,
+          &paths.writableDir, &paths.keyringDir, &paths.stateDir, &paths.writableStateDir}) {
         path->prepend(root);
     }
+    paths.userStateDir = root + QStringLiteral("/.local/state/ravel");
     paths.packageStatus = root + QStringLiteral("/var/lib/dpkg/status");
     paths.installerEnvironment = QStringList{
         QStringLiteral("DPKG_ROOT=") + root,
@@ -30,4 +33,9 @@ RVPaths RVPaths::enterRoot(const QString &root)
     // dpkg's log has a fixed place outside its root, unless root's own .dpkg.cfg moves it.
     paths.installerEnvironment.append(QLatin1String("HOME=") + root);
     return paths;
+}
+
+bool RVPaths::isEtcReadOnly() const
+{
+    return QFileInfo(etcDir).isSymLink() && QFileInfo(writableDir).isDir();
 }

@@ -25,9 +25,18 @@ struct RVPaths {
     /// Where the full-image installer leaves its configuration, and how it tells a read-only /etc.
     QString etcDir = QStringLiteral("/etc");
     QString writableDir = QStringLiteral("/writable");
+    /// The keyrings that definitions name.
+    QString keyringDir = QStringLiteral("/etc/cvtc-ravel/keys");
+    /// What a program of root's remembers of signed repositories; the second where /etc is
+    /// read-only.
+    QString stateDir = QStringLiteral("/var/lib/ravel");
+    QString writableStateDir = QStringLiteral("/writable/ravel");
+    /// The same of any other user's program; empty means the one of the running user.
+    QString userStateDir;
     /// Belong to the running program and not to the system that it updates: under() leaves them.
     QString shell = QStringLiteral("/bin/bash");
     QString trueTool = QStringLiteral("/bin/true");
+    QString signatureTool = QStringLiteral("/usr/bin/gpgv");
     QString iconDir = QStringLiteral("/usr/share/icons/Rodent/scalable/stock");
 
     /// "NAME=value" entries added to the installer's environment; none on the device itself.
@@ -37,6 +46,8 @@ struct RVPaths {
     /// and programs move, packageStatus is root's own database, and the installer's environment
     /// makes an unmodified dpkg work on that root, as an ordinary user too.
     static RVPaths under(const QString &root);
+    /// Whether the system keeps what changes in writableDir, because /etc is read-only.
+    bool isEtcReadOnly() const;
     /// under() for a program that works on `root` alone: its settings are read and stored there
     /// too, and the package tool finds its own configuration there.
     static RVPaths enterRoot(const QString &root);

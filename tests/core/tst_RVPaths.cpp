@@ -37,6 +37,10 @@ void tst_RVPaths::paths_data()
     row("reboot tool", &RVPaths::rebootTool, "/usr/sbin/cvtc-ts-reboot", true);
     row("configuration", &RVPaths::etcDir, "/etc", true);
     row("mark of a read-only system", &RVPaths::writableDir, "/writable", true);
+    row("keyrings", &RVPaths::keyringDir, "/etc/cvtc-ravel/keys", true);
+    row("root's state", &RVPaths::stateDir, "/var/lib/ravel", true);
+    row("root's state on a read-only system", &RVPaths::writableStateDir, "/writable/ravel", true);
+    row("gpgv", &RVPaths::signatureTool, "/usr/bin/gpgv", false);
     row("shell", &RVPaths::shell, "/bin/bash", false);
     row("true", &RVPaths::trueTool, "/bin/true", false);
     row("icons", &RVPaths::iconDir, "/usr/share/icons/Rodent/scalable/stock", false);
