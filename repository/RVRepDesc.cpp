@@ -22,6 +22,8 @@ void RVRepDesc::parse(QDomElement &repository)
     xml.elementsToQString(repository, QStringLiteral("icon"), &icon);
     xml.elementsToBool(repository, QStringLiteral("filter_sps"), &filterSps);
 
+    trust = RVTrustPolicy::parse(repository);
+
     QString uri;
     if (xml.elementsToQString(repository, QStringLiteral("default_uri"), &uri)) {
         defaultUri = QUrl::fromEncoded(uri.toUtf8());

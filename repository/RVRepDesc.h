@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "repository/RVTrustPolicy.h"
+
 #include <plume/LocaleString.h>
 
 #include <QObject>
@@ -36,4 +38,5 @@ public:
     QString selectorType;
     QString icon;
     bool filterSps = false;
+    RVTrustPolicy trust;
 };
