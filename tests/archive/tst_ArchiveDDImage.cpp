@@ -69,7 +69,7 @@ QMap<QByteArray, QByteArray> keys(const QByteArray &configuration)
 
 } // namespace
 
-class TestArchiveDDImage : public QObject
+class tst_ArchiveDDImage : public QObject
 {
     Q_OBJECT
 
@@ -121,7 +121,7 @@ private:
     std::unique_ptr<QProcess> m_process;
 };
 
-void TestArchiveDDImage::init()
+void tst_ArchiveDDImage::init()
 {
     m_log = std::make_unique<LogFile>();
     m_warnings = std::make_unique<WarningGuard>();
@@ -136,7 +136,7 @@ void TestArchiveDDImage::init()
     m_process = std::make_unique<QProcess>();
 }
 
-void TestArchiveDDImage::cleanup()
+void tst_ArchiveDDImage::cleanup()
 {
     QDir::setCurrent(QStringLiteral("/"));
     QVERIFY2(m_warnings->isClean(), m_warnings->report());
@@ -145,7 +145,7 @@ void TestArchiveDDImage::cleanup()
     m_log.reset();
 }
 
-int TestArchiveDDImage::install(const QUrl &url, const QString &proxyHost, int proxyPort)
+int tst_ArchiveDDImage::install(const QUrl &url, const QString &proxyHost, int proxyPort)
 {
     Answer yes(true);
     ArchiveDDImage image(url, nullptr, m_root->paths());
@@ -155,7 +155,7 @@ int TestArchiveDDImage::install(const QUrl &url, const QString &proxyHost, int p
     return m_process->waitForFinished(10000) ? m_process->exitCode() : -1;
 }
 
-void TestArchiveDDImage::handlesUrlsByPath_data()
+void tst_ArchiveDDImage::handlesUrlsByPath_data()
 {
     QTest::addColumn<QString>("url");
     QTest::addColumn<bool>("handled");
@@ -168,13 +168,13 @@ void TestArchiveDDImage::handlesUrlsByPath_data()
     QTest::newRow("empty") << "" << false;
 }
 
-void TestArchiveDDImage::handlesUrlsByPath()
+void tst_ArchiveDDImage::handlesUrlsByPath()
 {
     QFETCH(QString, url);
     QTEST(ArchiveDDImage(QUrl(url)).urlIsHandled(), "handled");
 }
 
-void TestArchiveDDImage::isNeverExtracted()
+void tst_ArchiveDDImage::isNeverExtracted()
 {
     const ArchiveDDImage image(QUrl(QStringLiteral("http://h/x.dd.gz")));
     QVERIFY(!image.useExtract());
@@ -188,7 +188,7 @@ void TestArchiveDDImage::isNeverExtracted()
     QVERIFY(thrown);
 }
 
-void TestArchiveDDImage::script_data()
+void tst_ArchiveDDImage::script_data()
 {
     QTest::addColumn<QString>("url");
     QTest::addColumn<QString>("proxyHost");
@@ -228,7 +228,7 @@ void TestArchiveDDImage::script_data()
         << QByteArray("x.dd.gz");
 }
 
-void TestArchiveDDImage::script()
+void tst_ArchiveDDImage::script()
 {
     QFETCH(QString, url);
     QFETCH(QString, proxyHost);
@@ -285,14 +285,14 @@ void TestArchiveDDImage::script()
                    "exec /usr/sbin/cvtc-ts-reboot\n");
 }
 
-void TestArchiveDDImage::abortLeavesTheDevice_data()
+void tst_ArchiveDDImage::abortLeavesTheDevice_data()
 {
     QTest::addColumn<bool>("isAsked");
     QTest::newRow("the answer is no") << true;
     QTest::newRow("nobody to ask") << false;
 }
 
-void TestArchiveDDImage::abortLeavesTheDevice()
+void tst_ArchiveDDImage::abortLeavesTheDevice()
 {
     QFETCH(bool, isAsked);
     Answer no(false);
@@ -315,7 +315,7 @@ void TestArchiveDDImage::abortLeavesTheDevice()
                      QStringLiteral("Image installation aborted by user.")}));
 }
 
-void TestArchiveDDImage::confirmedImageReboots()
+void tst_ArchiveDDImage::confirmedImageReboots()
 {
     Answer yes(true);
     ArchiveDDImage image(QUrl(QStringLiteral("http://u:p@h/dir/x.dd.gz")), nullptr,
@@ -345,7 +345,7 @@ void TestArchiveDDImage::confirmedImageReboots()
                  QStringLiteral("Preparing for image installation of 'http://u@h/dir/x.dd.gz'")));
 }
 
-void TestArchiveDDImage::autoUpdateDirectory_data()
+void tst_ArchiveDDImage::autoUpdateDirectory_data()
 {
     QTest::addColumn<bool>("isEtcLink");
     QTest::addColumn<bool>("isWritableThere");
@@ -356,7 +356,7 @@ void TestArchiveDDImage::autoUpdateDirectory_data()
     QTest::newRow("etc is a link, no writable") << true << false << "/etc/auto-update";
 }
 
-void TestArchiveDDImage::autoUpdateDirectory()
+void tst_ArchiveDDImage::autoUpdateDirectory()
 {
     QFETCH(bool, isEtcLink);
     QFETCH(bool, isWritableThere);
@@ -375,7 +375,7 @@ void TestArchiveDDImage::autoUpdateDirectory()
              directory.startsWith(QLatin1String("/writable")));
 }
 
-void TestArchiveDDImage::directoryCannotBeMade_data()
+void tst_ArchiveDDImage::directoryCannotBeMade_data()
 {
     QTest::addColumn<QString>("obstacle");
     QTest::addColumn<QString>("message");
@@ -385,7 +385,7 @@ void TestArchiveDDImage::directoryCannotBeMade_data()
                                  << "Could not mkdir %1/etc/auto-update";
 }
 
-void TestArchiveDDImage::directoryCannotBeMade()
+void tst_ArchiveDDImage::directoryCannotBeMade()
 {
     QFETCH(QString, obstacle);
     QFETCH(QString, message);
@@ -398,7 +398,7 @@ void TestArchiveDDImage::directoryCannotBeMade()
     QVERIFY(!QFile::exists(m_root->path() + QStringLiteral("/reboot.log")));
 }
 
-void TestArchiveDDImage::urlArrivesUnchanged_data()
+void tst_ArchiveDDImage::urlArrivesUnchanged_data()
 {
     QTest::addColumn<QUrl>("url");
     const auto add = [](const char *name, const QString &text) {
@@ -445,7 +445,7 @@ void TestArchiveDDImage::urlArrivesUnchanged_data()
     QTest::newRow("name is the suffix") << QUrl(QStringLiteral("http://h/.dd.gz"));
 }
 
-void TestArchiveDDImage::urlArrivesUnchanged()
+void tst_ArchiveDDImage::urlArrivesUnchanged()
 {
     QFETCH(QUrl, url);
     QVERIFY(url.isValid());
@@ -474,7 +474,7 @@ void TestArchiveDDImage::urlArrivesUnchanged()
     QVERIFY(!QFile::exists(QStringLiteral("/pwned")));
 }
 
-void TestArchiveDDImage::controlCharacterIsRefused_data()
+void tst_ArchiveDDImage::controlCharacterIsRefused_data()
 {
     QTest::addColumn<QString>("url");
     QTest::newRow("line feed") << "http://h/a%0Ab.dd.gz";
@@ -485,7 +485,7 @@ void TestArchiveDDImage::controlCharacterIsRefused_data()
     QTest::newRow("control of the second set") << "http://h/a%C2%85b.dd.gz";
 }
 
-void TestArchiveDDImage::controlCharacterIsRefused()
+void tst_ArchiveDDImage::controlCharacterIsRefused()
 {
     QFETCH(QString, url);
     Answer yes(true);
@@ -504,7 +504,7 @@ void TestArchiveDDImage::controlCharacterIsRefused()
     QVERIFY(m_log->contains(QStringLiteral("The image's file name holds a control character")));
 }
 
-void TestArchiveDDImage::proxyLine_data()
+void tst_ArchiveDDImage::proxyLine_data()
 {
     QTest::addColumn<QString>("host");
     QTest::addColumn<int>("port");
@@ -528,7 +528,7 @@ void TestArchiveDDImage::proxyLine_data()
     QTest::newRow("bracket alone") << "[px" << 80 << QByteArray() << true;
 }
 
-void TestArchiveDDImage::proxyLine()
+void tst_ArchiveDDImage::proxyLine()
 {
     QFETCH(QString, host);
     QFETCH(int, port);
@@ -543,7 +543,7 @@ void TestArchiveDDImage::proxyLine()
         isLogged);
 }
 
-void TestArchiveDDImage::shellSettingsAreRemoved()
+void tst_ArchiveDDImage::shellSettingsAreRemoved()
 {
     FakeRoot::write(m_work->filePath(QStringLiteral("start/run")), "touch /tmp/ravel_pwned\n");
     const QByteArray start = QFile::encodeName(m_work->filePath(QStringLiteral("start/run")));
@@ -573,7 +573,7 @@ void TestArchiveDDImage::shellSettingsAreRemoved()
     QVERIFY(names.contains(QStringLiteral("PATH")));
 }
 
-void TestArchiveDDImage::installerEnvironmentStays()
+void tst_ArchiveDDImage::installerEnvironmentStays()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("RAVEL_TEST"), QStringLiteral("kept"));
@@ -585,7 +585,7 @@ void TestArchiveDDImage::installerEnvironmentStays()
     QVERIFY(!recorded.contains("BASH_ENV"));
 }
 
-void TestArchiveDDImage::scriptThatCannotBeWritten()
+void tst_ArchiveDDImage::scriptThatCannotBeWritten()
 {
     QVERIFY(QDir().mkpath(QStringLiteral("RVinstall.sh/full")));
     QCOMPARE(install(QUrl(QStringLiteral("http://h/x.dd.gz"))), 1);
@@ -593,7 +593,7 @@ void TestArchiveDDImage::scriptThatCannotBeWritten()
     QVERIFY(!QFile::exists(m_root->path() + QStringLiteral("/reboot.log")));
 }
 
-void TestArchiveDDImage::plantedScriptIsReplaced()
+void tst_ArchiveDDImage::plantedScriptIsReplaced()
 {
     const QString victim = m_root->path() + QStringLiteral("/victim");
     FakeRoot::write(victim, "untouched");
@@ -604,7 +604,7 @@ void TestArchiveDDImage::plantedScriptIsReplaced()
     QCOMPARE(mode(QStringLiteral("RVinstall.sh")), 0700);
 }
 
-void TestArchiveDDImage::processGoneWhileAsking()
+void tst_ArchiveDDImage::processGoneWhileAsking()
 {
     class Leave : public ImageQuestion
     {
@@ -631,14 +631,14 @@ void TestArchiveDDImage::processGoneWhileAsking()
     QVERIFY(!QFile::exists(QStringLiteral("RVinstall.sh")));
 }
 
-void TestArchiveDDImage::isAskedThroughTheProcedure_data()
+void tst_ArchiveDDImage::isAskedThroughTheProcedure_data()
 {
     QTest::addColumn<bool>("confirmed");
     QTest::newRow("yes") << true;
     QTest::newRow("no") << false;
 }
 
-void TestArchiveDDImage::isAskedThroughTheProcedure()
+void tst_ArchiveDDImage::isAskedThroughTheProcedure()
 {
     QFETCH(bool, confirmed);
     const QUrl url(QStringLiteral("http://h/x.dd.gz"));
@@ -658,5 +658,5 @@ void TestArchiveDDImage::isAskedThroughTheProcedure()
     QCOMPARE(QFile::exists(m_root->path() + QStringLiteral("/reboot.log")), confirmed);
 }
 
-QTEST_GUILESS_MAIN(TestArchiveDDImage)
+QTEST_GUILESS_MAIN(tst_ArchiveDDImage)
 #include "tst_ArchiveDDImage.moc"

@@ -96,7 +96,7 @@ QByteArray packed(const QString &program, const QByteArray &bytes)
 
 } // namespace
 
-class TestArchiveXar : public QObject
+class tst_ArchiveXar : public QObject
 {
     Q_OBJECT
 
@@ -153,7 +153,7 @@ private:
     QStringList m_outside;
 };
 
-void TestArchiveXar::init()
+void tst_ArchiveXar::init()
 {
     m_log = std::make_unique<LogFile>();
     m_warnings = std::make_unique<WarningGuard>();
@@ -170,7 +170,7 @@ void TestArchiveXar::init()
     QVERIFY(QDir::setCurrent(work()));
 }
 
-void TestArchiveXar::cleanup()
+void tst_ArchiveXar::cleanup()
 {
     QDir::setCurrent(QStringLiteral("/"));
     QCOMPARE(listing(outside()), m_outside);
@@ -184,7 +184,7 @@ void TestArchiveXar::cleanup()
     m_dir.reset();
 }
 
-void TestArchiveXar::handlesUrlsBySuffix_data()
+void tst_ArchiveXar::handlesUrlsBySuffix_data()
 {
     QTest::addColumn<QString>("url");
     QTest::addColumn<bool>("handled");
@@ -197,13 +197,13 @@ void TestArchiveXar::handlesUrlsBySuffix_data()
     QTest::newRow("empty") << "" << false;
 }
 
-void TestArchiveXar::handlesUrlsBySuffix()
+void tst_ArchiveXar::handlesUrlsBySuffix()
 {
     QFETCH(QString, url);
     QTEST(ArchiveXar(QUrl(url)).urlIsHandled(), "handled");
 }
 
-void TestArchiveXar::isExtracted()
+void tst_ArchiveXar::isExtracted()
 {
     ArchiveXar archive(archiveUrl());
     QVERIFY(archive.useExtract());
@@ -211,7 +211,7 @@ void TestArchiveXar::isExtracted()
     archive.setProxy(QStringLiteral("px"), 1);
 }
 
-void TestArchiveXar::unpacksSamples_data()
+void tst_ArchiveXar::unpacksSamples_data()
 {
     QTest::addColumn<QStringList>("files");
     const QStringList tree{
@@ -229,7 +229,7 @@ void TestArchiveXar::unpacksSamples_data()
                        QStringLiteral("zeta 40000 755 0"), QStringLiteral("zeta/f 100000 644 2")};
 }
 
-void TestArchiveXar::unpacksSamples()
+void tst_ArchiveXar::unpacksSamples()
 {
     QVERIFY(extract(sample(QString::fromLatin1(QTest::currentDataTag()))));
     QFETCH(QStringList, files);
@@ -240,7 +240,7 @@ void TestArchiveXar::unpacksSamples()
     QCOMPARE(m_log->lines(), QStringList());
 }
 
-void TestArchiveXar::unpacksEncodings_data()
+void tst_ArchiveXar::unpacksEncodings_data()
 {
     QTest::addColumn<QByteArray>("encoding");
     QTest::addColumn<QString>("program");
@@ -251,7 +251,7 @@ void TestArchiveXar::unpacksEncodings_data()
     QTest::newRow("lzma") << QByteArray("application/x-lzma") << QStringLiteral("lzma");
 }
 
-void TestArchiveXar::unpacksEncodings()
+void tst_ArchiveXar::unpacksEncodings()
 {
     QFETCH(QByteArray, encoding);
     QFETCH(QString, program);
@@ -276,7 +276,7 @@ void TestArchiveXar::unpacksEncodings()
     QVERIFY(!QFile::exists(work(QStringLiteral("file"))));
 }
 
-void TestArchiveXar::unpacksArchiveOfAnotherArchiver()
+void tst_ArchiveXar::unpacksArchiveOfAnotherArchiver()
 {
     QTemporaryDir tree;
     FakeRoot::write(tree.filePath(QStringLiteral("sp-2.0/files/readme")), "text");
@@ -303,7 +303,7 @@ void TestArchiveXar::unpacksArchiveOfAnotherArchiver()
     }
 }
 
-void TestArchiveXar::modes_data()
+void tst_ArchiveXar::modes_data()
 {
     QTest::addColumn<QByteArray>("stored");
     QTest::addColumn<int>("unpacked");
@@ -315,7 +315,7 @@ void TestArchiveXar::modes_data()
     QTest::newRow("both") << QByteArray("06777") << 0777;
 }
 
-void TestArchiveXar::modes()
+void tst_ArchiveXar::modes()
 {
     QFETCH(QByteArray, stored);
     QFETCH(int, unpacked);
@@ -332,7 +332,7 @@ void TestArchiveXar::modes()
     QCOMPARE(mode(work(QStringLiteral("dir"))), unpacked);
 }
 
-void TestArchiveXar::ownerIsNotTakenOver()
+void tst_ArchiveXar::ownerIsNotTakenOver()
 {
     XarWriter::Member member;
     member.names = {"file"};
@@ -345,14 +345,14 @@ void TestArchiveXar::ownerIsNotTakenOver()
     QCOMPARE(info.ownerId(), ::geteuid());
 }
 
-void TestArchiveXar::namesOfAllScripts_data()
+void tst_ArchiveXar::namesOfAllScripts_data()
 {
     QTest::addColumn<QByteArray>("locale");
     QTest::newRow("locale C") << QByteArray("C");
     QTest::newRow("locale C.UTF-8") << QByteArray("C.UTF-8");
 }
 
-void TestArchiveXar::namesOfAllScripts()
+void tst_ArchiveXar::namesOfAllScripts()
 {
     QFETCH(QByteArray, locale);
     const QByteArray before = ::setlocale(LC_CTYPE, nullptr);
@@ -369,7 +369,7 @@ void TestArchiveXar::namesOfAllScripts()
     QCOMPARE(contents(work(QStringLiteral("a&b c:d*%1"))), QByteArray("y"));
 }
 
-void TestArchiveXar::linksAreUnpacked()
+void tst_ArchiveXar::linksAreUnpacked()
 {
     XarWriter writer;
     writer.addFile("file", "content");
@@ -385,7 +385,7 @@ void TestArchiveXar::linksAreUnpacked()
     QCOMPARE(static_cast<int>(status.st_nlink), 2);
 }
 
-void TestArchiveXar::secondArchiveAddsToTheDirectory()
+void tst_ArchiveXar::secondArchiveAddsToTheDirectory()
 {
     XarWriter first;
     first.openDirectory("sp");
@@ -404,7 +404,7 @@ void TestArchiveXar::secondArchiveAddsToTheDirectory()
     QCOMPARE(contents(work(QStringLiteral("sp/both"))), QByteArray("2"));
 }
 
-void TestArchiveXar::failsQuietly_data()
+void tst_ArchiveXar::failsQuietly_data()
 {
     QTest::addColumn<QByteArray>("archive");
     QTest::newRow("nothing") << QByteArray();
@@ -420,7 +420,7 @@ void TestArchiveXar::failsQuietly_data()
     QTest::newRow("another byte in a member") << QByteArray(good).replace(20000, 1, "\xff");
 }
 
-void TestArchiveXar::failsQuietly()
+void tst_ArchiveXar::failsQuietly()
 {
     QFETCH(QByteArray, archive);
     QVERIFY(!extract(archive));
@@ -431,7 +431,7 @@ void TestArchiveXar::failsQuietly()
     QVERIFY(!ArchiveXar(archiveUrl()).extract(&missing));
 }
 
-void TestArchiveXar::failsOutOfBounds_data()
+void tst_ArchiveXar::failsOutOfBounds_data()
 {
     QTest::addColumn<QByteArray>("archive");
     QTest::addColumn<QString>("line");
@@ -461,7 +461,7 @@ void TestArchiveXar::failsOutOfBounds_data()
         << announce(0x7fffffffffffffff, 3) << "The xar archive needs ";
 }
 
-void TestArchiveXar::failsOutOfBounds()
+void tst_ArchiveXar::failsOutOfBounds()
 {
     QFETCH(QByteArray, archive);
     QFETCH(QString, line);
@@ -475,7 +475,7 @@ void TestArchiveXar::failsOutOfBounds()
     QVERIFY2(lines.first().startsWith(line), qPrintable(lines.first()));
 }
 
-void TestArchiveXar::hostile_data()
+void tst_ArchiveXar::hostile_data()
 {
     QTest::addColumn<QByteArray>("archive");
     const auto with = [](const std::function<void(XarWriter *)> &add) {
@@ -640,7 +640,7 @@ void TestArchiveXar::hostile_data()
     });
 }
 
-void TestArchiveXar::hostile()
+void tst_ArchiveXar::hostile()
 {
     QFETCH(QByteArray, archive);
     QElapsedTimer timer;
@@ -653,7 +653,7 @@ void TestArchiveXar::hostile()
     // What lies outside is looked at after each test.
 }
 
-void TestArchiveXar::oddButHarmless_data()
+void tst_ArchiveXar::oddButHarmless_data()
 {
     QTest::addColumn<QByteArray>("archive");
     QTest::addColumn<QByteArray>("unpacked");
@@ -675,7 +675,7 @@ void TestArchiveXar::oddButHarmless_data()
     QTest::newRow("hard link to nothing") << link.archive() << QByteArray();
 }
 
-void TestArchiveXar::oddButHarmless()
+void tst_ArchiveXar::oddButHarmless()
 {
     QFETCH(QByteArray, archive);
     QVERIFY(extract(archive));
@@ -683,7 +683,7 @@ void TestArchiveXar::oddButHarmless()
     QCOMPARE(listing(work()).size(), 1);
 }
 
-void TestArchiveXar::failureLeavesOtherFiles()
+void tst_ArchiveXar::failureLeavesOtherFiles()
 {
     FakeRoot::write(work(QStringLiteral("sp/other")), "x");
     FakeRoot::write(work(QStringLiteral("loose")), "x");
@@ -700,7 +700,7 @@ void TestArchiveXar::failureLeavesOtherFiles()
     QCOMPARE(listing(work()), before);
 }
 
-void TestArchiveXar::failureRemovesReadOnlyDirectories()
+void tst_ArchiveXar::failureRemovesReadOnlyDirectories()
 {
     XarWriter writer;
     writer.openDirectory("closed", "0555");
@@ -721,7 +721,7 @@ void TestArchiveXar::failureRemovesReadOnlyDirectories()
     QCOMPARE(listing(work()), QStringList());
 }
 
-void TestArchiveXar::diskFull()
+void tst_ArchiveXar::diskFull()
 {
     XarWriter writer;
     writer.openDirectory("sp");
@@ -745,7 +745,7 @@ void TestArchiveXar::diskFull()
     QCOMPARE(listing(work()), QStringList());
 }
 
-void TestArchiveXar::mutations_data()
+void tst_ArchiveXar::mutations_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name : {"service-pack.xar", "stored.xar", "two-directories.xar"}) {
@@ -753,7 +753,7 @@ void TestArchiveXar::mutations_data()
     }
 }
 
-void TestArchiveXar::mutations()
+void tst_ArchiveXar::mutations()
 {
     QFETCH(QString, name);
     // With the checksum off, the damage reaches the members.
@@ -776,7 +776,7 @@ void TestArchiveXar::mutations()
     }
 }
 
-void TestArchiveXar::install_data()
+void tst_ArchiveXar::install_data()
 {
     QTest::addColumn<QStringList>("directories");
     QTest::addColumn<QStringList>("files");
@@ -792,7 +792,7 @@ void TestArchiveXar::install_data()
         << QStringList(QStringLiteral(".hidden")) << QStringList() << "--extrdir=";
 }
 
-void TestArchiveXar::install()
+void tst_ArchiveXar::install()
 {
     QFETCH(QStringList, directories);
     QFETCH(QStringList, files);
@@ -818,7 +818,7 @@ void TestArchiveXar::install()
              QStringList(QStringLiteral("Installing xar archive http://u@host/dir/sp.xar")));
 }
 
-void TestArchiveXar::installTakesTheFirstListed()
+void tst_ArchiveXar::installTakesTheFirstListed()
 {
     for (const char *name : {"zeta", "alpha", "mid", "Beta", "001", "~"}) {
         QVERIFY(QDir().mkpath(work(QLatin1String(name))));
@@ -841,7 +841,7 @@ void TestArchiveXar::installTakesTheFirstListed()
     QCOMPARE(process.arguments(), QStringList(QStringLiteral("--extrdir=") + first));
 }
 
-void TestArchiveXar::installWithoutProgram()
+void tst_ArchiveXar::installWithoutProgram()
 {
     QCOMPARE(RVPaths().xarInstaller, QStringLiteral("/usr/sbin/xarinstall"));
     qRegisterMetaType<QProcess::ProcessError>();
@@ -854,7 +854,7 @@ void TestArchiveXar::installWithoutProgram()
     QCOMPARE(error.first().first().value<QProcess::ProcessError>(), QProcess::FailedToStart);
 }
 
-void TestArchiveXar::installRunsTheInstaller()
+void tst_ArchiveXar::installRunsTheInstaller()
 {
     const FakeRoot root;
     FakeRoot::write(root.paths().xarInstaller,
@@ -871,5 +871,5 @@ void TestArchiveXar::installRunsTheInstaller()
     QCOMPARE(process.exitCode(), 0);
 }
 
-QTEST_GUILESS_MAIN(TestArchiveXar)
+QTEST_GUILESS_MAIN(tst_ArchiveXar)
 #include "tst_ArchiveXar.moc"

@@ -60,7 +60,7 @@ int peakKilobytes()
 
 } // namespace
 
-class TestLocalCopy : public QObject
+class tst_LocalCopy : public QObject
 {
     Q_OBJECT
 
@@ -82,13 +82,13 @@ private:
     QTemporaryDir m_dir;
 };
 
-void TestLocalCopy::cleanup()
+void tst_LocalCopy::cleanup()
 {
     QVERIFY2(m_warnings->isClean(), m_warnings->report());
     m_warnings.reset();
 }
 
-void TestLocalCopy::copiesBuffer()
+void tst_LocalCopy::copiesBuffer()
 {
     QBuffer buffer;
     buffer.setData("hello");
@@ -103,7 +103,7 @@ void TestLocalCopy::copiesBuffer()
     QCOMPARE(again.readAll(), QByteArray("hello"));
 }
 
-void TestLocalCopy::copiesRestOfFile()
+void tst_LocalCopy::copiesRestOfFile()
 {
     QFile file(m_dir.filePath(QStringLiteral("rest")));
     QVERIFY(file.open(QIODevice::ReadWrite));
@@ -114,7 +114,7 @@ void TestLocalCopy::copiesRestOfFile()
     QCOMPARE(copy.file()->readAll(), QByteArray("llo"));
 }
 
-void TestLocalCopy::usesFileInPlace()
+void tst_LocalCopy::usesFileInPlace()
 {
     QFile file(m_dir.filePath(QStringLiteral("place")));
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -130,7 +130,7 @@ void TestLocalCopy::usesFileInPlace()
     QVERIFY(file.exists());
 }
 
-void TestLocalCopy::copyGoesWithTheObject()
+void tst_LocalCopy::copyGoesWithTheObject()
 {
     QString name;
     {
@@ -144,7 +144,7 @@ void TestLocalCopy::copyGoesWithTheObject()
     QVERIFY(!QFile::exists(name));
 }
 
-void TestLocalCopy::copiesInPieces()
+void tst_LocalCopy::copiesInPieces()
 {
     constexpr qint64 size = 200 * 1024 * 1024;
     const int before = peakKilobytes();
@@ -155,7 +155,7 @@ void TestLocalCopy::copiesInPieces()
     QVERIFY(peakKilobytes() - before < 20 * 1024);
 }
 
-void TestLocalCopy::emptyDevice()
+void tst_LocalCopy::emptyDevice()
 {
     Download download(0);
     LocalCopy copy;
@@ -163,7 +163,7 @@ void TestLocalCopy::emptyDevice()
     QCOMPARE(copy.file()->size(), 0);
 }
 
-void TestLocalCopy::refuses_data()
+void tst_LocalCopy::refuses_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::newRow("missing file") << "missing";
@@ -171,7 +171,7 @@ void TestLocalCopy::refuses_data()
     QTest::newRow("no place for the copy") << "no-place";
 }
 
-void TestLocalCopy::refuses()
+void tst_LocalCopy::refuses()
 {
     QFETCH(QString, kind);
     LocalCopy copy;
@@ -194,7 +194,7 @@ void TestLocalCopy::refuses()
     QVERIFY(!copy.file());
 }
 
-void TestLocalCopy::diskFull()
+void tst_LocalCopy::diskFull()
 {
     // A limit on the size of files stands for the full disk: a write falls short all the same.
     struct rlimit before = {};
@@ -211,5 +211,5 @@ void TestLocalCopy::diskFull()
     QVERIFY(!copy.file());
 }
 
-QTEST_GUILESS_MAIN(TestLocalCopy)
+QTEST_GUILESS_MAIN(tst_LocalCopy)
 #include "tst_LocalCopy.moc"

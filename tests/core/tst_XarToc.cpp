@@ -34,7 +34,7 @@ QByteArray nested(int depth)
 
 } // namespace
 
-class TestXarToc : public QObject
+class tst_XarToc : public QObject
 {
     Q_OBJECT
 
@@ -56,13 +56,13 @@ private:
     std::unique_ptr<WarningGuard> m_warnings;
 };
 
-void TestXarToc::cleanup()
+void tst_XarToc::cleanup()
 {
     QVERIFY2(m_warnings->isClean(), m_warnings->report());
     m_warnings.reset();
 }
 
-void TestXarToc::readsSamples_data()
+void tst_XarToc::readsSamples_data()
 {
     QTest::addColumn<int>("subdocuments");
     QTest::addColumn<int>("members");
@@ -75,7 +75,7 @@ void TestXarToc::readsSamples_data()
     QTest::newRow("two-directories.xar") << 1 << 4;
 }
 
-void TestXarToc::readsSamples()
+void tst_XarToc::readsSamples()
 {
     XarToc table;
     QVERIFY(read(&table, sample(QString::fromLatin1(QTest::currentDataTag()))));
@@ -83,7 +83,7 @@ void TestXarToc::readsSamples()
     QTEST(table.memberCount(), "members");
 }
 
-void TestXarToc::subdocumentText()
+void tst_XarToc::subdocumentText()
 {
     XarWriter writer;
     writer.addSubdocument("<a x=\"&lt;1\" xml:lang=\"de\">t&amp;u<b/><!--c--><![CDATA[<d>]]></a>");
@@ -98,7 +98,7 @@ void TestXarToc::subdocumentText()
     QCOMPARE(table.memberCount(), 1);
 }
 
-void TestXarToc::secondReadStartsAnew()
+void tst_XarToc::secondReadStartsAnew()
 {
     XarToc table;
     QVERIFY(read(&table, sample(QStringLiteral("service-pack.xar"))));
@@ -107,7 +107,7 @@ void TestXarToc::secondReadStartsAnew()
     QCOMPARE(table.memberCount(), 0);
 }
 
-void TestXarToc::checksums_data()
+void tst_XarToc::checksums_data()
 {
     QTest::addColumn<int>("checksum");
     QTest::addColumn<QByteArray>("name");
@@ -136,7 +136,7 @@ void TestXarToc::checksums_data()
     QTest::newRow("unknown name") << int(XarWriter::Sha1) << QByteArray("crc32") << false << false;
 }
 
-void TestXarToc::checksums()
+void tst_XarToc::checksums()
 {
     QFETCH(int, checksum);
     QFETCH(QByteArray, name);
@@ -150,7 +150,7 @@ void TestXarToc::checksums()
     QTEST(read(&table, writer.archive()), "accepted");
 }
 
-void TestXarToc::refuses_data()
+void tst_XarToc::refuses_data()
 {
     QTest::addColumn<QByteArray>("archive");
     const QByteArray good = sample(QStringLiteral("service-pack.xar"));
@@ -219,7 +219,7 @@ void TestXarToc::refuses_data()
                      + QByteArray("</file>").repeated(17));
 }
 
-void TestXarToc::refuses()
+void tst_XarToc::refuses()
 {
     QFETCH(QByteArray, archive);
     QElapsedTimer timer;
@@ -229,12 +229,12 @@ void TestXarToc::refuses()
     QVERIFY(timer.elapsed() < 2000);
 }
 
-void TestXarToc::mutations_data()
+void tst_XarToc::mutations_data()
 {
     readsSamples_data();
 }
 
-void TestXarToc::mutations()
+void tst_XarToc::mutations()
 {
     const QByteArray good = sample(QString::fromLatin1(QTest::currentDataTag()));
     QRandomGenerator random(20260102);
@@ -255,5 +255,5 @@ void TestXarToc::mutations()
     }
 }
 
-QTEST_GUILESS_MAIN(TestXarToc)
+QTEST_GUILESS_MAIN(tst_XarToc)
 #include "tst_XarToc.moc"

@@ -42,7 +42,7 @@ protected:
 
 } // namespace
 
-class TestDataXML : public QObject
+class tst_DataXML : public QObject
 {
     Q_OBJECT
 
@@ -75,7 +75,7 @@ private Q_SLOTS:
     void repeatedContentIsBounded();
 };
 
-void TestDataXML::loads()
+void tst_DataXML::loads()
 {
     DataXML xml;
     QString error = QStringLiteral("untouched");
@@ -85,7 +85,7 @@ void TestDataXML::loads()
     QCOMPARE(xml.documentElement().tagName(), QStringLiteral("a:root"));
 }
 
-void TestDataXML::loadFailureLeavesItEmpty()
+void tst_DataXML::loadFailureLeavesItEmpty()
 {
     DataXML xml;
     QVERIFY(xml.load(QByteArray("<old/>")));
@@ -105,7 +105,7 @@ void TestDataXML::loadFailureLeavesItEmpty()
     QCOMPARE(column, 0);
 }
 
-void TestDataXML::loadsFromADevice()
+void tst_DataXML::loadsFromADevice()
 {
     QByteArray text = "skipped<r/>";
     QBuffer buffer(&text);
@@ -120,7 +120,7 @@ void TestDataXML::loadsFromADevice()
     QCOMPARE(xml.documentElement().tagName(), QStringLiteral("r"));
 }
 
-void TestDataXML::readsADeviceNoFurtherThanItMust()
+void tst_DataXML::readsADeviceNoFurtherThanItMust()
 {
     EndlessDevice device;
     QVERIFY(device.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
@@ -131,7 +131,7 @@ void TestDataXML::readsADeviceNoFurtherThanItMust()
     QCOMPARE(device.served, qint64(XmlCheck::maxBytes) + 1);
 }
 
-void TestDataXML::loadsNothingFromADeviceThatCannotBeRead()
+void tst_DataXML::loadsNothingFromADeviceThatCannotBeRead()
 {
     WarningGuard guard;
     QBuffer writeOnly;
@@ -143,7 +143,7 @@ void TestDataXML::loadsNothingFromADeviceThatCannotBeRead()
     QVERIFY2(guard.isClean(), guard.report());
 }
 
-void TestDataXML::content_data()
+void tst_DataXML::content_data()
 {
     QTest::addColumn<QByteArray>("inner");
     QTest::addColumn<QString>("expected");
@@ -168,7 +168,7 @@ void TestDataXML::content_data()
         << QByteArray("\xF0\x9F\x98\x80") << QString::fromUtf8("\xF0\x9F\x98\x80");
 }
 
-void TestDataXML::content()
+void tst_DataXML::content()
 {
     QFETCH(QByteArray, inner);
     QFETCH(QString, expected);
@@ -179,7 +179,7 @@ void TestDataXML::content()
     QCOMPARE(text, expected);
 }
 
-void TestDataXML::contentIsWhatTheDomWrites()
+void tst_DataXML::contentIsWhatTheDomWrites()
 {
     const DataXML xml = parsed(
         "<x>a &lt; b &amp; c &gt; d ]]&gt; \"e\" 'f' &#13; g\n\th<b/><b></b><c><d>1</d><d/></c> i "
@@ -196,7 +196,7 @@ void TestDataXML::contentIsWhatTheDomWrites()
     QCOMPARE(text, expected);
 }
 
-void TestDataXML::contentTakesLinearTime_data()
+void tst_DataXML::contentTakesLinearTime_data()
 {
     QTest::addColumn<QByteArray>("inner");
 
@@ -208,7 +208,7 @@ void TestDataXML::contentTakesLinearTime_data()
     QTest::newRow("comments") << QByteArray("<!---->").repeated(XmlCheck::maxNodes - 10);
 }
 
-void TestDataXML::contentTakesLinearTime()
+void tst_DataXML::contentTakesLinearTime()
 {
     QFETCH(QByteArray, inner);
 
@@ -221,7 +221,7 @@ void TestDataXML::contentTakesLinearTime()
     QVERIFY(text.size() >= inner.size());
 }
 
-void TestDataXML::stringLastOneWins()
+void tst_DataXML::stringLastOneWins()
 {
     const DataXML xml = parsed("<x>1</x><y><x>2</x></y><x>3<x>4</x></x><z/>");
     QString text;
@@ -229,7 +229,7 @@ void TestDataXML::stringLastOneWins()
     QCOMPARE(text, QStringLiteral("4"));
 }
 
-void TestDataXML::stringList()
+void tst_DataXML::stringList()
 {
     const DataXML xml = parsed("<x>b</x><y><z><x>a</x></z></y><x>b</x><x/>");
     QStringList list = {QStringLiteral("kept")};
@@ -239,7 +239,7 @@ void TestDataXML::stringList()
     QCOMPARE(list, expected);
 }
 
-void TestDataXML::localeString()
+void tst_DataXML::localeString()
 {
     const DataXML xml = parsed("<x>first</x><x xml:lang='de'>Wort</x><y><x>second</x></y>"
                                "<x xml:lang='fr'>a <b>mot</b> b</x>");
@@ -253,7 +253,7 @@ void TestDataXML::localeString()
     QCOMPARE(text.value(QStringLiteral("es")), QStringLiteral("kept"));
 }
 
-void TestDataXML::language_data()
+void tst_DataXML::language_data()
 {
     QTest::addColumn<QByteArray>("element");
     QTest::addColumn<QString>("expected");
@@ -264,7 +264,7 @@ void TestDataXML::language_data()
     QTest::newRow("without the prefix") << QByteArray("<x lang='de'/>") << QStringLiteral("en");
 }
 
-void TestDataXML::language()
+void tst_DataXML::language()
 {
     QFETCH(QByteArray, element);
     QFETCH(QString, expected);
@@ -274,7 +274,7 @@ void TestDataXML::language()
     QCOMPARE(xml.getLangAttr(QDomNode()), QStringLiteral("en"));
 }
 
-void TestDataXML::plainText_data()
+void tst_DataXML::plainText_data()
 {
     QTest::addColumn<QString>("content");
     QTest::addColumn<QString>("expected");
@@ -287,7 +287,7 @@ void TestDataXML::plainText_data()
         << QStringLiteral("<![CDATA[A & <B>]]>") << QStringLiteral("A & <B>");
 }
 
-void TestDataXML::plainText()
+void tst_DataXML::plainText()
 {
     QFETCH(QString, content);
     QFETCH(QString, expected);
@@ -295,7 +295,7 @@ void TestDataXML::plainText()
     QCOMPARE(DataXML::plainText(content), expected);
 }
 
-void TestDataXML::integer_data()
+void tst_DataXML::integer_data()
 {
     QTest::addColumn<QByteArray>("inner");
     QTest::addColumn<bool>("found");
@@ -336,7 +336,7 @@ void TestDataXML::integer_data()
     noRow("first child is a comment", "<x><!-- a -->1</x>");
 }
 
-void TestDataXML::integer()
+void tst_DataXML::integer()
 {
     QFETCH(QByteArray, inner);
     QFETCH(bool, found);
@@ -348,7 +348,7 @@ void TestDataXML::integer()
     QCOMPARE(value, expected);
 }
 
-void TestDataXML::truth_data()
+void tst_DataXML::truth_data()
 {
     QTest::addColumn<QByteArray>("inner");
     QTest::addColumn<bool>("understood");
@@ -368,7 +368,7 @@ void TestDataXML::truth_data()
     QTest::newRow("the last wins") << QByteArray("<x>yes</x><x>no</x>") << true << false;
 }
 
-void TestDataXML::truth()
+void tst_DataXML::truth()
 {
     QFETCH(QByteArray, inner);
     QFETCH(bool, understood);
@@ -382,7 +382,7 @@ void TestDataXML::truth()
     }
 }
 
-void TestDataXML::missingElements()
+void tst_DataXML::missingElements()
 {
     const DataXML xml = parsed("<y>1</y>");
     const QDomElement root = xml.documentElement();
@@ -399,7 +399,7 @@ void TestDataXML::missingElements()
     QVERIFY(!xml.elementsToQString(QDomElement(), tag, &text));
 }
 
-void TestDataXML::namesAreExact()
+void tst_DataXML::namesAreExact()
 {
     const DataXML xml = parsed("<X>1</X><xx>2</xx><a:x>3</a:x>");
     QString text;
@@ -408,7 +408,7 @@ void TestDataXML::namesAreExact()
     QVERIFY(!xml.elementsToQString(xml.documentElement(), QStringLiteral("r"), &text));
 }
 
-void TestDataXML::searchesBelowTheElementOnly()
+void tst_DataXML::searchesBelowTheElementOnly()
 {
     const DataXML xml = parsed("<x>0</x><a><b/><x>1</x></a><x>2</x>");
     const QDomElement a = xml.documentElement().firstChildElement(QStringLiteral("a"));
@@ -418,7 +418,7 @@ void TestDataXML::searchesBelowTheElementOnly()
     QVERIFY(!xml.elementsToStringList(a.firstChildElement(), QStringLiteral("x"), &list));
 }
 
-void TestDataXML::manyElementsTakeLinearTime()
+void tst_DataXML::manyElementsTakeLinearTime()
 {
     const DataXML xml = parsed(QByteArray("<x>1</x>").repeated(100'000));
     QElapsedTimer timer;
@@ -437,7 +437,7 @@ void TestDataXML::manyElementsTakeLinearTime()
     QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
 }
 
-void TestDataXML::repeatedContentIsBounded()
+void tst_DataXML::repeatedContentIsBounded()
 {
     constexpr int levels = 200;
     constexpr int length = DataXML::maxContent / 3;
@@ -452,5 +452,5 @@ void TestDataXML::repeatedContentIsBounded()
     QCOMPARE(text.size(), length);
 }
 
-QTEST_APPLESS_MAIN(TestDataXML)
+QTEST_APPLESS_MAIN(tst_DataXML)
 #include "tst_DataXML.moc"

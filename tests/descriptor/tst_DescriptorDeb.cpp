@@ -118,7 +118,7 @@ protected:
 
 } // namespace
 
-class TestDescriptorDeb : public QObject
+class tst_DescriptorDeb : public QObject
 {
     Q_OBJECT
 
@@ -161,14 +161,14 @@ private:
     std::unique_ptr<QTemporaryDir> m_dir;
 };
 
-void TestDescriptorDeb::init()
+void tst_DescriptorDeb::init()
 {
     m_log = std::make_unique<LogFile>();
     m_warnings = std::make_unique<WarningGuard>();
     m_dir = std::make_unique<QTemporaryDir>();
 }
 
-void TestDescriptorDeb::cleanup()
+void tst_DescriptorDeb::cleanup()
 {
     QVERIFY2(m_warnings->isClean(), m_warnings->report());
     m_warnings.reset();
@@ -178,14 +178,14 @@ void TestDescriptorDeb::cleanup()
     QVERIFY2(left.isEmpty(), qPrintable(left.join(QLatin1Char(' '))));
 }
 
-bool TestDescriptorDeb::read(DescriptorDeb *descriptor, const QByteArray &package)
+bool tst_DescriptorDeb::read(DescriptorDeb *descriptor, const QByteArray &package)
 {
     QBuffer buffer;
     buffer.setData(package);
     return descriptor->read(&buffer);
 }
 
-QString TestDescriptorDeb::build(const QByteArray &control, const QString &compression,
+QString tst_DescriptorDeb::build(const QByteArray &control, const QString &compression,
                                  bool scripts)
 {
     static int count = 0;
@@ -212,7 +212,7 @@ QString TestDescriptorDeb::build(const QByteArray &control, const QString &compr
     return package;
 }
 
-void TestDescriptorDeb::handlesUrlsBySuffix_data()
+void tst_DescriptorDeb::handlesUrlsBySuffix_data()
 {
     QTest::addColumn<QString>("url");
     QTest::addColumn<bool>("handled");
@@ -228,13 +228,13 @@ void TestDescriptorDeb::handlesUrlsBySuffix_data()
     QTest::newRow("empty") << "" << false;
 }
 
-void TestDescriptorDeb::handlesUrlsBySuffix()
+void tst_DescriptorDeb::handlesUrlsBySuffix()
 {
     QFETCH(QString, url);
     QTEST(DescriptorDeb(QUrl(url)).urlIsHandled(), "handled");
 }
 
-void TestDescriptorDeb::isEmptyBeforeReading()
+void tst_DescriptorDeb::isEmptyBeforeReading()
 {
     const DescriptorDeb descriptor(packageUrl());
     QCOMPARE(descriptor.url(), packageUrl());
@@ -251,7 +251,7 @@ void TestDescriptorDeb::isEmptyBeforeReading()
     QCOMPARE(descriptor.installedSize(), -1);
 }
 
-void TestDescriptorDeb::fieldsAreTheControlFields_data()
+void tst_DescriptorDeb::fieldsAreTheControlFields_data()
 {
     QTest::addColumn<QByteArray>("control");
     QTest::addColumn<QString>("compression");
@@ -296,7 +296,7 @@ void TestDescriptorDeb::fieldsAreTheControlFields_data()
     }
 }
 
-void TestDescriptorDeb::fieldsAreTheControlFields()
+void tst_DescriptorDeb::fieldsAreTheControlFields()
 {
     QFETCH(QByteArray, control);
     QFETCH(QString, compression);
@@ -326,7 +326,7 @@ void TestDescriptorDeb::fieldsAreTheControlFields()
     QCOMPARE(m_log->lines(), QStringList());
 }
 
-void TestDescriptorDeb::installedSize_data()
+void tst_DescriptorDeb::installedSize_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<qint64>("bytes");
@@ -349,7 +349,7 @@ void TestDescriptorDeb::installedSize_data()
     QTest::newRow("empty") << QByteArray("") << qint64(-1);
 }
 
-void TestDescriptorDeb::installedSize()
+void tst_DescriptorDeb::installedSize()
 {
     QFETCH(QByteArray, text);
     DescriptorDeb descriptor(packageUrl());
@@ -361,7 +361,7 @@ void TestDescriptorDeb::installedSize()
     QTEST(descriptor.installedSize(), "bytes");
 }
 
-void TestDescriptorDeb::description_data()
+void tst_DescriptorDeb::description_data()
 {
     QTest::addColumn<QByteArray>("field");
     QTest::addColumn<QString>("title");
@@ -380,7 +380,7 @@ void TestDescriptorDeb::description_data()
                           << "";
 }
 
-void TestDescriptorDeb::description()
+void tst_DescriptorDeb::description()
 {
     QFETCH(QByteArray, field);
     DescriptorDeb descriptor(packageUrl());
@@ -392,7 +392,7 @@ void TestDescriptorDeb::description()
     QTEST(descriptor.title(QString()), "title");
 }
 
-void TestDescriptorDeb::contentsAreNameAndVersion_data()
+void tst_DescriptorDeb::contentsAreNameAndVersion_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<QByteArray>("version");
@@ -403,7 +403,7 @@ void TestDescriptorDeb::contentsAreNameAndVersion_data()
     QTest::newRow("no version") << QByteArray("foo") << QByteArray() << "foo ";
 }
 
-void TestDescriptorDeb::contentsAreNameAndVersion()
+void tst_DescriptorDeb::contentsAreNameAndVersion()
 {
     QFETCH(QByteArray, name);
     QFETCH(QByteArray, version);
@@ -416,7 +416,7 @@ void TestDescriptorDeb::contentsAreNameAndVersion()
     QCOMPARE(descriptor.contentFiles(), QStringList(contents));
 }
 
-void TestDescriptorDeb::fixedValues()
+void tst_DescriptorDeb::fixedValues()
 {
     DescriptorDeb descriptor(packageUrl());
     QVERIFY(read(&descriptor, sample()));
@@ -426,7 +426,7 @@ void TestDescriptorDeb::fixedValues()
     QCOMPARE(descriptor.name(QString()), QStringLiteral("foo"));
 }
 
-void TestDescriptorDeb::missingArchitectureIsAll()
+void tst_DescriptorDeb::missingArchitectureIsAll()
 {
     for (const QByteArray &line : {QByteArray(), QByteArray("Architecture:\n")}) {
         DescriptorDeb descriptor(packageUrl());
@@ -438,7 +438,7 @@ void TestDescriptorDeb::missingArchitectureIsAll()
     }
 }
 
-void TestDescriptorDeb::textsAreLatin1()
+void tst_DescriptorDeb::textsAreLatin1()
 {
     DescriptorDeb descriptor(packageUrl());
     QVERIFY(read(&descriptor,
@@ -447,7 +447,7 @@ void TestDescriptorDeb::textsAreLatin1()
     QCOMPARE(descriptor.title(QString()), QString::fromLatin1("\xe4\xc3\xa4"));
 }
 
-void TestDescriptorDeb::secondReadAppends()
+void tst_DescriptorDeb::secondReadAppends()
 {
     DescriptorDeb descriptor(packageUrl());
     QVERIFY(read(&descriptor, sample()));
@@ -460,7 +460,7 @@ void TestDescriptorDeb::secondReadAppends()
     QCOMPARE(descriptor.name(QString()), QStringLiteral("foo"));
 }
 
-void TestDescriptorDeb::fileIsReadInPlace()
+void tst_DescriptorDeb::fileIsReadInPlace()
 {
     CountingFile file(m_dir->filePath(QStringLiteral("a.deb")));
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -473,7 +473,7 @@ void TestDescriptorDeb::fileIsReadInPlace()
     QCOMPARE(descriptor.name(QString()), QStringLiteral("foo"));
 }
 
-void TestDescriptorDeb::openDeviceIsReadAndClosed()
+void tst_DescriptorDeb::openDeviceIsReadAndClosed()
 {
     QBuffer buffer;
     buffer.setData(sample());
@@ -484,7 +484,7 @@ void TestDescriptorDeb::openDeviceIsReadAndClosed()
     QCOMPARE(descriptor.size(), sample().size());
 }
 
-void TestDescriptorDeb::readsReply()
+void tst_DescriptorDeb::readsReply()
 {
     QFile file(m_dir->filePath(QStringLiteral("a.deb")));
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -500,7 +500,7 @@ void TestDescriptorDeb::readsReply()
     QCOMPARE(descriptor.name(QString()), QStringLiteral("foo"));
 }
 
-void TestDescriptorDeb::failsWithoutLog_data()
+void tst_DescriptorDeb::failsWithoutLog_data()
 {
     QTest::addColumn<bool>("isThere");
     QTest::addColumn<qint64>("size");
@@ -508,7 +508,7 @@ void TestDescriptorDeb::failsWithoutLog_data()
     QTest::newRow("empty package") << true << qint64(0);
 }
 
-void TestDescriptorDeb::failsWithoutLog()
+void tst_DescriptorDeb::failsWithoutLog()
 {
     QFETCH(bool, isThere);
     QFile file(m_dir->filePath(QStringLiteral("a.deb")));
@@ -524,7 +524,7 @@ void TestDescriptorDeb::failsWithoutLog()
     QCOMPARE(m_log->lines(), QStringList());
 }
 
-void TestDescriptorDeb::failsWithoutTemporaryDirectory()
+void tst_DescriptorDeb::failsWithoutTemporaryDirectory()
 {
     const QByteArray before = qgetenv("TMPDIR");
     qputenv("TMPDIR", "/proc"); // not even root makes a file there
@@ -536,7 +536,7 @@ void TestDescriptorDeb::failsWithoutTemporaryDirectory()
     QCOMPARE(m_log->lines(), QStringList());
 }
 
-void TestDescriptorDeb::failsWithLog_data()
+void tst_DescriptorDeb::failsWithLog_data()
 {
     QTest::addColumn<QByteArray>("package");
     const QByteArray control = tarEntry("./control", plainControl);
@@ -614,7 +614,7 @@ void TestDescriptorDeb::failsWithLog_data()
             + packed(QStringLiteral("zstd"), megabyte).repeated(1024));
 }
 
-void TestDescriptorDeb::failsWithLog()
+void tst_DescriptorDeb::failsWithLog()
 {
     QFETCH(QByteArray, package);
     QElapsedTimer timer;
@@ -631,7 +631,7 @@ void TestDescriptorDeb::failsWithLog()
     QCOMPARE(next.name(QString()), QStringLiteral("foo"));
 }
 
-void TestDescriptorDeb::failureLeavesOtherFields()
+void tst_DescriptorDeb::failureLeavesOtherFields()
 {
     DescriptorDeb descriptor(packageUrl());
     QVERIFY(!read(&descriptor, "hello, world"));
@@ -644,7 +644,7 @@ void TestDescriptorDeb::failureLeavesOtherFields()
     QVERIFY(descriptor.thinClientList().isEmpty());
 }
 
-void TestDescriptorDeb::mutations_data()
+void tst_DescriptorDeb::mutations_data()
 {
     QTest::addColumn<QByteArray>("package");
     const QByteArray tar =
@@ -655,7 +655,7 @@ void TestDescriptorDeb::mutations_data()
     QTest::newRow("zstd") << debFile("control.tar.zst", packed(QStringLiteral("zstd"), tar));
 }
 
-void TestDescriptorDeb::mutations()
+void tst_DescriptorDeb::mutations()
 {
     QFETCH(QByteArray, package);
     QRandomGenerator random(20260101);
@@ -690,5 +690,5 @@ void TestDescriptorDeb::mutations()
     QVERIFY(read(&next, package));
 }
 
-QTEST_GUILESS_MAIN(TestDescriptorDeb)
+QTEST_GUILESS_MAIN(tst_DescriptorDeb)
 #include "tst_DescriptorDeb.moc"

@@ -24,7 +24,7 @@ bool readInto(DescriptorGeneric &descriptor, QByteArray document)
 
 } // namespace
 
-class TestDescriptorGeneric : public QObject
+class tst_DescriptorGeneric : public QObject
 {
     Q_OBJECT
 
@@ -42,7 +42,7 @@ private Q_SLOTS:
     void keepsPasswordsOutOfTheLog();
 };
 
-void TestDescriptorGeneric::choosesBackend_data()
+void tst_DescriptorGeneric::choosesBackend_data()
 {
     QTest::addColumn<QString>("url");
     QTest::addColumn<bool>("handled");
@@ -62,7 +62,7 @@ void TestDescriptorGeneric::choosesBackend_data()
     QTest::newRow("empty") << QString() << false;
 }
 
-void TestDescriptorGeneric::choosesBackend()
+void tst_DescriptorGeneric::choosesBackend()
 {
     QFETCH(QString, url);
     QFETCH(bool, handled);
@@ -79,7 +79,7 @@ void TestDescriptorGeneric::choosesBackend()
     QCOMPARE(log.lines(), expected);
 }
 
-void TestDescriptorGeneric::logsAWarningWithoutBackend()
+void tst_DescriptorGeneric::logsAWarningWithoutBackend()
 {
     LogFile log;
     const int level = log.levelOf(QStringLiteral("Found no backend for archive descriptor:"), [] {
@@ -88,7 +88,7 @@ void TestDescriptorGeneric::logsAWarningWithoutBackend()
     QCOMPARE(level, 4);
 }
 
-void TestDescriptorGeneric::withoutBackend()
+void tst_DescriptorGeneric::withoutBackend()
 {
     const LogFile log;
     DescriptorGeneric d(QUrl(QStringLiteral("http://h/a.xml.gz")));
@@ -111,7 +111,7 @@ void TestDescriptorGeneric::withoutBackend()
     QCOMPARE(log.lines().size(), 2);
 }
 
-void TestDescriptorGeneric::forwards()
+void tst_DescriptorGeneric::forwards()
 {
     DescriptorGeneric d(QUrl(QStringLiteral("a.xml")));
     QVERIFY(d.architectureList().isEmpty());
@@ -135,7 +135,7 @@ void TestDescriptorGeneric::forwards()
     QCOMPARE(d.thinClientList(), QStringList(QStringLiteral("h")));
 }
 
-void TestDescriptorGeneric::signalsOncePerRead_data()
+void tst_DescriptorGeneric::signalsOncePerRead_data()
 {
     QTest::addColumn<QString>("url");
     QTest::addColumn<QByteArray>("document");
@@ -149,7 +149,7 @@ void TestDescriptorGeneric::signalsOncePerRead_data()
     QTest::newRow("no backend") << QStringLiteral("a.txt") << good << false;
 }
 
-void TestDescriptorGeneric::signalsOncePerRead()
+void tst_DescriptorGeneric::signalsOncePerRead()
 {
     QFETCH(QString, url);
     QFETCH(QByteArray, document);
@@ -164,7 +164,7 @@ void TestDescriptorGeneric::signalsOncePerRead()
     QCOMPARE(spy.count(), 2);
 }
 
-void TestDescriptorGeneric::readSlotsAreInvokable()
+void tst_DescriptorGeneric::readSlotsAreInvokable()
 {
     DescriptorGeneric d(QUrl(QStringLiteral("a.xml")));
     const QSignalSpy spy(&d, &DescriptorGeneric::readFinished);
@@ -182,7 +182,7 @@ void TestDescriptorGeneric::readSlotsAreInvokable()
     QCOMPARE(slot.parameterNames().value(0), QByteArray("source"));
 }
 
-void TestDescriptorGeneric::readsAReply()
+void tst_DescriptorGeneric::readsAReply()
 {
     QTemporaryDir dir;
     QFile file(dir.filePath(QStringLiteral("a.xml")));
@@ -200,7 +200,7 @@ void TestDescriptorGeneric::readsAReply()
     QCOMPARE(d.version().toString(), QStringLiteral("4"));
 }
 
-void TestDescriptorGeneric::copiesShareTheBackend()
+void tst_DescriptorGeneric::copiesShareTheBackend()
 {
     const LogFile log;
     DescriptorGeneric a(QUrl(QStringLiteral("http://h/a.xml")));
@@ -220,12 +220,12 @@ void TestDescriptorGeneric::copiesShareTheBackend()
     QCOMPARE(spyB.count(), 1);
 }
 
-void TestDescriptorGeneric::keepsPasswordsOutOfTheLog()
+void tst_DescriptorGeneric::keepsPasswordsOutOfTheLog()
 {
     const LogFile log;
     const DescriptorGeneric d(QUrl(QStringLiteral("ftp://user:secret@h/gr%C3%BCn 100%25.txt")));
     QCOMPARE(log.lines().value(1), QStringLiteral("  ftp://user@h/gr\u00fcn 100%25.txt"));
 }
 
-QTEST_GUILESS_MAIN(TestDescriptorGeneric)
+QTEST_GUILESS_MAIN(tst_DescriptorGeneric)
 #include "tst_DescriptorGeneric.moc"

@@ -42,7 +42,7 @@ QStringList strings(std::initializer_list<const char *> texts)
 
 } // namespace
 
-class TestDescriptorXML : public QObject
+class tst_DescriptorXML : public QObject
 {
     Q_OBJECT
 
@@ -76,7 +76,7 @@ private:
     DescriptorXML m_descriptor{QUrl(QStringLiteral("file:///x.xml"))};
 };
 
-void TestDescriptorXML::handlesUrl_data()
+void tst_DescriptorXML::handlesUrl_data()
 {
     QTest::addColumn<QString>("url");
     QTest::addColumn<bool>("handled");
@@ -96,7 +96,7 @@ void TestDescriptorXML::handlesUrl_data()
     QTest::newRow("empty") << QString() << false;
 }
 
-void TestDescriptorXML::handlesUrl()
+void tst_DescriptorXML::handlesUrl()
 {
     QFETCH(QString, url);
     QFETCH(bool, handled);
@@ -106,7 +106,7 @@ void TestDescriptorXML::handlesUrl()
     QCOMPARE(descriptor.url(), QUrl(url));
 }
 
-void TestDescriptorXML::startsEmpty()
+void tst_DescriptorXML::startsEmpty()
 {
     const DescriptorXML d((QUrl(QStringLiteral("a.xml"))));
     QCOMPARE(d.name(QString()), QString());
@@ -140,7 +140,7 @@ QString fields(const DescriptorBaseClass &d)
 
 } // namespace
 
-void TestDescriptorXML::readsEachUpdateElement_data()
+void tst_DescriptorXML::readsEachUpdateElement_data()
 {
     QTest::addColumn<QByteArray>("element");
     QTest::addColumn<QString>("expected");
@@ -164,7 +164,7 @@ void TestDescriptorXML::readsEachUpdateElement_data()
     row("sp-attrs", "||||||-1|-1|-1|all,all|");
 }
 
-void TestDescriptorXML::readsEachUpdateElement()
+void tst_DescriptorXML::readsEachUpdateElement()
 {
     QFETCH(QByteArray, element);
     QFETCH(QString, expected);
@@ -174,7 +174,7 @@ void TestDescriptorXML::readsEachUpdateElement()
     QCOMPARE(fields(descriptor), expected);
 }
 
-void TestDescriptorXML::readsEachDescriptionElement_data()
+void tst_DescriptorXML::readsEachDescriptionElement_data()
 {
     QTest::addColumn<QByteArray>("document");
     QTest::addColumn<QString>("expected");
@@ -208,7 +208,7 @@ void TestDescriptorXML::readsEachDescriptionElement_data()
     attribute("version", "||||||-1|-1|-1|all,all|");
 }
 
-void TestDescriptorXML::readsEachDescriptionElement()
+void tst_DescriptorXML::readsEachDescriptionElement()
 {
     QFETCH(QByteArray, document);
     QFETCH(QString, expected);
@@ -218,7 +218,7 @@ void TestDescriptorXML::readsEachDescriptionElement()
     QCOMPARE(fields(descriptor), expected);
 }
 
-void TestDescriptorXML::readsWholeUpdate()
+void tst_DescriptorXML::readsWholeUpdate()
 {
     DescriptorXML d(m_descriptor.url());
     QVERIFY(readInto(d, R"(<?xml version="1.0" encoding="UTF-8"?>
@@ -256,7 +256,7 @@ void TestDescriptorXML::readsWholeUpdate()
     QCOMPARE(d.thinClientList(), strings({"t1", "t2"}));
 }
 
-void TestDescriptorXML::readsWholeXar()
+void tst_DescriptorXML::readsWholeXar()
 {
     DescriptorXML d(m_descriptor.url());
     QVERIFY(readInto(d, R"(<xar>
@@ -277,7 +277,7 @@ void TestDescriptorXML::readsWholeXar()
     QCOMPARE(d.title(de), QStringLiteral("Paket"));
 }
 
-void TestDescriptorXML::lists_data()
+void tst_DescriptorXML::lists_data()
 {
     QTest::addColumn<QByteArray>("inner");
     QTest::addColumn<QStringList>("architectures");
@@ -291,7 +291,7 @@ void TestDescriptorXML::lists_data()
     QTest::newRow("both") << armel + model << strings({"armel"}) << strings({"t1"});
 }
 
-void TestDescriptorXML::lists()
+void tst_DescriptorXML::lists()
 {
     QFETCH(QByteArray, inner);
     QFETCH(QStringList, architectures);
@@ -305,7 +305,7 @@ void TestDescriptorXML::lists()
     }
 }
 
-void TestDescriptorXML::result_data()
+void tst_DescriptorXML::result_data()
 {
     QTest::addColumn<QByteArray>("document");
     QTest::addColumn<bool>("understood");
@@ -323,7 +323,7 @@ void TestDescriptorXML::result_data()
                               << false;
 }
 
-void TestDescriptorXML::result()
+void tst_DescriptorXML::result()
 {
     QFETCH(QByteArray, document);
     QFETCH(bool, understood);
@@ -333,7 +333,7 @@ void TestDescriptorXML::result()
     QCOMPARE(fields(descriptor), QStringLiteral("||||||-1|-1|-1|all,all|"));
 }
 
-void TestDescriptorXML::nestedElementsCount()
+void tst_DescriptorXML::nestedElementsCount()
 {
     DescriptorXML d(m_descriptor.url());
     QVERIFY(readInto(
@@ -341,7 +341,7 @@ void TestDescriptorXML::nestedElementsCount()
     QCOMPARE(d.contentFiles(), strings({"a", "b"}));
 }
 
-void TestDescriptorXML::lastValueWins()
+void tst_DescriptorXML::lastValueWins()
 {
     DescriptorXML d(m_descriptor.url());
     QVERIFY(readInto(d,
@@ -351,14 +351,14 @@ void TestDescriptorXML::lastValueWins()
     QCOMPARE(d.size(), qint64(20));
 }
 
-void TestDescriptorXML::notesKeepMarkup()
+void tst_DescriptorXML::notesKeepMarkup()
 {
     DescriptorXML d(m_descriptor.url());
     QVERIFY(readInto(d, update("<notes>a <i>b</i> &lt;c&gt; &amp; d</notes>")));
     QCOMPARE(d.contentNotes(en), QStringLiteral("a <i>b</i> &lt;c> &amp; d"));
 }
 
-void TestDescriptorXML::languages()
+void tst_DescriptorXML::languages()
 {
     DescriptorXML d(m_descriptor.url());
     QVERIFY(readInto(d,
@@ -370,7 +370,7 @@ void TestDescriptorXML::languages()
     QCOMPARE(d.name(QStringLiteral("es")), QString());
 }
 
-void TestDescriptorXML::sizesThatAreNoNumbers()
+void tst_DescriptorXML::sizesThatAreNoNumbers()
 {
     DescriptorXML d(m_descriptor.url());
     QVERIFY(readInto(d,
@@ -381,7 +381,7 @@ void TestDescriptorXML::sizesThatAreNoNumbers()
     QCOMPARE(d.installedSize(), qint64(-1));
 }
 
-void TestDescriptorXML::contentsAreSorted()
+void tst_DescriptorXML::contentsAreSorted()
 {
     DescriptorXML d(m_descriptor.url());
     QVERIFY(readInto(d,
@@ -390,7 +390,7 @@ void TestDescriptorXML::contentsAreSorted()
     QCOMPARE(d.contentFiles(), strings({"10", "9", "B", "a", "a", "b"}));
 }
 
-void TestDescriptorXML::xarReadsDirectChildrenOnly()
+void tst_DescriptorXML::xarReadsDirectChildrenOnly()
 {
     DescriptorXML d(m_descriptor.url());
     QVERIFY(!readInto(d,
@@ -404,7 +404,7 @@ void TestDescriptorXML::xarReadsDirectChildrenOnly()
     QVERIFY(d.version().isEmpty());
 }
 
-void TestDescriptorXML::xarPartsFeedTheSameFields()
+void tst_DescriptorXML::xarPartsFeedTheSameFields()
 {
     DescriptorXML d(m_descriptor.url());
     QVERIFY(readInto(d, R"(<xar>
@@ -422,7 +422,7 @@ void TestDescriptorXML::xarPartsFeedTheSameFields()
     QCOMPARE(d.unpackedSize(), qint64(2));
 }
 
-void TestDescriptorXML::secondReadAppends()
+void tst_DescriptorXML::secondReadAppends()
 {
     DescriptorXML d(m_descriptor.url());
     const QByteArray document = update("<version>1</version><name>n</name><package>p</package>"
@@ -437,7 +437,7 @@ void TestDescriptorXML::secondReadAppends()
     QCOMPARE(d.architectureList(), strings({"armel", "all", "armel", "all", "all"}));
 }
 
-void TestDescriptorXML::readsFromAFile()
+void tst_DescriptorXML::readsFromAFile()
 {
     QTemporaryFile file;
     QVERIFY(file.open());
@@ -449,7 +449,7 @@ void TestDescriptorXML::readsFromAFile()
     QCOMPARE(d.version().toString(), QStringLiteral("3"));
 }
 
-void TestDescriptorXML::logsNothing()
+void tst_DescriptorXML::logsNothing()
 {
     const LogFile log;
     WarningGuard guard;
@@ -460,5 +460,5 @@ void TestDescriptorXML::logsNothing()
     QVERIFY2(guard.isClean(), guard.report());
 }
 
-QTEST_GUILESS_MAIN(TestDescriptorXML)
+QTEST_GUILESS_MAIN(tst_DescriptorXML)
 #include "tst_DescriptorXML.moc"

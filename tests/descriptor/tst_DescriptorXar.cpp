@@ -62,7 +62,7 @@ QByteArray archive(const QList<QByteArray> &subdocuments)
 
 } // namespace
 
-class TestDescriptorXar : public QObject
+class tst_DescriptorXar : public QObject
 {
     Q_OBJECT
 
@@ -96,13 +96,13 @@ private:
     std::unique_ptr<WarningGuard> m_warnings;
 };
 
-void TestDescriptorXar::init()
+void tst_DescriptorXar::init()
 {
     m_log = std::make_unique<LogFile>();
     m_warnings = std::make_unique<WarningGuard>();
 }
 
-void TestDescriptorXar::cleanup()
+void tst_DescriptorXar::cleanup()
 {
     QVERIFY2(m_warnings->isClean(), m_warnings->report());
     m_warnings.reset();
@@ -111,7 +111,7 @@ void TestDescriptorXar::cleanup()
     QVERIFY2(lines.isEmpty(), qPrintable(lines.join(QLatin1Char('\n'))));
 }
 
-void TestDescriptorXar::handlesUrlsBySuffix_data()
+void tst_DescriptorXar::handlesUrlsBySuffix_data()
 {
     QTest::addColumn<QString>("url");
     QTest::addColumn<bool>("handled");
@@ -124,13 +124,13 @@ void TestDescriptorXar::handlesUrlsBySuffix_data()
     QTest::newRow("empty") << "" << false;
 }
 
-void TestDescriptorXar::handlesUrlsBySuffix()
+void tst_DescriptorXar::handlesUrlsBySuffix()
 {
     QFETCH(QString, url);
     QTEST(DescriptorXar(QUrl(url)).urlIsHandled(), "handled");
 }
 
-void TestDescriptorXar::isEmptyBeforeReading()
+void tst_DescriptorXar::isEmptyBeforeReading()
 {
     const DescriptorXar descriptor(archiveUrl());
     QCOMPARE(descriptor.url(), archiveUrl());
@@ -143,7 +143,7 @@ void TestDescriptorXar::isEmptyBeforeReading()
     QCOMPARE(descriptor.installedSize(), -1);
 }
 
-void TestDescriptorXar::servicePack_data()
+void tst_DescriptorXar::servicePack_data()
 {
     QTest::addColumn<qint64>("unpackedSize");
     QTest::addColumn<qint64>("installedSize");
@@ -151,7 +151,7 @@ void TestDescriptorXar::servicePack_data()
     QTest::newRow("stored.xar") << qint64(-1) << qint64(-1);
 }
 
-void TestDescriptorXar::servicePack()
+void tst_DescriptorXar::servicePack()
 {
     DescriptorXar descriptor(archiveUrl());
     QVERIFY(readSample(&descriptor, QTest::currentDataTag()));
@@ -173,7 +173,7 @@ void TestDescriptorXar::servicePack()
     QTEST(descriptor.installedSize(), "installedSize");
 }
 
-void TestDescriptorXar::sizesAlone()
+void tst_DescriptorXar::sizesAlone()
 {
     DescriptorXar descriptor(archiveUrl());
     QVERIFY(readSample(&descriptor, "attrs-only.xar"));
@@ -187,7 +187,7 @@ void TestDescriptorXar::sizesAlone()
     QCOMPARE(descriptor.thinClientList(), all);
 }
 
-void TestDescriptorXar::lastOfTheOriginalOrderCounts()
+void tst_DescriptorXar::lastOfTheOriginalOrderCounts()
 {
     DescriptorXar descriptor(archiveUrl());
     QVERIFY(readSample(&descriptor, "duplicates.xar"));
@@ -200,7 +200,7 @@ void TestDescriptorXar::lastOfTheOriginalOrderCounts()
              (QStringList{QStringLiteral("t510"), QStringLiteral("t610")}));
 }
 
-void TestDescriptorXar::laterSubdocumentIsTheFirstOne()
+void tst_DescriptorXar::laterSubdocumentIsTheFirstOne()
 {
     DescriptorXar descriptor(archiveUrl());
     QVERIFY(read(&descriptor,
@@ -210,7 +210,7 @@ void TestDescriptorXar::laterSubdocumentIsTheFirstOne()
     QCOMPARE(descriptor.thinClientList(), (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
 }
 
-void TestDescriptorXar::mixedTextStaysInOrder()
+void tst_DescriptorXar::mixedTextStaysInOrder()
 {
     DescriptorXar descriptor(archiveUrl());
     QVERIFY(read(&descriptor,
@@ -220,7 +220,7 @@ void TestDescriptorXar::mixedTextStaysInOrder()
     QCOMPARE(descriptor.version().toString(), QStringLiteral("2"));
 }
 
-void TestDescriptorXar::noKnownSubdocument_data()
+void tst_DescriptorXar::noKnownSubdocument_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QFile file(samplePath(QStringLiteral("no-subdocuments.xar")));
@@ -236,7 +236,7 @@ void TestDescriptorXar::noKnownSubdocument_data()
         {"<sp-attrs><unpacked_size>1</unpacked_size></sp-attrs><sp-attrs/>"});
 }
 
-void TestDescriptorXar::noKnownSubdocument()
+void tst_DescriptorXar::noKnownSubdocument()
 {
     QFETCH(QByteArray, bytes);
     DescriptorXar descriptor(archiveUrl());
@@ -249,7 +249,7 @@ void TestDescriptorXar::noKnownSubdocument()
     QCOMPARE(descriptor.thinClientList(), all);
 }
 
-void TestDescriptorXar::brokenSubdocument()
+void tst_DescriptorXar::brokenSubdocument()
 {
     // Elements of more nodes than a document may have: no values, and the other subdocument counts.
     DescriptorXar descriptor(archiveUrl());
@@ -261,7 +261,7 @@ void TestDescriptorXar::brokenSubdocument()
     QCOMPARE(descriptor.installedSize(), 7);
 }
 
-void TestDescriptorXar::integersAreStrict()
+void tst_DescriptorXar::integersAreStrict()
 {
     DescriptorXar descriptor(archiveUrl());
     QVERIFY(read(&descriptor,
@@ -271,7 +271,7 @@ void TestDescriptorXar::integersAreStrict()
     QCOMPARE(descriptor.installedSize(), -1);
 }
 
-void TestDescriptorXar::defaultsGoToTheirOwnLists()
+void tst_DescriptorXar::defaultsGoToTheirOwnLists()
 {
     DescriptorXar architectures(archiveUrl());
     QVERIFY(read(&architectures, archive({description("<architecture>armel</architecture>")})));
@@ -283,7 +283,7 @@ void TestDescriptorXar::defaultsGoToTheirOwnLists()
     QCOMPARE(models.thinClientList(), QStringList(QStringLiteral("t510")));
 }
 
-void TestDescriptorXar::secondReadAppends()
+void tst_DescriptorXar::secondReadAppends()
 {
     DescriptorXar descriptor(archiveUrl());
     QVERIFY(readSample(&descriptor, "duplicates.xar"));
@@ -294,7 +294,7 @@ void TestDescriptorXar::secondReadAppends()
     QCOMPARE(descriptor.name(en), QStringLiteral("Second"));
 }
 
-void TestDescriptorXar::archiveOfAnotherArchiver()
+void tst_DescriptorXar::archiveOfAnotherArchiver()
 {
     QTemporaryDir dir;
     QFile file(dir.filePath(QStringLiteral("readme")));
@@ -313,7 +313,7 @@ void TestDescriptorXar::archiveOfAnotherArchiver()
     QCOMPARE(descriptor.architectureList(), all);
 }
 
-void TestDescriptorXar::readsReply()
+void tst_DescriptorXar::readsReply()
 {
     QNetworkAccessManager manager;
     QNetworkReply *reply = manager.get(
@@ -325,7 +325,7 @@ void TestDescriptorXar::readsReply()
     QCOMPARE(descriptor.name(en), QStringLiteral("Security Pack"));
 }
 
-void TestDescriptorXar::fails_data()
+void tst_DescriptorXar::fails_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("empty") << QByteArray();
@@ -340,7 +340,7 @@ void TestDescriptorXar::fails_data()
     QTest::newRow("table of 32 MiB") << bomb.archive();
 }
 
-void TestDescriptorXar::fails()
+void tst_DescriptorXar::fails()
 {
     QFETCH(QByteArray, bytes);
     QElapsedTimer timer;
@@ -359,7 +359,7 @@ void TestDescriptorXar::fails()
     QCOMPARE(unread.size(), -1);
 }
 
-void TestDescriptorXar::mutations_data()
+void tst_DescriptorXar::mutations_data()
 {
     QTest::addColumn<QString>("sample");
     for (const char *name :
@@ -368,7 +368,7 @@ void TestDescriptorXar::mutations_data()
     }
 }
 
-void TestDescriptorXar::mutations()
+void tst_DescriptorXar::mutations()
 {
     QFETCH(QString, sample);
     QFile file(samplePath(sample));
@@ -387,5 +387,5 @@ void TestDescriptorXar::mutations()
     }
 }
 
-QTEST_GUILESS_MAIN(TestDescriptorXar)
+QTEST_GUILESS_MAIN(tst_DescriptorXar)
 #include "tst_DescriptorXar.moc"

@@ -39,7 +39,7 @@ QByteArray padded(int bytes)
 
 } // namespace
 
-class TestXmlCheck : public QObject
+class tst_XmlCheck : public QObject
 {
     Q_OBJECT
 
@@ -55,7 +55,7 @@ private Q_SLOTS:
     void refusesHostileDocumentsQuickly();
 };
 
-void TestXmlCheck::bounds_data()
+void tst_XmlCheck::bounds_data()
 {
     constexpr int growth = XmlCheck::maxEntityGrowth;
     constexpr int nodes = XmlCheck::maxNodes;
@@ -132,7 +132,7 @@ void TestXmlCheck::bounds_data()
         << attributes(nodes + 1) << QStringLiteral("more than 250000 attributes");
 }
 
-void TestXmlCheck::bounds()
+void tst_XmlCheck::bounds()
 {
     QFETCH(QByteArray, document);
     QFETCH(QString, error);
@@ -143,7 +143,7 @@ void TestXmlCheck::bounds()
 }
 
 // Whatever the DOM takes within the bounds is taken, well-formed by the letter of XML 1.0 or not.
-void TestXmlCheck::agreesWithTheDom_data()
+void tst_XmlCheck::agreesWithTheDom_data()
 {
     QTest::addColumn<QByteArray>("document");
     QTest::addColumn<bool>("accepted");
@@ -188,7 +188,7 @@ void TestXmlCheck::agreesWithTheDom_data()
         << QByteArray("<!DOCTYPE r [<!ENTITY a '&b;'><!ENTITY b '&a;'>]><r>&a;</r>") << false;
 }
 
-void TestXmlCheck::agreesWithTheDom()
+void tst_XmlCheck::agreesWithTheDom()
 {
     QFETCH(QByteArray, document);
     QFETCH(bool, accepted);
@@ -205,7 +205,7 @@ void TestXmlCheck::agreesWithTheDom()
     QCOMPARE(check.column(), column);
 }
 
-void TestXmlCheck::tellsWhere()
+void tst_XmlCheck::tellsWhere()
 {
     XmlCheck check;
     QVERIFY(!check.accepts("<r>\n  <a>\n  </b>\n</r>"));
@@ -218,7 +218,7 @@ void TestXmlCheck::tellsWhere()
     QCOMPARE(check.column(), 3 * XmlCheck::maxDepth);
 }
 
-void TestXmlCheck::forgetsTheLastRefusal()
+void tst_XmlCheck::forgetsTheLastRefusal()
 {
     XmlCheck check;
     QVERIFY(!check.accepts("<r>"));
@@ -229,7 +229,7 @@ void TestXmlCheck::forgetsTheLastRefusal()
     QCOMPARE(check.column(), 0);
 }
 
-void TestXmlCheck::neverReadsAnExternalEntity()
+void tst_XmlCheck::neverReadsAnExternalEntity()
 {
     const QByteArray document = "<!DOCTYPE r [<!ENTITY a SYSTEM 'file:///etc/passwd'>"
                                 "<!ENTITY % p SYSTEM 'file:///etc/passwd'>%p;]><r>&a;</r>";
@@ -240,7 +240,7 @@ void TestXmlCheck::neverReadsAnExternalEntity()
     QVERIFY(!xml.toString().contains(QLatin1String("root:")));
 }
 
-void TestXmlCheck::refusesHostileDocumentsQuickly_data()
+void tst_XmlCheck::refusesHostileDocumentsQuickly_data()
 {
     QTest::addColumn<QByteArray>("document");
 
@@ -261,7 +261,7 @@ void TestXmlCheck::refusesHostileDocumentsQuickly_data()
                       "<!ENTITY g '&f;&f;&f;&f;&f;&f;&f;&f;'>]><r>&g;</r>");
 }
 
-void TestXmlCheck::refusesHostileDocumentsQuickly()
+void tst_XmlCheck::refusesHostileDocumentsQuickly()
 {
     QFETCH(QByteArray, document);
 
@@ -274,5 +274,5 @@ void TestXmlCheck::refusesHostileDocumentsQuickly()
     QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
 }
 
-QTEST_APPLESS_MAIN(TestXmlCheck)
+QTEST_APPLESS_MAIN(tst_XmlCheck)
 #include "tst_XmlCheck.moc"

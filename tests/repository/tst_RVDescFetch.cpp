@@ -68,7 +68,7 @@ void letEverythingArrive()
 
 } // namespace
 
-class TestRVDescFetch : public QObject
+class tst_RVDescFetch : public QObject
 {
     Q_OBJECT
 
@@ -133,7 +133,7 @@ private:
     std::unique_ptr<HttpServer> m_server;
 };
 
-void TestRVDescFetch::init()
+void tst_RVDescFetch::init()
 {
     m_log = std::make_unique<LogFile>();
     m_guard = std::make_unique<WarningGuard>();
@@ -141,7 +141,7 @@ void TestRVDescFetch::init()
     m_server = std::make_unique<HttpServer>();
 }
 
-void TestRVDescFetch::cleanup()
+void tst_RVDescFetch::cleanup()
 {
     m_server.reset();
     const std::unique_ptr<WarningGuard> guard = std::move(m_guard);
@@ -149,7 +149,7 @@ void TestRVDescFetch::cleanup()
     QVERIFY2(guard->isClean(), guard->report());
 }
 
-QUrl TestRVDescFetch::writeFile(const QString &name, const QByteArray &contents) const
+QUrl tst_RVDescFetch::writeFile(const QString &name, const QByteArray &contents) const
 {
     QFile file(m_dir->filePath(name));
     if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
@@ -158,7 +158,7 @@ QUrl TestRVDescFetch::writeFile(const QString &name, const QByteArray &contents)
     return QUrl::fromLocalFile(file.fileName());
 }
 
-QList<RVData> TestRVDescFetch::localEntries(int count) const
+QList<RVData> tst_RVDescFetch::localEntries(int count) const
 {
     QList<RVData> entries;
     for (int i = 0; i < count; ++i) {
@@ -167,7 +167,7 @@ QList<RVData> TestRVDescFetch::localEntries(int count) const
     return entries;
 }
 
-QList<RVData> TestRVDescFetch::remoteEntries(int count)
+QList<RVData> tst_RVDescFetch::remoteEntries(int count)
 {
     QList<RVData> entries;
     for (int i = 0; i < count; ++i) {
@@ -178,7 +178,7 @@ QList<RVData> TestRVDescFetch::remoteEntries(int count)
     return entries;
 }
 
-void TestRVDescFetch::startsIdle()
+void tst_RVDescFetch::startsIdle()
 {
     QList<RVData> entries = localEntries(1);
     const RVDescFetch fetch(entries, {}, {});
@@ -187,7 +187,7 @@ void TestRVDescFetch::startsIdle()
     QVERIFY(!fetch.isActive());
 }
 
-void TestRVDescFetch::noEntries()
+void tst_RVDescFetch::noEntries()
 {
     QList<RVData> entries;
     RVDescFetch fetch(entries, {}, {});
@@ -200,7 +200,7 @@ void TestRVDescFetch::noEntries()
     QCOMPARE(m_log->lines(), QStringList());
 }
 
-void TestRVDescFetch::readsLocalFiles()
+void tst_RVDescFetch::readsLocalFiles()
 {
     QList<RVData> entries = localEntries(3);
     RVDescFetch fetch(entries, {}, {});
@@ -219,7 +219,7 @@ void TestRVDescFetch::readsLocalFiles()
     QVERIFY(fetch.children().isEmpty());
 }
 
-void TestRVDescFetch::missingLocalFileAmongOthers()
+void tst_RVDescFetch::missingLocalFileAmongOthers()
 {
     QList<RVData> entries = localEntries(2);
     const QUrl missing = QUrl::fromLocalFile(m_dir->filePath(QStringLiteral("missing.xml")));
@@ -240,7 +240,7 @@ void TestRVDescFetch::missingLocalFileAmongOthers()
     QVERIFY(fetch.children().isEmpty());
 }
 
-void TestRVDescFetch::allFailAtOnce()
+void tst_RVDescFetch::allFailAtOnce()
 {
     QList<RVData> entries;
     for (int i = 0; i < 3; ++i) {
@@ -257,7 +257,7 @@ void TestRVDescFetch::allFailAtOnce()
     QVERIFY(fetch.children().isEmpty());
 }
 
-void TestRVDescFetch::nullDescriptors()
+void tst_RVDescFetch::nullDescriptors()
 {
     const QString text = QStringLiteral("Null descriptor in RVDescFetch for 'ftp://user@h/%1.xml'");
     m_guard->allow(QStringLiteral("^Null descriptor"));
@@ -293,7 +293,7 @@ void TestRVDescFetch::nullDescriptors()
     m_guard = std::make_unique<WarningGuard>();
 }
 
-void TestRVDescFetch::specialFilesAreNotOpened()
+void tst_RVDescFetch::specialFilesAreNotOpened()
 {
     const QString pipe = m_dir->filePath(QStringLiteral("pipe.xml"));
     QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
@@ -306,7 +306,7 @@ void TestRVDescFetch::specialFilesAreNotOpened()
     QCOMPARE(spies.codes, QList<int>{QNetworkReply::ContentOperationNotPermittedError});
 }
 
-void TestRVDescFetch::severalDownloadsAtATime()
+void tst_RVDescFetch::severalDownloadsAtATime()
 {
     m_server->hold();
     QList<RVData> entries = remoteEntries(3);
@@ -326,7 +326,7 @@ void TestRVDescFetch::severalDownloadsAtATime()
     QVERIFY(fetch.children().isEmpty());
 }
 
-void TestRVDescFetch::notFoundAmongOthers()
+void tst_RVDescFetch::notFoundAmongOthers()
 {
     QList<RVData> entries = remoteEntries(2);
     QUrl missing = m_server->url(QStringLiteral("/missing.xml"));
@@ -348,7 +348,7 @@ void TestRVDescFetch::notFoundAmongOthers()
     QCOMPARE(spies.finished.count(), 1);
 }
 
-void TestRVDescFetch::refusedConnection()
+void tst_RVDescFetch::refusedConnection()
 {
     QTcpServer closed;
     QVERIFY(closed.listen(QHostAddress::LocalHost));
@@ -362,7 +362,7 @@ void TestRVDescFetch::refusedConnection()
     QCOMPARE(spies.codes, QList<int>{QNetworkReply::ConnectionRefusedError});
 }
 
-void TestRVDescFetch::brokenDownload()
+void tst_RVDescFetch::brokenDownload()
 {
     BrokenDownload broken;
     const QUrl bad = broken.serve(QStringLiteral("broken.xml"));
@@ -388,7 +388,7 @@ void TestRVDescFetch::brokenDownload()
     QVERIFY(fetch.children().isEmpty());
 }
 
-void TestRVDescFetch::neverMoreThanTheLimit()
+void tst_RVDescFetch::neverMoreThanTheLimit()
 {
     constexpr int limit = RVLimits::transfersInFlight;
     constexpr int count = 250;
@@ -423,7 +423,7 @@ void TestRVDescFetch::neverMoreThanTheLimit()
     QCOMPARE(spies.finished.count(), 1);
 }
 
-void TestRVDescFetch::laterEntriesFailAtOnce()
+void tst_RVDescFetch::laterEntriesFailAtOnce()
 {
     QList<RVData> entries = remoteEntries(RVLimits::transfersInFlight);
     for (int i = 0; i < 50; ++i) {
@@ -439,7 +439,7 @@ void TestRVDescFetch::laterEntriesFailAtOnce()
     QCOMPARE(spies.finished.count(), 1);
 }
 
-void TestRVDescFetch::sharedDescriptorIsFetchedOnce()
+void tst_RVDescFetch::sharedDescriptorIsFetchedOnce()
 {
     QList<RVData> entries = remoteEntries(1);
     entries.append(entries.first());
@@ -452,7 +452,7 @@ void TestRVDescFetch::sharedDescriptorIsFetchedOnce()
     QCOMPARE(m_server->requests().size(), 1);
 }
 
-void TestRVDescFetch::asksForCredentials()
+void tst_RVDescFetch::asksForCredentials()
 {
     m_server->protect(QStringLiteral("user"), QStringLiteral("secret"));
     QList<RVData> entries = remoteEntries(2);
@@ -473,7 +473,7 @@ void TestRVDescFetch::asksForCredentials()
     QCOMPARE(versionOf(entries.at(1)), QStringLiteral("1"));
 }
 
-void TestRVDescFetch::unansweredCredentials()
+void tst_RVDescFetch::unansweredCredentials()
 {
     m_server->protect(QStringLiteral("user"), QStringLiteral("secret"));
     QList<RVData> entries = remoteEntries(1);
@@ -484,7 +484,7 @@ void TestRVDescFetch::unansweredCredentials()
     QCOMPARE(spies.codes, QList<int>{QNetworkReply::AuthenticationRequiredError});
 }
 
-void TestRVDescFetch::relaysCertificateErrors()
+void tst_RVDescFetch::relaysCertificateErrors()
 {
     m_server->hold();
     QList<RVData> entries = remoteEntries(1);
@@ -504,7 +504,7 @@ void TestRVDescFetch::relaysCertificateErrors()
     QCOMPARE(relayed, 1);
 }
 
-void TestRVDescFetch::ftpCredentials_data()
+void tst_RVDescFetch::ftpCredentials_data()
 {
     QTest::addColumn<QString>("scheme");
     QTest::addColumn<QString>("user");
@@ -529,7 +529,7 @@ void TestRVDescFetch::ftpCredentials_data()
                              << QByteArray("PASS anonymous@example.org");
 }
 
-void TestRVDescFetch::ftpCredentialsOfAnotherServer_data()
+void tst_RVDescFetch::ftpCredentialsOfAnotherServer_data()
 {
     QTest::addColumn<QString>("credentialsFor");
     QTest::addColumn<bool>("ours");
@@ -539,7 +539,7 @@ void TestRVDescFetch::ftpCredentialsOfAnotherServer_data()
     QTest::newRow("a web server") << QStringLiteral("http://127.0.0.1:%1/") << false;
 }
 
-void TestRVDescFetch::ftpCredentialsOfAnotherServer()
+void tst_RVDescFetch::ftpCredentialsOfAnotherServer()
 {
     QFETCH(QString, credentialsFor);
     QFETCH(bool, ours);
@@ -557,7 +557,7 @@ void TestRVDescFetch::ftpCredentialsOfAnotherServer()
     QCOMPARE(server.commands().contains("PASS secret"), ours);
 }
 
-void TestRVDescFetch::ftpCredentials()
+void tst_RVDescFetch::ftpCredentials()
 {
     QFETCH(QString, scheme);
     QFETCH(QString, user);
@@ -582,7 +582,7 @@ void TestRVDescFetch::ftpCredentials()
     QVERIFY(!m_log->raw().contains("secret"));
 }
 
-void TestRVDescFetch::proxy_data()
+void tst_RVDescFetch::proxy_data()
 {
     QTest::addColumn<QString>("url");
     QTest::addColumn<QByteArray>("expected");
@@ -593,7 +593,7 @@ void TestRVDescFetch::proxy_data()
                            << QByteArray("CONNECT repository.invalid:443 HTTP/1.1\r\n");
 }
 
-void TestRVDescFetch::proxy()
+void tst_RVDescFetch::proxy()
 {
     QFETCH(QString, url);
     QFETCH(QByteArray, expected);
@@ -609,7 +609,7 @@ void TestRVDescFetch::proxy()
     QVERIFY2(head.startsWith(expected), head.constData());
 }
 
-void TestRVDescFetch::noProxy_data()
+void tst_RVDescFetch::noProxy_data()
 {
     QTest::addColumn<QString>("host");
     QTest::addColumn<int>("port");
@@ -619,7 +619,7 @@ void TestRVDescFetch::noProxy_data()
     QTest::newRow("no host") << QString() << 3128;
 }
 
-void TestRVDescFetch::noProxy()
+void tst_RVDescFetch::noProxy()
 {
     QFETCH(QString, host);
     QFETCH(int, port);
@@ -634,7 +634,7 @@ void TestRVDescFetch::noProxy()
     QVERIFY(m_server->requests().first().startsWith("GET /0.xml "));
 }
 
-void TestRVDescFetch::ftpProxy()
+void tst_RVDescFetch::ftpProxy()
 {
     InlineFtpServer server;
     server.answer("PASS", "530 no\r\n");
@@ -651,7 +651,7 @@ void TestRVDescFetch::ftpProxy()
     QCOMPARE(server.commands().value(0), QByteArray("USER user@repository.invalid"));
 }
 
-void TestRVDescFetch::proxyCredentials()
+void tst_RVDescFetch::proxyCredentials()
 {
     m_server->serve(QStringLiteral("http://repository.invalid/a.xml"), {}, 407,
                     "Proxy-Authenticate: Basic realm=\"proxy\"\r\n");
@@ -671,7 +671,7 @@ void TestRVDescFetch::proxyCredentials()
     QCOMPARE(spies.codes, QList<int>{QNetworkReply::ProxyAuthenticationRequiredError});
 }
 
-void TestRVDescFetch::requestsStayPlain()
+void tst_RVDescFetch::requestsStayPlain()
 {
     m_server->serve(QStringLiteral("/moved.xml"), {}, 302,
                     "Location: " + m_server->url(QStringLiteral("/0.xml")).toEncoded() + "\r\n");
@@ -691,7 +691,7 @@ void TestRVDescFetch::requestsStayPlain()
     QVERIFY(!head.contains("Authorization"));
 }
 
-void TestRVDescFetch::oversizedXmlIsAborted()
+void tst_RVDescFetch::oversizedXmlIsAborted()
 {
     const QString path = QStringLiteral("/large.XML");
     m_server->serve(path, QByteArray(4 * XmlCheck::maxBytes, ' '));
@@ -716,7 +716,7 @@ void TestRVDescFetch::oversizedXmlIsAborted()
     QCOMPARE(spies.finished.count(), 1);
 }
 
-void TestRVDescFetch::largePackageIsNotAborted()
+void tst_RVDescFetch::largePackageIsNotAborted()
 {
     const QString path = QStringLiteral("/large.deb");
     m_server->serve(path, QByteArray(XmlCheck::maxBytes + 1024 * 1024, ' '));
@@ -728,7 +728,7 @@ void TestRVDescFetch::largePackageIsNotAborted()
     QCOMPARE(spies.codes.size(), 0);
 }
 
-void TestRVDescFetch::cancelWithNothingInFlight()
+void tst_RVDescFetch::cancelWithNothingInFlight()
 {
     QList<RVData> entries = localEntries(1);
     RVDescFetch fetch(entries, {}, {});
@@ -739,7 +739,7 @@ void TestRVDescFetch::cancelWithNothingInFlight()
              QStringList(QStringLiteral("DESCRIPTOR FETCH CANCEL, KILLING 0 FETCHES")));
 }
 
-void TestRVDescFetch::cancelInFlight()
+void tst_RVDescFetch::cancelInFlight()
 {
     m_server->hold();
     QList<RVData> entries = remoteEntries(2);
@@ -765,7 +765,7 @@ void TestRVDescFetch::cancelInFlight()
 }
 
 // A local reply tells nothing when it is aborted, and still sends a finished() that was on its way.
-void TestRVDescFetch::cancelLocalFiles()
+void tst_RVDescFetch::cancelLocalFiles()
 {
     QList<RVData> entries = localEntries(2);
     RVDescFetch fetch(entries, {}, {});
@@ -780,7 +780,7 @@ void TestRVDescFetch::cancelLocalFiles()
     QVERIFY(fetch.children().isEmpty());
 }
 
-void TestRVDescFetch::cancelDropsWhatWaits()
+void tst_RVDescFetch::cancelDropsWhatWaits()
 {
     m_server->hold();
     QList<RVData> entries = remoteEntries(RVLimits::transfersInFlight + 50);
@@ -795,7 +795,7 @@ void TestRVDescFetch::cancelDropsWhatWaits()
     QCOMPARE(m_server->requests().size(), RVLimits::transfersInFlight);
 }
 
-void TestRVDescFetch::cancelAfterTheEnd()
+void tst_RVDescFetch::cancelAfterTheEnd()
 {
     QList<RVData> entries = localEntries(2);
     RVDescFetch fetch(entries, {}, {});
@@ -807,7 +807,7 @@ void TestRVDescFetch::cancelAfterTheEnd()
     QVERIFY(m_log->contains(QStringLiteral("DESCRIPTOR FETCH CANCEL, KILLING 0 FETCHES")));
 }
 
-void TestRVDescFetch::cancelFromAnErrorHandler()
+void tst_RVDescFetch::cancelFromAnErrorHandler()
 {
     m_server->hold();
     QList<RVData> entries = remoteEntries(2);
@@ -828,7 +828,7 @@ void TestRVDescFetch::cancelFromAnErrorHandler()
     QVERIFY(fetch.children().isEmpty());
 }
 
-void TestRVDescFetch::cancelWhenALaterEntryFailsAtOnce()
+void tst_RVDescFetch::cancelWhenALaterEntryFailsAtOnce()
 {
     m_server->hold();
     QList<RVData> entries = remoteEntries(RVLimits::transfersInFlight);
@@ -851,7 +851,7 @@ void TestRVDescFetch::cancelWhenALaterEntryFailsAtOnce()
     QCOMPARE(versionOf(entries.last()), QString());
 }
 
-void TestRVDescFetch::onlyOneEnd_data()
+void tst_RVDescFetch::onlyOneEnd_data()
 {
     // s: fetchAll(), c: cancel(), w: wait for the end.
     QTest::addColumn<QByteArray>("steps");
@@ -869,7 +869,7 @@ void TestRVDescFetch::onlyOneEnd_data()
     QTest::newRow("cancel, start") << QByteArray("csw") << 2;
 }
 
-void TestRVDescFetch::onlyOneEnd()
+void tst_RVDescFetch::onlyOneEnd()
 {
     QFETCH(QByteArray, steps);
     QFETCH(int, ends);
@@ -902,7 +902,7 @@ void TestRVDescFetch::onlyOneEnd()
     }
 }
 
-void TestRVDescFetch::replyDeletedByAnotherObject()
+void tst_RVDescFetch::replyDeletedByAnotherObject()
 {
     m_server->hold();
     QList<RVData> entries = remoteEntries(2);
@@ -918,7 +918,7 @@ void TestRVDescFetch::replyDeletedByAnotherObject()
     QVERIFY(!fetch.isActive());
 }
 
-void TestRVDescFetch::deletedInFlight()
+void tst_RVDescFetch::deletedInFlight()
 {
     m_server->hold();
     QList<RVData> entries = remoteEntries(5) + localEntries(5);
@@ -932,7 +932,7 @@ void TestRVDescFetch::deletedInFlight()
     QCOMPARE(m_log->lines(), QStringList());
 }
 
-void TestRVDescFetch::deletedByAnErrorHandler()
+void tst_RVDescFetch::deletedByAnErrorHandler()
 {
     QList<RVData> entries = localEntries(1);
     entries.append(entry(QUrl(QStringLiteral("file:///nonexistent/a.xml"))));
@@ -947,7 +947,7 @@ void TestRVDescFetch::deletedByAnErrorHandler()
     letEverythingArrive();
 }
 
-void TestRVDescFetch::manyEntriesThatFailAtOnce()
+void tst_RVDescFetch::manyEntriesThatFailAtOnce()
 {
     m_guard->allow(QStringLiteral("^Null descriptor"));
     QList<RVData> entries;
@@ -967,7 +967,7 @@ void TestRVDescFetch::manyEntriesThatFailAtOnce()
     QCOMPARE(spies.codes.size(), 5000);
 }
 
-void TestRVDescFetch::logsByWeight()
+void tst_RVDescFetch::logsByWeight()
 {
     m_guard->allow(QStringLiteral("^Null descriptor"));
     const QUrl missing = m_server->url(QStringLiteral("/missing.xml"));
@@ -987,5 +987,5 @@ void TestRVDescFetch::logsByWeight()
     QCOMPARE(levelOf(QStringLiteral("DESCRIPTOR FETCH CANCEL, KILLING 0 FETCHES")), 5);
 }
 
-QTEST_GUILESS_MAIN(TestRVDescFetch)
+QTEST_GUILESS_MAIN(tst_RVDescFetch)
 #include "tst_RVDescFetch.moc"

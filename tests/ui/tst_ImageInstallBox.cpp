@@ -39,7 +39,7 @@ QImage picture(const QIcon &icon)
 
 } // namespace
 
-class TestImageInstallBox : public QObject
+class tst_ImageInstallBox : public QObject
 {
     Q_OBJECT
 
@@ -49,7 +49,7 @@ private Q_SLOTS:
     void answers();
 };
 
-void TestImageInstallBox::saysWhatWillHappen()
+void tst_ImageInstallBox::saysWhatWillHappen()
 {
     const LogFile log;
     WarningGuard warnings;
@@ -76,7 +76,7 @@ void TestImageInstallBox::saysWhatWillHappen()
     QVERIFY2(warnings.isClean(), warnings.report());
 }
 
-void TestImageInstallBox::answers_data()
+void tst_ImageInstallBox::answers_data()
 {
     QTest::addColumn<QString>("act");
     QTest::addColumn<bool>("confirmed");
@@ -88,7 +88,7 @@ void TestImageInstallBox::answers_data()
     QTest::newRow("program quits") << "quit" << false;
 }
 
-void TestImageInstallBox::answers()
+void tst_ImageInstallBox::answers()
 {
     QFETCH(QString, act);
     WarningGuard warnings;
@@ -112,5 +112,5 @@ void TestImageInstallBox::answers()
     QVERIFY2(warnings.isClean(), warnings.report());
 }
 
-QTEST_MAIN(TestImageInstallBox)
+QTEST_MAIN(tst_ImageInstallBox)
 #include "tst_ImageInstallBox.moc"

@@ -96,7 +96,7 @@ QString shownAnywhere()
 Q_DECLARE_METATYPE(Drive)
 
 /// A password in a location is shown nowhere: not in the log, not in a message, not in a window.
-class TestPasswords : public QObject
+class tst_Passwords : public QObject
 {
     Q_OBJECT
 
@@ -130,7 +130,7 @@ private:
     std::vector<std::unique_ptr<QObject>> m_objects;
 };
 
-void TestPasswords::init()
+void tst_Passwords::init()
 {
     m_guard = std::make_unique<WarningGuard>();
     m_log = std::make_unique<LogFile>();
@@ -138,7 +138,7 @@ void TestPasswords::init()
     QSettings(QStringLiteral("Corvane"), QStringLiteral("Ravel")).clear();
 }
 
-void TestPasswords::cleanup()
+void tst_Passwords::cleanup()
 {
     while (!m_objects.empty()) {
         m_objects.pop_back();
@@ -152,7 +152,7 @@ void TestPasswords::cleanup()
     m_guard.reset();
 }
 
-void TestPasswords::rows(const char *title, const char *name, const Drive &drive)
+void tst_Passwords::rows(const char *title, const char *name, const Drive &drive)
 {
     for (const char *scheme : {"http", "https", "ftp"}) {
         QUrl url;
@@ -168,7 +168,7 @@ void TestPasswords::rows(const char *title, const char *name, const Drive &drive
     }
 }
 
-void TestPasswords::stayHidden_data()
+void tst_Passwords::stayHidden_data()
 {
     QTest::addColumn<QUrl>("url");
     QTest::addColumn<Drive>("drive");
@@ -269,7 +269,7 @@ void TestPasswords::stayHidden_data()
     });
 }
 
-void TestPasswords::drivePage(const QUrl &url)
+void tst_Passwords::drivePage(const QUrl &url)
 {
     const QDir world(m_world->file(QString()));
     world.mkpath(QStringLiteral("root/var/lib/dpkg"));
@@ -300,7 +300,7 @@ void TestPasswords::drivePage(const QUrl &url)
     QTRY_COMPARE(frame->currentPage(), RVControlFrame::ErrorPage);
 }
 
-void TestPasswords::stayHidden()
+void tst_Passwords::stayHidden()
 {
     QFETCH(QUrl, url);
     QFETCH(Drive, drive);
@@ -320,5 +320,5 @@ void TestPasswords::stayHidden()
              qPrintable(log + messages + shown));
 }
 
-QTEST_MAIN(TestPasswords)
+QTEST_MAIN(tst_Passwords)
 #include "tst_Passwords.moc"

@@ -47,7 +47,7 @@ public:
 
 } // namespace
 
-class TestRVAdvPage : public QObject
+class tst_RVAdvPage : public QObject
 {
     Q_OBJECT
 
@@ -83,7 +83,7 @@ private:
     std::unique_ptr<RVAdvPage> m_page;
 };
 
-void TestRVAdvPage::init()
+void tst_RVAdvPage::init()
 {
     m_guard = std::make_unique<WarningGuard>();
     m_guard->allow(QStringLiteral("propagateSizeHints"));
@@ -92,7 +92,7 @@ void TestRVAdvPage::init()
     m_page = std::make_unique<RVAdvPage>(nullptr);
 }
 
-void TestRVAdvPage::cleanup()
+void tst_RVAdvPage::cleanup()
 {
     m_page.reset();
     m_log.reset();
@@ -102,7 +102,7 @@ void TestRVAdvPage::cleanup()
     QVERIFY2(clean, report.constData());
 }
 
-void TestRVAdvPage::setRepositories(int count)
+void tst_RVAdvPage::setRepositories(int count)
 {
     const char *const english[] = {"Image location", "Service pack location", "Package location"};
     const char *const german[] = {"Ort der Abbilder", "Ort der Service Packs", "Ort der Pakete"};
@@ -119,7 +119,7 @@ void TestRVAdvPage::setRepositories(int count)
     m_page->setRepositories(list);
 }
 
-void TestRVAdvPage::answersTheHost()
+void tst_RVAdvPage::answersTheHost()
 {
     QCOMPARE(m_page->title(), QStringLiteral("Options"));
     QCOMPARE(m_page->description(), QStringLiteral("Advanced Options for Ravel"));
@@ -130,7 +130,7 @@ void TestRVAdvPage::answersTheHost()
     QVERIFY(!m_page->windowIcon().pixmap(16).isNull());
 }
 
-void TestRVAdvPage::hasItsFramesInAnAccordion()
+void tst_RVAdvPage::hasItsFramesInAnAccordion()
 {
     QCOMPARE(items().size(), 2);
     QCOMPARE(items().at(0)->frame(), locations());
@@ -145,7 +145,7 @@ void TestRVAdvPage::hasItsFramesInAnAccordion()
     }
 }
 
-void TestRVAdvPage::showsTheRepositories()
+void tst_RVAdvPage::showsTheRepositories()
 {
     setRepositories(2);
     QCOMPARE(fields().size(), 2);
@@ -156,7 +156,7 @@ void TestRVAdvPage::showsTheRepositories()
     QCOMPARE(fields().size(), 3);
 }
 
-void TestRVAdvPage::passesOnWhatItsFramesSay()
+void tst_RVAdvPage::passesOnWhatItsFramesSay()
 {
     setRepositories(2);
     QSignalSpy urls(m_page.get(), &RVAdvPage::repositoryURLChanged);
@@ -173,7 +173,7 @@ void TestRVAdvPage::passesOnWhatItsFramesSay()
     QCOMPARE(modified.size(), 2);
 }
 
-void TestRVAdvPage::reportsTheStoredProxies()
+void tst_RVAdvPage::reportsTheStoredProxies()
 {
     QSettings settings(QStringLiteral("Corvane"), QStringLiteral("Ravel"));
     settings.setValue(QStringLiteral("ProxySettings/style"), 2);
@@ -194,7 +194,7 @@ void TestRVAdvPage::reportsTheStoredProxies()
     QCOMPARE(modified.size(), 0);
 }
 
-void TestRVAdvPage::tellsTheHelpOfTheOpenFrame()
+void tst_RVAdvPage::tellsTheHelpOfTheOpenFrame()
 {
     QSignalSpy help(m_page.get(), &RVAdvPage::helpChanged);
     const auto last = [&help] {
@@ -212,7 +212,7 @@ void TestRVAdvPage::tellsTheHelpOfTheOpenFrame()
     QCOMPARE(help.size(), 2);
 }
 
-void TestRVAdvPage::changesLanguage()
+void tst_RVAdvPage::changesLanguage()
 {
     setRepositories(3);
     QSignalSpy help(m_page.get(), &RVAdvPage::helpChanged);
@@ -243,7 +243,7 @@ void TestRVAdvPage::changesLanguage()
     QCOMPARE(fields().at(0)->accessibleName(), QStringLiteral("Ort der Abbilder"));
 }
 
-void TestRVAdvPage::isSpoken()
+void tst_RVAdvPage::isSpoken()
 {
     setRepositories(3);
     m_page->resize(700, 500);
@@ -255,7 +255,7 @@ void TestRVAdvPage::isSpoken()
     }
 }
 
-void TestRVAdvPage::scrollsManyRows()
+void tst_RVAdvPage::scrollsManyRows()
 {
     setRepositories(20);
     m_page->resize(640, 320);
@@ -280,7 +280,7 @@ void TestRVAdvPage::scrollsManyRows()
     QVERIFY(qobject_cast<QAbstractButton *>(QApplication::focusWidget()));
 }
 
-void TestRVAdvPage::looksGood_data()
+void tst_RVAdvPage::looksGood_data()
 {
     QTest::addColumn<bool>("dark");
     QTest::addColumn<int>("percent");
@@ -293,7 +293,7 @@ void TestRVAdvPage::looksGood_data()
     QTest::newRow("mirrored") << false << 100 << 3 << true;
 }
 
-void TestRVAdvPage::looksGood()
+void tst_RVAdvPage::looksGood()
 {
     QFETCH(bool, dark);
     QFETCH(int, percent);
@@ -346,5 +346,5 @@ void TestRVAdvPage::looksGood()
     area.takeWidget();
 }
 
-QTEST_MAIN(TestRVAdvPage)
+QTEST_MAIN(tst_RVAdvPage)
 #include "tst_RVAdvPage.moc"

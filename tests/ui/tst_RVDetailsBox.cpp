@@ -12,7 +12,7 @@
 
 #include <memory>
 
-class TestRVDetailsBox : public QObject
+class tst_RVDetailsBox : public QObject
 {
     Q_OBJECT
 
@@ -84,5 +84,5 @@ private:
     std::unique_ptr<WarningGuard> m_guard;
 };
 
-QTEST_MAIN(TestRVDetailsBox)
+QTEST_MAIN(tst_RVDetailsBox)
 #include "tst_RVDetailsBox.moc"

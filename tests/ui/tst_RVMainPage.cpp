@@ -132,7 +132,7 @@ public:
 
 } // namespace
 
-class TestRVMainPage : public QObject
+class tst_RVMainPage : public QObject
 {
     Q_OBJECT
 
@@ -233,12 +233,12 @@ private:
     RVPaths m_paths;
 };
 
-void TestRVMainPage::initTestCase()
+void tst_RVMainPage::initTestCase()
 {
     qRegisterMetaType<QNetworkReply::NetworkError>();
 }
 
-void TestRVMainPage::init()
+void tst_RVMainPage::init()
 {
     m_guard = std::make_unique<WarningGuard>();
     m_guard->allow(QStringLiteral("propagateSizeHints"));
@@ -254,7 +254,7 @@ void TestRVMainPage::init()
     write(QStringLiteral("var/lib/dpkg/status"), "");
 }
 
-void TestRVMainPage::cleanup()
+void tst_RVMainPage::cleanup()
 {
     qDeleteAll(dialogs<QDialog>());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -266,14 +266,14 @@ void TestRVMainPage::cleanup()
     QVERIFY2(clean, report.constData());
 }
 
-void TestRVMainPage::write(const QString &name, const QByteArray &content) const
+void tst_RVMainPage::write(const QString &name, const QByteArray &content) const
 {
     QFile file(m_world->file(QStringLiteral("root/")) + name);
     QVERIFY2(file.open(QIODevice::WriteOnly) && file.write(content) == content.size(),
              qPrintable(name));
 }
 
-void TestRVMainPage::define(const QString &file, const QList<Definition> &definitions) const
+void tst_RVMainPage::define(const QString &file, const QList<Definition> &definitions) const
 {
     QString xml = QStringLiteral("<repository_list>");
     for (const Definition &definition : definitions) {
@@ -293,7 +293,7 @@ void TestRVMainPage::define(const QString &file, const QList<Definition> &defini
     write(QStringLiteral("etc/cvtc-ravel/repositories/") + file, xml.toUtf8());
 }
 
-void TestRVMainPage::headingsShowWhatTheirTitlesMean()
+void tst_RVMainPage::headingsShowWhatTheirTitlesMean()
 {
     define({local(QStringLiteral("Tools &amp; more"))});
     const auto page = this->page();
@@ -302,7 +302,7 @@ void TestRVMainPage::headingsShowWhatTheirTitlesMean()
     QCOMPARE(frames(*page).first()->title(), QStringLiteral("Tools & more"));
 }
 
-void TestRVMainPage::answersTheHost()
+void tst_RVMainPage::answersTheHost()
 {
     define({local(QStringLiteral("Packages"))});
     const auto page = this->page();
@@ -320,7 +320,7 @@ void TestRVMainPage::answersTheHost()
     QCOMPARE(QLatin1String(RVMainPage::TITLE_PAGE_TITLE), QLatin1String("Ravel"));
 }
 
-void TestRVMainPage::setsTheLogUp()
+void tst_RVMainPage::setsTheLogUp()
 {
     define({local(QStringLiteral("Packages"))});
     RVLogger::m_level = 7;
@@ -331,7 +331,7 @@ void TestRVMainPage::setsTheLogUp()
     QVERIFY(m_log->contains(QStringLiteral("Setting up repository('Location of Packages')")));
 }
 
-void TestRVMainPage::throws_data()
+void tst_RVMainPage::throws_data()
 {
     QTest::addColumn<QString>("trouble");
     QTest::addColumn<int>("exception");
@@ -342,7 +342,7 @@ void TestRVMainPage::throws_data()
     QTest::newRow("no image identification") << QStringLiteral("imageid") << 4;
 }
 
-void TestRVMainPage::throws()
+void tst_RVMainPage::throws()
 {
     QFETCH(QString, trouble);
     QFETCH(int, exception);
@@ -371,7 +371,7 @@ void TestRVMainPage::throws()
     QCOMPARE(systemTrouble, exception == 4);
 }
 
-void TestRVMainPage::leavesTheHostAloneWhenItCannotWork()
+void tst_RVMainPage::leavesTheHostAloneWhenItCannotWork()
 {
     PlumeMainWindow window;
     define({});
@@ -386,7 +386,7 @@ void TestRVMainPage::leavesTheHostAloneWhenItCannotWork()
     QVERIFY(window.findChildren<WizardPage *>().isEmpty());
 }
 
-void TestRVMainPage::makesASectionForEachDefinition()
+void tst_RVMainPage::makesASectionForEachDefinition()
 {
     define(QStringLiteral("b.xml"), {local(QStringLiteral("Packages"))});
     define(QStringLiteral("A.xml"),
@@ -414,7 +414,7 @@ void TestRVMainPage::makesASectionForEachDefinition()
     }
 }
 
-void TestRVMainPage::hidesSectionsWithoutLocation()
+void tst_RVMainPage::hidesSectionsWithoutLocation()
 {
     define(
         {{QStringLiteral("one"), QStringLiteral("One"), QUrl(), {}}, local(QStringLiteral("Two"))});
@@ -424,7 +424,7 @@ void TestRVMainPage::hidesSectionsWithoutLocation()
     QVERIFY(items(*page).at(1)->isExpanded());
 }
 
-void TestRVMainPage::logsUnknownIcons()
+void tst_RVMainPage::logsUnknownIcons()
 {
     Definition definition = local(QStringLiteral("Packages"));
     definition.icon = QStringLiteral("Nothing");
@@ -434,7 +434,7 @@ void TestRVMainPage::logsUnknownIcons()
     QCOMPARE(m_log->count(QStringLiteral("No match for std icon name Nothing")), 1);
 }
 
-void TestRVMainPage::retrievesLocalRepositoriesAtOnce()
+void tst_RVMainPage::retrievesLocalRepositoriesAtOnce()
 {
     Definition relative = local(QStringLiteral("Relative"));
     relative.url = QUrl(m_world->repository());
@@ -448,7 +448,7 @@ void TestRVMainPage::retrievesLocalRepositoriesAtOnce()
     QTRY_COMPARE(table(frames(*page).at(0))->rowCount(), 1);
 }
 
-void TestRVMainPage::compilesItsPatterns()
+void tst_RVMainPage::compilesItsPatterns()
 {
     Definition definition = local(QStringLiteral("Packages"));
     definition.more = QStringLiteral("<filter_pattern><archive_pattern>\\.DEB$</archive_pattern>"
@@ -467,7 +467,7 @@ void TestRVMainPage::compilesItsPatterns()
     QTRY_COMPARE(table(frames(*page).first())->rowCount(), 2);
 }
 
-void TestRVMainPage::prefersTheStoredLocation()
+void tst_RVMainPage::prefersTheStoredLocation()
 {
     QSettings settings(QStringLiteral("Corvane"), QStringLiteral("Ravel"));
     settings.setValue(QStringLiteral("packages"), QStringLiteral("http://stored.example/"));
@@ -478,7 +478,7 @@ void TestRVMainPage::prefersTheStoredLocation()
              QUrl(QStringLiteral("http://stored.example/")));
 }
 
-void TestRVMainPage::reportsNetworkErrors_data()
+void tst_RVMainPage::reportsNetworkErrors_data()
 {
     QTest::addColumn<int>("code");
     QTest::addColumn<int>("logged");
@@ -489,7 +489,7 @@ void TestRVMainPage::reportsNetworkErrors_data()
     QTest::newRow("cancelled") << 5 << 5 << false;
 }
 
-void TestRVMainPage::reportsNetworkErrors()
+void tst_RVMainPage::reportsNetworkErrors()
 {
     QFETCH(int, code);
     QFETCH(int, logged);
@@ -509,7 +509,7 @@ void TestRVMainPage::reportsNetworkErrors()
     QCOMPARE(m_log->lines().isEmpty(), !reported);
 }
 
-void TestRVMainPage::reportsAFailureOnce()
+void tst_RVMainPage::reportsAFailureOnce()
 {
     define({local(QStringLiteral("Packages"))});
     const auto page = this->page();
@@ -524,7 +524,7 @@ void TestRVMainPage::reportsAFailureOnce()
     QCOMPARE(m_log->count(line), 2);
 }
 
-void TestRVMainPage::reportsAMissingRepository()
+void tst_RVMainPage::reportsAMissingRepository()
 {
     Definition missing = local(QStringLiteral("Packages"));
     missing.url = QUrl::fromLocalFile(m_world->file(QStringLiteral("missing")));
@@ -535,14 +535,14 @@ void TestRVMainPage::reportsAMissingRepository()
     QCOMPARE(m_log->lines().filter(QStringLiteral("Network Error '203'")).size(), 1);
 }
 
-void TestRVMainPage::asksAboutCertificates_data()
+void tst_RVMainPage::asksAboutCertificates_data()
 {
     QTest::addColumn<bool>("accept");
     QTest::newRow("accepted") << true;
     QTest::newRow("rejected") << false;
 }
 
-void TestRVMainPage::asksAboutCertificates()
+void tst_RVMainPage::asksAboutCertificates()
 {
     QFETCH(bool, accept);
     define({local(QStringLiteral("Packages"))});
@@ -562,7 +562,7 @@ void TestRVMainPage::asksAboutCertificates()
     QVERIFY(dialogs<CertDialog>().isEmpty());
 }
 
-void TestRVMainPage::remembersAnAcceptedCertificate()
+void tst_RVMainPage::remembersAnAcceptedCertificate()
 {
     define({local(QStringLiteral("Packages"))});
     auto page = this->page();
@@ -597,7 +597,7 @@ void TestRVMainPage::remembersAnAcceptedCertificate()
     QVERIFY(asked);
 }
 
-void TestRVMainPage::asksAgainWithoutFingerprint()
+void tst_RVMainPage::asksAgainWithoutFingerprint()
 {
     define({local(QStringLiteral("Packages"))});
     const auto page = this->page();
@@ -615,7 +615,7 @@ void TestRVMainPage::asksAgainWithoutFingerprint()
     }
 }
 
-void TestRVMainPage::asksAgainForOtherErrors_data()
+void tst_RVMainPage::asksAgainForOtherErrors_data()
 {
     QTest::addColumn<QList<int>>("errors");
     QTest::addColumn<bool>("asks");
@@ -627,7 +627,7 @@ void TestRVMainPage::asksAgainForOtherErrors_data()
     QTest::newRow("another one") << QList<int>{9, 6} << true;
 }
 
-void TestRVMainPage::asksAgainForOtherErrors()
+void tst_RVMainPage::asksAgainForOtherErrors()
 {
     QFETCH(QList<int>, errors);
     QFETCH(bool, asks);
@@ -660,7 +660,7 @@ void TestRVMainPage::asksAgainForOtherErrors()
 }
 
 // Each asks about something else, while the first dialog is open.
-void TestRVMainPage::showsOneDialogAtATime_data()
+void tst_RVMainPage::showsOneDialogAtATime_data()
 {
     QTest::addColumn<QList<bool>>("answers");
     QTest::newRow("all accepted") << QList<bool>{true, true, true};
@@ -669,7 +669,7 @@ void TestRVMainPage::showsOneDialogAtATime_data()
     QTest::newRow("the last one accepted") << QList<bool>{false, false, true};
 }
 
-void TestRVMainPage::showsOneDialogAtATime()
+void tst_RVMainPage::showsOneDialogAtATime()
 {
     QFETCH(QList<bool>, answers);
     define({local(QStringLiteral("Packages"))});
@@ -728,7 +728,7 @@ void TestRVMainPage::showsOneDialogAtATime()
     QCOMPARE(again[2].ignored, answers.at(2) ? 1 : 0);
 }
 
-void TestRVMainPage::asksOnceForDownloadsSideBySide()
+void tst_RVMainPage::asksOnceForDownloadsSideBySide()
 {
     define({local(QStringLiteral("Packages"))});
     const auto page = this->page();
@@ -749,7 +749,7 @@ void TestRVMainPage::asksOnceForDownloadsSideBySide()
     QCOMPARE(second.ignored, 1);
 }
 
-void TestRVMainPage::survivesItsEndWhileAsking()
+void tst_RVMainPage::survivesItsEndWhileAsking()
 {
     define({local(QStringLiteral("Packages"))});
     auto page = this->page();
@@ -768,7 +768,7 @@ void TestRVMainPage::survivesItsEndWhileAsking()
     QVERIFY(dialogs<CertDialog>().isEmpty());
 }
 
-void TestRVMainPage::survivesTheReplysEndWhileAsking()
+void tst_RVMainPage::survivesTheReplysEndWhileAsking()
 {
     define({local(QStringLiteral("Packages"))});
     const auto page = this->page();
@@ -783,7 +783,7 @@ void TestRVMainPage::survivesTheReplysEndWhileAsking()
     QCOMPARE(next.ignored, 1);
 }
 
-void TestRVMainPage::sharesCredentials()
+void tst_RVMainPage::sharesCredentials()
 {
     define({remote(QStringLiteral("One"), QStringLiteral("ftp://same.example/1/")),
             remote(QStringLiteral("Two"), QStringLiteral("http://same.example/2/")),
@@ -818,7 +818,7 @@ void TestRVMainPage::sharesCredentials()
     QCOMPARE(frames.at(3)->repository()->user(), QString());
 }
 
-void TestRVMainPage::changesProxies_data()
+void tst_RVMainPage::changesProxies_data()
 {
     QTest::addColumn<QString>("scheme");
     QTest::addColumn<QString>("host");
@@ -834,7 +834,7 @@ void TestRVMainPage::changesProxies_data()
         << QStringLiteral("HTTP") << QString() << -1 << 0 << 0;
 }
 
-void TestRVMainPage::changesProxies()
+void tst_RVMainPage::changesProxies()
 {
     QFETCH(QString, scheme);
     QFETCH(QString, host);
@@ -854,7 +854,7 @@ void TestRVMainPage::changesProxies()
     }
 }
 
-void TestRVMainPage::refreshesOnlyForAnotherProxy()
+void tst_RVMainPage::refreshesOnlyForAnotherProxy()
 {
     define({remote(QStringLiteral("One"), QStringLiteral("http://a.example/"))});
     const auto page = this->page();
@@ -875,7 +875,7 @@ void TestRVMainPage::refreshesOnlyForAnotherProxy()
     QCOMPARE(frames(*page).first()->repository()->proxyHost(), QString());
 }
 
-void TestRVMainPage::changesALocation()
+void tst_RVMainPage::changesALocation()
 {
     define({local(QStringLiteral("Packages"))});
     m_world->add(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"));
@@ -897,7 +897,7 @@ void TestRVMainPage::changesALocation()
              url.toString());
 }
 
-void TestRVMainPage::takesTheProxyOfTheNewScheme()
+void tst_RVMainPage::takesTheProxyOfTheNewScheme()
 {
     define({remote(QStringLiteral("One"), QStringLiteral("http://a.example/"))});
     const auto page = this->page();
@@ -914,7 +914,7 @@ void TestRVMainPage::takesTheProxyOfTheNewScheme()
     QCOMPARE(repository->proxyHost(), QStringLiteral("web.example"));
 }
 
-void TestRVMainPage::emptiesALocation()
+void tst_RVMainPage::emptiesALocation()
 {
     define({local(QStringLiteral("One")), local(QStringLiteral("Two"))});
     const auto page = this->page();
@@ -927,7 +927,7 @@ void TestRVMainPage::emptiesALocation()
     QCOMPARE(refreshes(QString()), 0);
 }
 
-void TestRVMainPage::showsASectionThatGetsALocation()
+void tst_RVMainPage::showsASectionThatGetsALocation()
 {
     define({{QStringLiteral("one"), QStringLiteral("One"), QUrl(), {}}});
     m_world->add(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"));
@@ -938,7 +938,7 @@ void TestRVMainPage::showsASectionThatGetsALocation()
     QTRY_COMPARE(table(frames(*page).first())->rowCount(), 1);
 }
 
-void TestRVMainPage::forgetsCredentialsWithTheLocation()
+void tst_RVMainPage::forgetsCredentialsWithTheLocation()
 {
     define({remote(QStringLiteral("One"), QStringLiteral("http://a.example/"))});
     const auto page = this->page();
@@ -953,7 +953,7 @@ void TestRVMainPage::forgetsCredentialsWithTheLocation()
     }
 }
 
-void TestRVMainPage::ignoresForeignIndices()
+void tst_RVMainPage::ignoresForeignIndices()
 {
     define({local(QStringLiteral("One"))});
     const auto page = this->page();
@@ -962,7 +962,7 @@ void TestRVMainPage::ignoresForeignIndices()
     QVERIFY(!items(*page).first()->isHidden());
 }
 
-void TestRVMainPage::tellsTheHelpOfTheOpenSection()
+void tst_RVMainPage::tellsTheHelpOfTheOpenSection()
 {
     define({local(QStringLiteral("One")), local(QStringLiteral("Two"))});
     const auto page = this->page();
@@ -977,7 +977,7 @@ void TestRVMainPage::tellsTheHelpOfTheOpenSection()
     QCOMPARE(help.last().first().toString(), QStringLiteral("About Two"));
 }
 
-void TestRVMainPage::tellsWhereRepositoriesAre()
+void tst_RVMainPage::tellsWhereRepositoriesAre()
 {
     define({local(QStringLiteral("One")),
             remote(QStringLiteral("Two"), QStringLiteral("http://a.example/"))});
@@ -993,7 +993,7 @@ void TestRVMainPage::tellsWhereRepositoriesAre()
     QCOMPARE(stats.at(1)->defaultUrl, QUrl(QStringLiteral("http://a.example/")));
 }
 
-void TestRVMainPage::changesLanguage()
+void tst_RVMainPage::changesLanguage()
 {
     define({local(QStringLiteral("One"))});
     const auto page = this->page();
@@ -1009,7 +1009,7 @@ void TestRVMainPage::changesLanguage()
     QCOMPARE(frames(*page).first()->title(), QStringLiteral("One (de)"));
 }
 
-void TestRVMainPage::readsTheSystemBeforeTheTables()
+void tst_RVMainPage::readsTheSystemBeforeTheTables()
 {
     define({local(QStringLiteral("One")), local(QStringLiteral("Two"))});
     m_world->add(QStringLiteral("tool"), QStringLiteral("tool"), QStringLiteral("2.0"));
@@ -1036,7 +1036,7 @@ void TestRVMainPage::readsTheSystemBeforeTheTables()
     }
 }
 
-void TestRVMainPage::installsWithTheRealDpkg_data()
+void tst_RVMainPage::installsWithTheRealDpkg_data()
 {
     QTest::addColumn<QByteArray>("fields");
     QTest::addColumn<QString>("installed");
@@ -1049,7 +1049,7 @@ void TestRVMainPage::installsWithTheRealDpkg_data()
         << static_cast<int>(Qt::Checked) << QStringLiteral("tool conflicts with keeper");
 }
 
-void TestRVMainPage::installsWithTheRealDpkg()
+void tst_RVMainPage::installsWithTheRealDpkg()
 {
     QFETCH(QByteArray, fields);
     QFETCH(QString, installed);
@@ -1092,7 +1092,7 @@ void TestRVMainPage::installsWithTheRealDpkg()
     QCOMPARE(log.contains(QStringLiteral("Failed installation details:")), !logged.isEmpty());
 }
 
-void TestRVMainPage::addsItsPagesToTheHost()
+void tst_RVMainPage::addsItsPagesToTheHost()
 {
     define({local(QStringLiteral("One"))});
     PlumeMainWindow window;
@@ -1108,7 +1108,7 @@ void TestRVMainPage::addsItsPagesToTheHost()
     QVERIFY(window.isAncestorOf(page));
 }
 
-void TestRVMainPage::translatesTheTitlePage()
+void tst_RVMainPage::translatesTheTitlePage()
 {
     define({local(QStringLiteral("One"))});
     PlumeMainWindow window;
@@ -1130,7 +1130,7 @@ void TestRVMainPage::translatesTheTitlePage()
     QCoreApplication::removeTranslator(&catalogue);
 }
 
-void TestRVMainPage::closesTheLog()
+void tst_RVMainPage::closesTheLog()
 {
     define({local(QStringLiteral("One"))});
     m_world->add(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"));
@@ -1140,14 +1140,14 @@ void TestRVMainPage::closesTheLog()
     QVERIFY(!RVLogger::m_stream);
 }
 
-void TestRVMainPage::looksGood_data()
+void tst_RVMainPage::looksGood_data()
 {
     QTest::addColumn<bool>("dark");
     QTest::newRow("light") << false;
     QTest::newRow("dark") << true;
 }
 
-void TestRVMainPage::looksGood()
+void tst_RVMainPage::looksGood()
 {
     QFETCH(bool, dark);
     Definition images = local(QStringLiteral("Images"), QStringLiteral("PickOne"));
@@ -1181,5 +1181,5 @@ void TestRVMainPage::looksGood()
     }
 }
 
-QTEST_MAIN(TestRVMainPage)
+QTEST_MAIN(tst_RVMainPage)
 #include "tst_RVMainPage.moc"

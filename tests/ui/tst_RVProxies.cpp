@@ -50,7 +50,7 @@ public:
 
 } // namespace
 
-class TestRVProxies : public QObject
+class tst_RVProxies : public QObject
 {
     Q_OBJECT
 
@@ -145,7 +145,7 @@ private:
     QStringList m_events;
 };
 
-void TestRVProxies::init()
+void tst_RVProxies::init()
 {
     m_guard = std::make_unique<WarningGuard>();
     m_guard->allow(QStringLiteral("propagateSizeHints"));
@@ -153,7 +153,7 @@ void TestRVProxies::init()
     settings().clear();
 }
 
-void TestRVProxies::cleanup()
+void tst_RVProxies::cleanup()
 {
     m_frame.reset();
     m_log.reset();
@@ -163,7 +163,7 @@ void TestRVProxies::cleanup()
     QVERIFY2(clean, report.constData());
 }
 
-void TestRVProxies::startsWithoutProxies()
+void tst_RVProxies::startsWithoutProxies()
 {
     make();
     QCOMPARE(m_frame->title(), QStringLiteral("Title"));
@@ -184,7 +184,7 @@ void TestRVProxies::startsWithoutProxies()
     QCOMPARE(settings().allKeys(), QStringList());
 }
 
-void TestRVProxies::readsEveryKey()
+void tst_RVProxies::readsEveryKey()
 {
     QSettings stored = settings();
     stored.beginGroup(QStringLiteral("ProxySettings"));
@@ -208,7 +208,7 @@ void TestRVProxies::readsEveryKey()
     }
 }
 
-void TestRVProxies::writesEveryKey()
+void tst_RVProxies::writesEveryKey()
 {
     make();
     manual()->setChecked(true);
@@ -235,7 +235,7 @@ void TestRVProxies::writesEveryKey()
     }
 }
 
-void TestRVProxies::comesBackAsItWasStored()
+void tst_RVProxies::comesBackAsItWasStored()
 {
     make();
     manual()->setChecked(true);
@@ -263,7 +263,7 @@ void TestRVProxies::comesBackAsItWasStored()
     QCOMPARE(cell(0, port), QStringLiteral("65535"));
 }
 
-void TestRVProxies::reservedStyles_data()
+void tst_RVProxies::reservedStyles_data()
 {
     QTest::addColumn<QVariant>("style");
     for (const int style : {1, 3, 4, -1}) {
@@ -271,7 +271,7 @@ void TestRVProxies::reservedStyles_data()
     }
 }
 
-void TestRVProxies::reservedStyles()
+void tst_RVProxies::reservedStyles()
 {
     QFETCH(QVariant, style);
     settings().setValue(QStringLiteral("ProxySettings/style"), style);
@@ -294,7 +294,7 @@ void TestRVProxies::reservedStyles()
              QStringLiteral("0"));
 }
 
-void TestRVProxies::keepsTheSettingsPrivate()
+void tst_RVProxies::keepsTheSettingsPrivate()
 {
     const QString file = settings().fileName();
     make();
@@ -316,7 +316,7 @@ void TestRVProxies::keepsTheSettingsPrivate()
     QCOMPARE(QFile::permissions(file) & (owner | others), owner);
 }
 
-void TestRVProxies::reports_data()
+void tst_RVProxies::reports_data()
 {
     QTest::addColumn<bool>("isManual");
     QTest::addColumn<bool>("same");
@@ -337,7 +337,7 @@ void TestRVProxies::reports_data()
                        QStringLiteral("FTP web.example:3128"), QStringLiteral("modified")};
 }
 
-void TestRVProxies::reports()
+void tst_RVProxies::reports()
 {
     QFETCH(bool, isManual);
     QFETCH(bool, same);
@@ -356,7 +356,7 @@ void TestRVProxies::reports()
     QCOMPARE(m_events, expected);
 }
 
-void TestRVProxies::storesBeforeItReports()
+void tst_RVProxies::storesBeforeItReports()
 {
     make();
     setRow(0, QStringLiteral("web.example"), QStringLiteral("3128"));
@@ -372,7 +372,7 @@ void TestRVProxies::storesBeforeItReports()
     QVERIFY2(stored.contains(QLatin1String("server_HTTP=web.example")), qPrintable(stored));
 }
 
-void TestRVProxies::shortWordForAll()
+void tst_RVProxies::shortWordForAll()
 {
     make();
     useSame()->setChecked(true);
@@ -387,7 +387,7 @@ void TestRVProxies::shortWordForAll()
     QVERIFY(m_events.first().startsWith(QLatin1String("HTTP ")));
 }
 
-void TestRVProxies::enablesWhatIsUsed()
+void tst_RVProxies::enablesWhatIsUsed()
 {
     make();
     QVERIFY(!table()->isEnabled());
@@ -400,7 +400,7 @@ void TestRVProxies::enablesWhatIsUsed()
     QVERIFY(!useSame()->isEnabled());
 }
 
-void TestRVProxies::disablesTheOtherRowsWhileOneProxyServesAll()
+void tst_RVProxies::disablesTheOtherRowsWhileOneProxyServesAll()
 {
     make();
     manual()->setChecked(true);
@@ -428,7 +428,7 @@ void TestRVProxies::disablesTheOtherRowsWhileOneProxyServesAll()
     QCOMPARE(enabled(1), 0);
 }
 
-void TestRVProxies::refusesPorts_data()
+void tst_RVProxies::refusesPorts_data()
 {
     QTest::addColumn<QString>("text");
     for (const char *text : {"abc", "80a", "0", "-1", "65536", "99999999999", "8 0", "3.5", "+80",
@@ -438,7 +438,7 @@ void TestRVProxies::refusesPorts_data()
     QTest::newRow("digits of another script") << QString::fromUtf8("٣١٢٨");
 }
 
-void TestRVProxies::refusesPorts()
+void tst_RVProxies::refusesPorts()
 {
     QFETCH(QString, text);
     make();
@@ -482,7 +482,7 @@ void TestRVProxies::refusesPorts()
     QVERIFY(m_events.contains(QStringLiteral("HTTPS new.example:8081")));
 }
 
-void TestRVProxies::takesPorts_data()
+void tst_RVProxies::takesPorts_data()
 {
     QTest::addColumn<int>("number");
     QTest::newRow("1") << 1;
@@ -491,7 +491,7 @@ void TestRVProxies::takesPorts_data()
     QTest::newRow(" 3128 ") << 3128;
 }
 
-void TestRVProxies::takesPorts()
+void tst_RVProxies::takesPorts()
 {
     QFETCH(int, number);
     make();
@@ -502,7 +502,7 @@ void TestRVProxies::takesPorts()
     QCOMPARE(settings().value(QStringLiteral("ProxySettings/port_HTTP")).toInt(), number);
 }
 
-void TestRVProxies::unusedPortsBlockNothing_data()
+void tst_RVProxies::unusedPortsBlockNothing_data()
 {
     QTest::addColumn<bool>("isManual");
     QTest::addColumn<bool>("same");
@@ -510,7 +510,7 @@ void TestRVProxies::unusedPortsBlockNothing_data()
     QTest::newRow("one proxy serves all") << true << true;
 }
 
-void TestRVProxies::unusedPortsBlockNothing()
+void tst_RVProxies::unusedPortsBlockNothing()
 {
     QFETCH(bool, isManual);
     QFETCH(bool, same);
@@ -532,7 +532,7 @@ void TestRVProxies::unusedPortsBlockNothing()
              QStringLiteral("files.example"));
 }
 
-void TestRVProxies::readsStoredNonsense_data()
+void tst_RVProxies::readsStoredNonsense_data()
 {
     QTest::addColumn<QVariant>("stored");
     QTest::addColumn<QString>("shown");
@@ -542,7 +542,7 @@ void TestRVProxies::readsStoredNonsense_data()
     QTest::newRow("no port as -1") << QVariant(-1) << QString();
 }
 
-void TestRVProxies::readsStoredNonsense()
+void tst_RVProxies::readsStoredNonsense()
 {
     QFETCH(QVariant, stored);
     settings().setValue(QStringLiteral("ProxySettings/style"), 2);
@@ -564,7 +564,7 @@ void TestRVProxies::readsStoredNonsense()
     QVERIFY(m_events.contains(QStringLiteral("modified")));
 }
 
-void TestRVProxies::logsSettingsThatCannotBeWritten()
+void tst_RVProxies::logsSettingsThatCannotBeWritten()
 {
     make();
     const QString file = settings().fileName();
@@ -577,7 +577,7 @@ void TestRVProxies::logsSettingsThatCannotBeWritten()
     QCOMPARE(m_events.size(), 4);
 }
 
-void TestRVProxies::takesWhatAnOpenEditorHolds()
+void tst_RVProxies::takesWhatAnOpenEditorHolds()
 {
     make();
     manual()->setChecked(true);
@@ -592,7 +592,7 @@ void TestRVProxies::takesWhatAnOpenEditorHolds()
     QCOMPARE(m_events.value(0), QStringLiteral("HTTP web.example:3128"));
 }
 
-void TestRVProxies::worksByKeyboard()
+void tst_RVProxies::worksByKeyboard()
 {
     make();
     show();
@@ -631,7 +631,7 @@ void TestRVProxies::worksByKeyboard()
     QCOMPARE(QApplication::focusWidget(), manual());
 }
 
-void TestRVProxies::returnIsOk()
+void tst_RVProxies::returnIsOk()
 {
     make();
     manual()->setChecked(true);
@@ -649,7 +649,7 @@ void TestRVProxies::returnIsOk()
     QCOMPARE(m_events.size(), 4);
 }
 
-void TestRVProxies::isSpoken()
+void tst_RVProxies::isSpoken()
 {
     make();
     manual()->setChecked(true);
@@ -683,7 +683,7 @@ void TestRVProxies::isSpoken()
     QCOMPARE(editor->text(QAccessible::Description), warning()->text());
 }
 
-void TestRVProxies::changesLanguage()
+void tst_RVProxies::changesLanguage()
 {
     make();
     manual()->setChecked(true);
@@ -718,7 +718,7 @@ void TestRVProxies::changesLanguage()
     QCOMPARE(cell(0, 0), QStringLiteral("All"));
 }
 
-void TestRVProxies::readsFromLeftToRight()
+void tst_RVProxies::readsFromLeftToRight()
 {
     make();
     m_frame->setLayoutDirection(Qt::RightToLeft);
@@ -733,7 +733,7 @@ void TestRVProxies::readsFromLeftToRight()
     QCOMPARE(table()->layoutDirection(), Qt::RightToLeft);
 }
 
-void TestRVProxies::showsAllItsRows_data()
+void tst_RVProxies::showsAllItsRows_data()
 {
     QTest::addColumn<int>("percent");
     QTest::newRow("usual text") << 100;
@@ -741,7 +741,7 @@ void TestRVProxies::showsAllItsRows_data()
     QTest::newRow("small text") << 70;
 }
 
-void TestRVProxies::showsAllItsRows()
+void tst_RVProxies::showsAllItsRows()
 {
     QFETCH(int, percent);
     make();
@@ -770,7 +770,7 @@ void TestRVProxies::showsAllItsRows()
     }
 }
 
-void TestRVProxies::holdsHostileTexts()
+void tst_RVProxies::holdsHostileTexts()
 {
     const QString huge = QStringLiteral("<img src=x>") + QString(100000, QLatin1Char('9'));
     QSettings stored = settings();
@@ -795,5 +795,5 @@ void TestRVProxies::holdsHostileTexts()
     QVERIFY(m_events.first().endsWith(QLatin1String(":-1")));
 }
 
-QTEST_MAIN(TestRVProxies)
+QTEST_MAIN(tst_RVProxies)
 #include "tst_RVProxies.moc"

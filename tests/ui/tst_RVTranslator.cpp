@@ -57,7 +57,7 @@ public:
 
 } // namespace
 
-class TestRVTranslator : public QObject
+class tst_RVTranslator : public QObject
 {
     Q_OBJECT
 
@@ -216,5 +216,5 @@ private:
     WarningGuard m_guard;
 };
 
-QTEST_MAIN(TestRVTranslator)
+QTEST_MAIN(tst_RVTranslator)
 #include "tst_RVTranslator.moc"

@@ -123,7 +123,7 @@ private:
 
 } // namespace
 
-class TestSelectionTable : public QObject
+class tst_SelectionTable : public QObject
 {
     Q_OBJECT
 
@@ -194,13 +194,13 @@ private:
     std::unique_ptr<FakeSystem> m_system;
 };
 
-void TestSelectionTable::initTestCase()
+void tst_SelectionTable::initTestCase()
 {
     qRegisterMetaType<const QNetworkReply *>("const QNetworkReply*");
     qRegisterMetaType<QAuthenticator *>("QAuthenticator*");
 }
 
-void TestSelectionTable::init()
+void tst_SelectionTable::init()
 {
     m_guard = std::make_unique<WarningGuard>();
     m_guard->allow(QStringLiteral("propagateSizeHints"));
@@ -209,7 +209,7 @@ void TestSelectionTable::init()
     m_system = std::make_unique<FakeSystem>();
 }
 
-void TestSelectionTable::cleanup()
+void tst_SelectionTable::cleanup()
 {
     qDeleteAll(dialogs<QDialog>());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -222,7 +222,7 @@ void TestSelectionTable::cleanup()
     QVERIFY2(clean, report.constData());
 }
 
-void TestSelectionTable::namesItsColumns()
+void tst_SelectionTable::namesItsColumns()
 {
     const Table table({}, Table::CheckBoxes, m_system.get());
     QCOMPARE(table.objectName(), QStringLiteral("RVSelectionTable"));
@@ -236,7 +236,7 @@ void TestSelectionTable::namesItsColumns()
     QVERIFY(!table.isColumnHidden(Table::InstalledColumn));
 }
 
-void TestSelectionTable::hidesWhatARadioTableDoesNotNeed()
+void tst_SelectionTable::hidesWhatARadioTableDoesNotNeed()
 {
     const Table table({}, Table::RadioButtons, m_system.get());
     QVERIFY(table.horizontalHeader()->isHidden());
@@ -245,7 +245,7 @@ void TestSelectionTable::hidesWhatARadioTableDoesNotNeed()
     QVERIFY(!table.isColumnHidden(Table::OfferedColumn));
 }
 
-void TestSelectionTable::isSetUpForChoosing()
+void tst_SelectionTable::isSetUpForChoosing()
 {
     const Table table(
         {m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"))},
@@ -266,7 +266,7 @@ void TestSelectionTable::isSetUpForChoosing()
     QCOMPARE(table.item(0, 3)->textAlignment(), static_cast<int>(Qt::AlignCenter));
 }
 
-void TestSelectionTable::comparesVersions_data()
+void tst_SelectionTable::comparesVersions_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<QString>("installed");
@@ -295,7 +295,7 @@ void TestSelectionTable::comparesVersions_data()
     row("radio, nothing is installed", Table::RadioButtons, "", "1.1", "none", true, false, false);
 }
 
-void TestSelectionTable::comparesVersions()
+void tst_SelectionTable::comparesVersions()
 {
     QFETCH(int, type);
     QFETCH(QString, installed);
@@ -312,7 +312,7 @@ void TestSelectionTable::comparesVersions()
             || table.item(0, Table::OfferedColumn)->font().weight() == 50);
 }
 
-void TestSelectionTable::asksForTheEnglishName()
+void tst_SelectionTable::asksForTheEnglishName()
 {
     m_system->installed.insert(QStringLiteral("tool"), QStringLiteral("1"));
     m_system->installed.insert(QStringLiteral("Werkzeug"), QStringLiteral("9"));
@@ -327,7 +327,7 @@ void TestSelectionTable::asksForTheEnglishName()
     QCOMPARE(text(table, 0, Table::InstalledColumn), QStringLiteral("1"));
 }
 
-void TestSelectionTable::knowsNothingWithoutSystem()
+void tst_SelectionTable::knowsNothingWithoutSystem()
 {
     const Table table(
         {m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"))},
@@ -336,7 +336,7 @@ void TestSelectionTable::knowsNothingWithoutSystem()
     QCOMPARE(state(table, 0), Qt::Checked);
 }
 
-void TestSelectionTable::proposesTheFirstRadioRow()
+void tst_SelectionTable::proposesTheFirstRadioRow()
 {
     const Table table(
         {m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("3")),
@@ -346,7 +346,7 @@ void TestSelectionTable::proposesTheFirstRadioRow()
     QCOMPARE(states(table), (QList<Qt::CheckState>{Qt::Checked, Qt::Unchecked, Qt::Unchecked}));
 }
 
-void TestSelectionTable::proposesNoRadioRowWhenTheFirstIsInstalled()
+void tst_SelectionTable::proposesNoRadioRowWhenTheFirstIsInstalled()
 {
     m_system->installed.insert(QStringLiteral("a"), QStringLiteral("3"));
     const Table table(
@@ -356,7 +356,7 @@ void TestSelectionTable::proposesNoRadioRowWhenTheFirstIsInstalled()
     QCOMPARE(states(table), (QList<Qt::CheckState>{Qt::Unchecked, Qt::Unchecked}));
 }
 
-void TestSelectionTable::shrinksLongVersions_data()
+void tst_SelectionTable::shrinksLongVersions_data()
 {
     QTest::addColumn<QString>("version");
     QTest::addColumn<float>("factor");
@@ -366,7 +366,7 @@ void TestSelectionTable::shrinksLongVersions_data()
     QTest::newRow("20 characters") << QStringLiteral("1:2.36-9+deb12u10~b2") << 7.0F / 20;
 }
 
-void TestSelectionTable::shrinksLongVersions()
+void tst_SelectionTable::shrinksLongVersions()
 {
     QFETCH(QString, version);
     QFETCH(float, factor);
@@ -384,7 +384,7 @@ void TestSelectionTable::shrinksLongVersions()
     }
 }
 
-void TestSelectionTable::slantsWords_data()
+void tst_SelectionTable::slantsWords_data()
 {
     QTest::addColumn<QString>("english");
     QTest::addColumn<bool>("italic");
@@ -393,7 +393,7 @@ void TestSelectionTable::slantsWords_data()
     QTest::newRow("a Chinese one") << QStringLiteral("英语 (中文)") << false;
 }
 
-void TestSelectionTable::slantsWords()
+void tst_SelectionTable::slantsWords()
 {
     QFETCH(QString, english);
     Catalogue catalogue;
@@ -410,7 +410,7 @@ void TestSelectionTable::slantsWords()
     QTEST(unknown.item(0, Table::InstalledColumn)->font().italic(), "italic");
 }
 
-void TestSelectionTable::followsTheLanguage()
+void tst_SelectionTable::followsTheLanguage()
 {
     m_system->installed.insert(QStringLiteral("b"), QStringLiteral("1"));
     Table table({m_world->entry(QStringLiteral("a"), QStringLiteral("tool"), QStringLiteral("1"),
@@ -457,7 +457,7 @@ void TestSelectionTable::followsTheLanguage()
     QCOMPARE(comment("none"), QStringLiteral("small word for 'not currently installed'"));
 }
 
-void TestSelectionTable::showsForeignTextAsText()
+void tst_SelectionTable::showsForeignTextAsText()
 {
     const Table table(
         {m_world->entry(QStringLiteral("a"), QStringLiteral("<img src='/dev/zero'>"),
@@ -470,7 +470,7 @@ void TestSelectionTable::showsForeignTextAsText()
     QVERIFY(!table.item(0, Table::OfferedColumn)->toolTip().contains(QLatin1String("<u>")));
 }
 
-void TestSelectionTable::boundsWhatItShows()
+void tst_SelectionTable::boundsWhatItShows()
 {
     const QString much(1000 * 1000, QLatin1Char('x'));
     QElapsedTimer timer;
@@ -486,7 +486,7 @@ void TestSelectionTable::boundsWhatItShows()
     QCOMPARE(text(table, 0, Table::OfferedColumn).size(), 501);
 }
 
-void TestSelectionTable::speaksWithoutMarkup()
+void tst_SelectionTable::speaksWithoutMarkup()
 {
     Table table({m_world->entry(QStringLiteral("a"), QStringLiteral("tool & co"),
                                 QStringLiteral("2.0"), QStringLiteral("A title")),
@@ -505,7 +505,7 @@ void TestSelectionTable::speaksWithoutMarkup()
     QCOMPARE(spoken(table, 1, Table::ChoiceColumn), QStringLiteral("other, not selected"));
 }
 
-void TestSelectionTable::hidesRowsWithoutDescriptor()
+void tst_SelectionTable::hidesRowsWithoutDescriptor()
 {
     RVData bare = m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"));
     bare.clearDescriptor();
@@ -530,7 +530,7 @@ void TestSelectionTable::hidesRowsWithoutDescriptor()
     QVERIFY(!onlyBare.isInstalling());
 }
 
-void TestSelectionTable::hintsItsHeight_data()
+void tst_SelectionTable::hintsItsHeight_data()
 {
     QTest::addColumn<int>("rows");
     QTest::addColumn<int>("height");
@@ -540,7 +540,7 @@ void TestSelectionTable::hintsItsHeight_data()
     QTest::newRow("many rows") << 40 << 300;
 }
 
-void TestSelectionTable::hintsItsHeight()
+void tst_SelectionTable::hintsItsHeight()
 {
     QFETCH(int, rows);
     QFETCH(int, height);
@@ -562,7 +562,7 @@ void TestSelectionTable::hintsItsHeight()
     QCOMPARE(table.sizeHint().width(), plain.sizeHint().width());
 }
 
-void TestSelectionTable::growsWithTheFont()
+void tst_SelectionTable::growsWithTheFont()
 {
     Table table({m_world->entry(QStringLiteral("a"), QStringLiteral("a"),
                                 QStringLiteral("1234.678901234"), QStringLiteral("Title"))},
@@ -579,7 +579,7 @@ void TestSelectionTable::growsWithTheFont()
             < 0.1);
 }
 
-void TestSelectionTable::givesTheLabelTheRestOfTheWidth()
+void tst_SelectionTable::givesTheLabelTheRestOfTheWidth()
 {
     for (const auto type : {Table::CheckBoxes, Table::RadioButtons}) {
         Table table({m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"))},
@@ -597,7 +597,7 @@ void TestSelectionTable::givesTheLabelTheRestOfTheWidth()
     }
 }
 
-void TestSelectionTable::keepsTheLabelWideEnough()
+void tst_SelectionTable::keepsTheLabelWideEnough()
 {
     Table table({m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"))},
                 Table::CheckBoxes, m_system.get());
@@ -607,7 +607,7 @@ void TestSelectionTable::keepsTheLabelWideEnough()
     QCOMPARE(table.columnWidth(Table::UpdateColumn), 50);
 }
 
-void TestSelectionTable::wrapsLongTitles()
+void tst_SelectionTable::wrapsLongTitles()
 {
     Table table({m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"),
                                 QStringLiteral("A title of many words. ").repeated(5)),
@@ -626,7 +626,7 @@ void TestSelectionTable::wrapsLongTitles()
     QTRY_COMPARE(table.rowHeight(0), unbroken);
 }
 
-void TestSelectionTable::turnsRadioOnByMouse()
+void tst_SelectionTable::turnsRadioOnByMouse()
 {
     Table table({m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("3")),
                  m_world->entry(QStringLiteral("b"), QStringLiteral("b"), QStringLiteral("2")),
@@ -650,7 +650,7 @@ void TestSelectionTable::turnsRadioOnByMouse()
     QCOMPARE(states(table), (QList<Qt::CheckState>{Qt::Checked, Qt::Unchecked, Qt::Unchecked}));
 }
 
-void TestSelectionTable::turnsRadioOnByKeyboard()
+void tst_SelectionTable::turnsRadioOnByKeyboard()
 {
     Table table({m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("3")),
                  m_world->entry(QStringLiteral("b"), QStringLiteral("b"), QStringLiteral("2"))},
@@ -666,7 +666,7 @@ void TestSelectionTable::turnsRadioOnByKeyboard()
     QCOMPARE(states(table), (QList<Qt::CheckState>{Qt::Unchecked, Qt::Checked}));
 }
 
-void TestSelectionTable::togglesChecksByKeyboard()
+void tst_SelectionTable::togglesChecksByKeyboard()
 {
     Table table({m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1")),
                  m_world->entry(QStringLiteral("b"), QStringLiteral("b"), QStringLiteral("1"))},
@@ -682,7 +682,7 @@ void TestSelectionTable::togglesChecksByKeyboard()
     }
 }
 
-void TestSelectionTable::togglesChecksByMouse()
+void tst_SelectionTable::togglesChecksByMouse()
 {
     Table table({m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"))},
                 Table::CheckBoxes, m_system.get());
@@ -700,14 +700,14 @@ void TestSelectionTable::togglesChecksByMouse()
     QCOMPARE(state(table, 0), Qt::Checked);
 }
 
-void TestSelectionTable::choosesAllAndNone_data()
+void tst_SelectionTable::choosesAllAndNone_data()
 {
     QTest::addColumn<int>("type");
     QTest::newRow("check boxes") << static_cast<int>(Table::CheckBoxes);
     QTest::newRow("radio buttons") << static_cast<int>(Table::RadioButtons);
 }
 
-void TestSelectionTable::choosesAllAndNone()
+void tst_SelectionTable::choosesAllAndNone()
 {
     QFETCH(int, type);
     m_system->installed.insert(QStringLiteral("b"), QStringLiteral("1"));
@@ -724,7 +724,7 @@ void TestSelectionTable::choosesAllAndNone()
              checks ? (QList<Qt::CheckState>{Qt::Unchecked, Qt::Unchecked}) : before);
 }
 
-void TestSelectionTable::carriesChoicesOver()
+void tst_SelectionTable::carriesChoicesOver()
 {
     m_system->installed.insert(QStringLiteral("c"), QStringLiteral("1"));
     const QList<RVData> entries{
@@ -741,7 +741,7 @@ void TestSelectionTable::carriesChoicesOver()
     QCOMPARE(states(after), (QList<Qt::CheckState>{Qt::Unchecked, Qt::Checked}));
 }
 
-void TestSelectionTable::carriesARadioChoiceOver()
+void tst_SelectionTable::carriesARadioChoiceOver()
 {
     const QList<RVData> entries{
         m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("2")),
@@ -757,7 +757,7 @@ void TestSelectionTable::carriesARadioChoiceOver()
     QCOMPARE(states(shorter), (QList<Qt::CheckState>{Qt::Checked}));
 }
 
-void TestSelectionTable::showsDetails_data()
+void tst_SelectionTable::showsDetails_data()
 {
     QTest::addColumn<int>("selected");
     QTest::addColumn<QString>("title");
@@ -766,7 +766,7 @@ void TestSelectionTable::showsDetails_data()
     QTest::newRow("the last row selected") << 2 << QStringLiteral("c");
 }
 
-void TestSelectionTable::showsDetails()
+void tst_SelectionTable::showsDetails()
 {
     QFETCH(int, selected);
     m_system->installed.insert(QStringLiteral("a"), QStringLiteral("1"));
@@ -785,7 +785,7 @@ void TestSelectionTable::showsDetails()
     QTEST(dialog->windowTitle(), "title");
 }
 
-void TestSelectionTable::showsNoDetailsWithoutRow()
+void tst_SelectionTable::showsNoDetailsWithoutRow()
 {
     Table empty({}, Table::CheckBoxes, m_system.get());
     empty.showDetails();
@@ -797,7 +797,7 @@ void TestSelectionTable::showsNoDetailsWithoutRow()
     QVERIFY(dialogs<ItemDetailsDialog>().isEmpty());
 }
 
-void TestSelectionTable::keepsDetailsOpenWithoutTheTable()
+void tst_SelectionTable::keepsDetailsOpenWithoutTheTable()
 {
     QWidget window;
     auto *table =
@@ -811,7 +811,7 @@ void TestSelectionTable::keepsDetailsOpenWithoutTheTable()
     QCOMPARE(dialog->windowTitle(), QStringLiteral("a"));
 }
 
-void TestSelectionTable::installsNothingWithoutChoice()
+void tst_SelectionTable::installsNothingWithoutChoice()
 {
     Table table({m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"))},
                 Table::CheckBoxes, m_system.get());
@@ -822,7 +822,7 @@ void TestSelectionTable::installsNothingWithoutChoice()
     QVERIFY(dialogs<BusyDialog>().isEmpty());
 }
 
-void TestSelectionTable::installsTheChosenInRowOrder()
+void tst_SelectionTable::installsTheChosenInRowOrder()
 {
     m_world->setInstaller("ls *.deb >" + QFile::encodeName(m_world->file(QStringLiteral("seen"))));
     Table table({m_world->entry(QStringLiteral("c"), QStringLiteral("c"), QStringLiteral("1")),
@@ -841,7 +841,7 @@ void TestSelectionTable::installsTheChosenInRowOrder()
     QCOMPARE(table.userChoices().values(), QList<Qt::CheckState>{Qt::Unchecked});
 }
 
-void TestSelectionTable::reportsTheEnd_data()
+void tst_SelectionTable::reportsTheEnd_data()
 {
     QTest::addColumn<QByteArray>("installer");
     QTest::addColumn<int>("errors");
@@ -862,7 +862,7 @@ void TestSelectionTable::reportsTheEnd_data()
                                                  finished};
 }
 
-void TestSelectionTable::reportsTheEnd()
+void tst_SelectionTable::reportsTheEnd()
 {
     QFETCH(QByteArray, installer);
     QFETCH(QStringList, log);
@@ -914,7 +914,7 @@ void TestSelectionTable::reportsTheEnd()
     QVERIFY(dialogs<BusyDialog>().isEmpty());
 }
 
-void TestSelectionTable::followsTheInstallation()
+void tst_SelectionTable::followsTheInstallation()
 {
     QWidget window;
     window.show();
@@ -948,7 +948,7 @@ void TestSelectionTable::followsTheInstallation()
     QVERIFY(dialog->isVisible());
 }
 
-void TestSelectionTable::installsOnceAtATime()
+void tst_SelectionTable::installsOnceAtATime()
 {
     HttpServer server;
     server.hold();
@@ -964,7 +964,7 @@ void TestSelectionTable::installsOnceAtATime()
     QVERIFY(table.isInstalling());
 }
 
-void TestSelectionTable::cancelsDownloads()
+void tst_SelectionTable::cancelsDownloads()
 {
     HttpServer server;
     server.hold();
@@ -989,7 +989,7 @@ void TestSelectionTable::cancelsDownloads()
     QCOMPARE(finished.size(), 1);
 }
 
-void TestSelectionTable::cannotBeCancelledLater()
+void tst_SelectionTable::cannotBeCancelledLater()
 {
     m_world->setInstaller(
         "touch " + QFile::encodeName(m_world->file(QStringLiteral("started"))) + "; while [ ! -e "
@@ -1012,7 +1012,7 @@ void TestSelectionTable::cannotBeCancelledLater()
     QCOMPARE(m_log->count(QStringLiteral("Install process returned non-zero status code 1")), 0);
 }
 
-void TestSelectionTable::handsProxyAndCredentialsOn()
+void tst_SelectionTable::handsProxyAndCredentialsOn()
 {
     Table table({m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"))},
                 Table::CheckBoxes, m_system.get(), nullptr, m_world->paths());
@@ -1031,7 +1031,7 @@ void TestSelectionTable::handsProxyAndCredentialsOn()
     QTRY_COMPARE(finished.size(), 2);
 }
 
-void TestSelectionTable::answersWithItsCredentials()
+void tst_SelectionTable::answersWithItsCredentials()
 {
     HttpServer server;
     server.serve(QStringLiteral("/a.deb"), "archive");
@@ -1054,7 +1054,7 @@ void TestSelectionTable::answersWithItsCredentials()
 }
 
 // The archive lies on another server than the repository.
-void TestSelectionTable::offersItsCredentialsToNobodyElse()
+void tst_SelectionTable::offersItsCredentialsToNobodyElse()
 {
     HttpServer server;
     server.serve(QStringLiteral("/a.deb"), "archive");
@@ -1094,7 +1094,7 @@ void TestSelectionTable::offersItsCredentialsToNobodyElse()
     QCOMPARE(QFileInfo(seen.filePath()).size(), 7);
 }
 
-void TestSelectionTable::asksWhenItsCredentialsFail()
+void tst_SelectionTable::asksWhenItsCredentialsFail()
 {
     Table table({}, Table::CheckBoxes, m_system.get());
     QSignalSpy asked(&table, &Table::authenticationRequired);
@@ -1110,7 +1110,7 @@ void TestSelectionTable::asksWhenItsCredentialsFail()
     QCOMPARE(asked.size(), 2);
 }
 
-void TestSelectionTable::relaysSignals()
+void tst_SelectionTable::relaysSignals()
 {
     Table table({m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"))},
                 Table::CheckBoxes, m_system.get(), nullptr, m_world->paths());
@@ -1133,7 +1133,7 @@ void TestSelectionTable::relaysSignals()
     QTRY_COMPARE(finished.size(), 1);
 }
 
-void TestSelectionTable::waitsForTheInstallerWhenDestroyed()
+void tst_SelectionTable::waitsForTheInstallerWhenDestroyed()
 {
     const QString started = m_world->file(QStringLiteral("started"));
     const QString done = m_world->file(QStringLiteral("done"));
@@ -1150,7 +1150,7 @@ void TestSelectionTable::waitsForTheInstallerWhenDestroyed()
     QVERIFY(dialogs<BusyDialog>().isEmpty());
 }
 
-void TestSelectionTable::takesItsDialogAlong()
+void tst_SelectionTable::takesItsDialogAlong()
 {
     HttpServer server;
     server.hold();
@@ -1165,7 +1165,7 @@ void TestSelectionTable::takesItsDialogAlong()
     QVERIFY(dialogs<BusyDialog>().isEmpty());
 }
 
-void TestSelectionTable::paintsSelectedTextReadably_data()
+void tst_SelectionTable::paintsSelectedTextReadably_data()
 {
     QTest::addColumn<bool>("dark");
     QTest::addColumn<bool>("rightToLeft");
@@ -1174,7 +1174,7 @@ void TestSelectionTable::paintsSelectedTextReadably_data()
     QTest::newRow("light, right to left") << false << true;
 }
 
-void TestSelectionTable::paintsSelectedTextReadably()
+void tst_SelectionTable::paintsSelectedTextReadably()
 {
     QFETCH(bool, dark);
     QFETCH(bool, rightToLeft);
@@ -1231,7 +1231,7 @@ void TestSelectionTable::paintsSelectedTextReadably()
     }
 }
 
-void TestSelectionTable::isQuickWithManyRows()
+void tst_SelectionTable::isQuickWithManyRows()
 {
     QList<RVData> entries;
     for (int i = 0; i < 2000; ++i) {
@@ -1267,5 +1267,5 @@ void TestSelectionTable::isQuickWithManyRows()
     QVERIFY(made + shown + resized + lowered < 20000);
 }
 
-QTEST_MAIN(TestSelectionTable)
+QTEST_MAIN(tst_SelectionTable)
 #include "tst_SelectionTable.moc"

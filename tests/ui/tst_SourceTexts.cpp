@@ -50,7 +50,7 @@ public:
 
 } // namespace
 
-class TestSourceTexts : public QObject
+class tst_SourceTexts : public QObject
 {
     Q_OBJECT
 
@@ -183,5 +183,5 @@ private:
     Recorder m_recorder;
 };
 
-QTEST_MAIN(TestSourceTexts)
+QTEST_MAIN(tst_SourceTexts)
 #include "tst_SourceTexts.moc"

@@ -157,7 +157,7 @@ QChar mnemonicOf(const QString &text)
 
 } // namespace
 
-class TestTranslations : public QObject
+class tst_Translations : public QObject
 {
     Q_OBJECT
 
@@ -211,7 +211,7 @@ private:
     QList<QList<Gallery::Text>> m_marked;
 };
 
-void TestTranslations::initTestCase()
+void tst_Translations::initTestCase()
 {
     m_guard = std::make_unique<WarningGuard>();
     m_guard->allow(QStringLiteral("propagateSizeHints"));
@@ -229,12 +229,12 @@ void TestTranslations::initTestCase()
     announce();
 }
 
-void TestTranslations::cleanup()
+void tst_Translations::cleanup()
 {
     speak({});
 }
 
-void TestTranslations::cleanupTestCase()
+void tst_Translations::cleanupTestCase()
 {
     m_gallery.reset();
     QLocale::setDefault(QLocale::system());
@@ -243,7 +243,7 @@ void TestTranslations::cleanupTestCase()
 
 // Every word that is neither the example's nor a name passed through the translators, and did so
 // again when they changed.
-void TestTranslations::everyTextIsTranslatable()
+void tst_Translations::everyTextIsTranslatable()
 {
     static const QRegularExpression word(QStringLiteral("[A-Za-z]{3,}"));
     static const QRegularExpression content(
@@ -264,7 +264,7 @@ void TestTranslations::everyTextIsTranslatable()
     QVERIFY2(missed.isEmpty(), qPrintable(missed.join(QLatin1Char('\n'))));
 }
 
-void TestTranslations::switchesAtRunTime()
+void tst_Translations::switchesAtRunTime()
 {
     QFETCH(QString, code);
     speak(code);
@@ -329,7 +329,7 @@ void TestTranslations::switchesAtRunTime()
     }
 }
 
-void TestTranslations::imageQuestionSwitches()
+void tst_Translations::imageQuestionSwitches()
 {
     QFETCH(QString, code);
     QStringList before;
@@ -361,7 +361,7 @@ void TestTranslations::imageQuestionSwitches()
 }
 
 // Alt and a letter mean one thing at a time.
-void TestTranslations::mnemonicsAreDistinct()
+void tst_Translations::mnemonicsAreDistinct()
 {
     QFETCH(QString, code);
     speak(code);
@@ -396,7 +396,7 @@ void TestTranslations::mnemonicsAreDistinct()
     QVERIFY(count >= 13);
 }
 
-void TestTranslations::nothingIsCut()
+void tst_Translations::nothingIsCut()
 {
     QFETCH(QString, code);
     speak(code);
@@ -435,14 +435,14 @@ void TestTranslations::nothingIsCut()
     QVERIFY2(cut.isEmpty(), qPrintable(cut.join(QLatin1Char('\n'))));
 }
 
-void TestTranslations::mirrorsRightToLeft_data()
+void tst_Translations::mirrorsRightToLeft_data()
 {
     QTest::addColumn<QString>("code");
     QTest::newRow("Arabic") << "ar";
     QTest::newRow("Hebrew") << "he";
 }
 
-void TestTranslations::mirrorsRightToLeft()
+void tst_Translations::mirrorsRightToLeft()
 {
     QFETCH(QString, code);
     // The buttons of the table, from left to right.
@@ -478,7 +478,7 @@ void TestTranslations::mirrorsRightToLeft()
 }
 
 // The text of a progress bar stands out from what is filled and from what is not.
-void TestTranslations::amountsAreSeen()
+void tst_Translations::amountsAreSeen()
 {
     QFETCH(QString, code);
     speak(code);
@@ -501,7 +501,7 @@ void TestTranslations::amountsAreSeen()
 }
 
 // These scripts have no italics; fonts without them show boxes.
-void TestTranslations::nothingIsSlanted()
+void tst_Translations::nothingIsSlanted()
 {
     QFETCH(QString, code);
     speak(code);
@@ -543,14 +543,14 @@ void TestTranslations::nothingIsSlanted()
     QVERIFY(upright > 20);
 }
 
-void TestTranslations::addressesStayReadable_data()
+void tst_Translations::addressesStayReadable_data()
 {
     mirrorsRightToLeft_data();
 }
 
 // An address inside a sentence that runs from right to left is drawn as one run from left to right,
 // its last slash too.
-void TestTranslations::addressesStayReadable()
+void tst_Translations::addressesStayReadable()
 {
     QFETCH(QString, code);
     speak(code);
@@ -562,7 +562,7 @@ void TestTranslations::addressesStayReadable()
 }
 
 // So are the number and the fingerprints of a certificate, whatever digits they begin with.
-void TestTranslations::fingerprintsStayReadable()
+void tst_Translations::fingerprintsStayReadable()
 {
     QFETCH(QString, code);
     speak(code);
@@ -583,5 +583,5 @@ void TestTranslations::fingerprintsStayReadable()
     QVERIFY(count >= 3);
 }
 
-QTEST_MAIN(TestTranslations)
+QTEST_MAIN(tst_Translations)
 #include "tst_Translations.moc"

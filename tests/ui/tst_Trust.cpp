@@ -124,7 +124,7 @@ private:
 } // namespace
 
 /// Logins and certificates of real servers and proxies, through the whole page.
-class TestTrust : public QObject
+class tst_Trust : public QObject
 {
     Q_OBJECT
 
@@ -214,7 +214,7 @@ private:
     RVPaths m_paths;
 };
 
-void TestTrust::init()
+void tst_Trust::init()
 {
     m_guard = std::make_unique<WarningGuard>();
     m_guard->allow(QStringLiteral("propagateSizeHints"));
@@ -231,7 +231,7 @@ void TestTrust::init()
     QVERIFY(writeFile(m_world->file(QStringLiteral("root/var/lib/dpkg/status")), ""));
 }
 
-void TestTrust::cleanup()
+void tst_Trust::cleanup()
 {
     for (QWidget *widget : QApplication::topLevelWidgets()) {
         if (qobject_cast<QDialog *>(widget)) {
@@ -247,7 +247,7 @@ void TestTrust::cleanup()
     QVERIFY2(clean, report.constData());
 }
 
-bool TestTrust::define(const QList<QUrl> &locations) const
+bool tst_Trust::define(const QList<QUrl> &locations) const
 {
     QString xml = QStringLiteral("<repository_list>");
     for (const QUrl &location : locations) {
@@ -264,7 +264,7 @@ bool TestTrust::define(const QList<QUrl> &locations) const
                      xml.toUtf8());
 }
 
-void TestTrust::loginWrongThenRight()
+void tst_Trust::loginWrongThenRight()
 {
     NginxServer server;
     QVERIFY(publish(server, QStringLiteral("a")));
@@ -292,7 +292,7 @@ void TestTrust::loginWrongThenRight()
     QVERIFY(!m_log->raw().contains(" word"));
 }
 
-void TestTrust::loginCancelled()
+void tst_Trust::loginCancelled()
 {
     NginxServer server;
     QVERIFY(publish(server, QStringLiteral("a")));
@@ -316,7 +316,7 @@ void TestTrust::loginCancelled()
     QTRY_VERIFY_WITH_TIMEOUT(isAsking(frame), patience);
 }
 
-void TestTrust::loginSharedWithASibling()
+void tst_Trust::loginSharedWithASibling()
 {
     NginxServer server;
     QVERIFY(publish(server, QStringLiteral("a"), QStringLiteral("/one")));
@@ -333,7 +333,7 @@ void TestTrust::loginSharedWithASibling()
     QTRY_COMPARE_WITH_TIMEOUT(rows(frames.at(1)), 1, patience);
 }
 
-void TestTrust::loginNotSharedWithAnotherHost()
+void tst_Trust::loginNotSharedWithAnotherHost()
 {
     NginxServer server;
     NginxServer other;
@@ -357,7 +357,7 @@ void TestTrust::loginNotSharedWithAnotherHost()
     QVERIFY(!users(other).contains(me));
 }
 
-void TestTrust::loginForALinkedServer()
+void tst_Trust::loginForALinkedServer()
 {
     NginxServer server;
     NginxServer linked;
@@ -395,7 +395,7 @@ void TestTrust::loginForALinkedServer()
     QVERIFY(!users(linked).contains(me));
 }
 
-void TestTrust::loginForOneDescriptor()
+void tst_Trust::loginForOneDescriptor()
 {
     NginxServer server;
     for (const char *name : {"a", "b", "c"}) {
@@ -415,7 +415,7 @@ void TestTrust::loginForOneDescriptor()
     QTRY_COMPARE_WITH_TIMEOUT(server.count(QStringLiteral("GET /b.xml 200 me")), 1, patience);
 }
 
-void TestTrust::loginDuringAnInstallation()
+void tst_Trust::loginDuringAnInstallation()
 {
     NginxServer server;
     QVERIFY(publish(server, QStringLiteral("a")));
@@ -442,7 +442,7 @@ void TestTrust::loginDuringAnInstallation()
     QCOMPARE(QFileInfo(m_world->file(QStringLiteral("seen"))).size(), 7);
 }
 
-void TestTrust::certificateRejected()
+void tst_Trust::certificateRejected()
 {
     TestAuthority authority;
     NginxServer server;
@@ -468,7 +468,7 @@ void TestTrust::certificateRejected()
     QVERIFY(server.requests().isEmpty());
 }
 
-void TestTrust::certificateAccepted()
+void tst_Trust::certificateAccepted()
 {
     TestAuthority authority;
     const TestAuthority::Pair pair = authority.issue();
@@ -508,7 +508,7 @@ void TestTrust::certificateAccepted()
     QCOMPARE(user.asked, 2);
 }
 
-void TestTrust::certificateChanged()
+void tst_Trust::certificateChanged()
 {
     TestAuthority authority;
     NginxServer server;
@@ -532,7 +532,7 @@ void TestTrust::certificateChanged()
     QVERIFY(server.requests().isEmpty());
 }
 
-void TestTrust::certificateOfAnotherServer()
+void tst_Trust::certificateOfAnotherServer()
 {
     TestAuthority authority;
     NginxServer server;
@@ -556,7 +556,7 @@ void TestTrust::certificateOfAnotherServer()
     QVERIFY(other.requests().isEmpty());
 }
 
-void TestTrust::certificateWithFaults_data()
+void tst_Trust::certificateWithFaults_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("said");
@@ -571,7 +571,7 @@ void TestTrust::certificateWithFaults_data()
                                         "The certificate is self-signed, and untrusted.");
 }
 
-void TestTrust::certificateWithFaults()
+void tst_Trust::certificateWithFaults()
 {
     QFETCH(int, kind);
     QFETCH(QString, said);
@@ -603,7 +603,7 @@ void TestTrust::certificateWithFaults()
     QVERIFY2(user.text.contains(said), qPrintable(user.text));
 }
 
-void TestTrust::certificatesSideBySide_data()
+void tst_Trust::certificatesSideBySide_data()
 {
     QTest::addColumn<bool>("accepts");
     QTest::addColumn<int>("read");
@@ -612,7 +612,7 @@ void TestTrust::certificatesSideBySide_data()
 }
 
 // Descriptors on two other servers, all of them asked for at once.
-void TestTrust::certificatesSideBySide()
+void tst_Trust::certificatesSideBySide()
 {
     QFETCH(bool, accepts);
     QFETCH(int, read);
@@ -646,7 +646,7 @@ void TestTrust::certificatesSideBySide()
                               patience);
 }
 
-void TestTrust::pageThatGoesWhileAsking()
+void tst_Trust::pageThatGoesWhileAsking()
 {
     TestAuthority authority;
     NginxServer server;
@@ -670,14 +670,14 @@ void TestTrust::pageThatGoesWhileAsking()
     QVERIFY(server.requests().isEmpty());
 }
 
-void TestTrust::proxyWrongThenRight_data()
+void tst_Trust::proxyWrongThenRight_data()
 {
     QTest::addColumn<bool>("tunnel");
     QTest::newRow("http") << false;
     QTest::newRow("https, by a tunnel") << true;
 }
 
-void TestTrust::proxyWrongThenRight()
+void tst_Trust::proxyWrongThenRight()
 {
     QFETCH(bool, tunnel);
     TestAuthority authority;
@@ -713,12 +713,12 @@ void TestTrust::proxyWrongThenRight()
     QVERIFY(!m_log->raw().contains(" word"));
 }
 
-void TestTrust::proxyCancelled_data()
+void tst_Trust::proxyCancelled_data()
 {
     proxyWrongThenRight_data();
 }
 
-void TestTrust::proxyCancelled()
+void tst_Trust::proxyCancelled()
 {
     QFETCH(bool, tunnel);
     TestAuthority authority;
@@ -747,7 +747,7 @@ void TestTrust::proxyCancelled()
     QVERIFY(sentences("Authentication against the proxy server failed for URI") >= 1);
 }
 
-void TestTrust::proxyOfTwoSections()
+void tst_Trust::proxyOfTwoSections()
 {
     TestAuthority authority;
     NginxServer server;
@@ -775,12 +775,12 @@ void TestTrust::proxyOfTwoSections()
     QTRY_VERIFY_WITH_TIMEOUT(frames.at(2)->currentPage() != Frame::AuthenticationPage, patience);
 }
 
-void TestTrust::proxyThenServer_data()
+void tst_Trust::proxyThenServer_data()
 {
     proxyWrongThenRight_data();
 }
 
-void TestTrust::proxyThenServer()
+void tst_Trust::proxyThenServer()
 {
     QFETCH(bool, tunnel);
     TestAuthority authority;
@@ -813,7 +813,7 @@ void TestTrust::proxyThenServer()
     QCOMPARE(frame->repository()->user(), QStringLiteral("you"));
 }
 
-void TestTrust::proxyDuringAnInstallation()
+void tst_Trust::proxyDuringAnInstallation()
 {
     NginxServer server;
     QVERIFY(publish(server, QStringLiteral("a")));
@@ -852,5 +852,5 @@ void TestTrust::proxyDuringAnInstallation()
     QCOMPARE(QFileInfo(m_world->file(QStringLiteral("seen"))).size(), 7);
 }
 
-QTEST_MAIN(TestTrust)
+QTEST_MAIN(tst_Trust)
 #include "tst_Trust.moc"
