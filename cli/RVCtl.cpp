@@ -19,8 +19,6 @@
 namespace
 {
 
-using Commands = std::vector<std::unique_ptr<RVCtlCommand>>;
-
 /// A day and more; a run is never meant to take that long.
 constexpr int longestTimeout = 1000000;
 
@@ -84,13 +82,14 @@ QString optionsText(const QList<QCommandLineOption> &options)
     return text;
 }
 
-QString programHelp(const Commands &commands)
+QString programHelp()
 {
     QString text = QStringLiteral("usage: ravelctl [OPTION...] COMMAND [ARGUMENT...]\n\n"
                                   "Finds, explains and installs software updates.\n\nCommands:\n");
-    for (const auto &command : commands) {
+    for (const RVCtlCommand &command : RVCtlCommand::all()) {
         text += QStringLiteral("  %1 %2\n      %3\n")
-                    .arg(command->name(), command->syntax(), command->summary());
+                    .arg(QLatin1String(command.name), QLatin1String(command.syntax),
+                         QLatin1String(command.summary));
     }
     text +=
         QStringLiteral("\nA SECTION is its index, from 0, or its settings key.\n"
@@ -101,31 +100,35 @@ QString programHelp(const Commands &commands)
 QString commandHelp(const RVCtlCommand &command)
 {
     QString text = QStringLiteral("usage: ravelctl [OPTION...] %1 %2\n\n%3\n\n")
-                       .arg(command.name(), command.syntax(), command.summary());
-    if (!command.options().isEmpty()) {
-        text += QStringLiteral("Options of the command:\n") + optionsText(command.options())
+                       .arg(QLatin1String(command.name), QLatin1String(command.syntax),
+                            QLatin1String(command.summary));
+    if (!command.options.isEmpty()) {
+        text += QStringLiteral("Options of the command:\n") + optionsText(command.options)
             + QLatin1Char('\n');
     }
     return text + QStringLiteral("Options:\n") + optionsText(programOptions()) + QLatin1Char('\n')
         + exitCodes();
 }
 
-RVCtlCommand *commandNamed(const Commands &commands, const QString &name)
+/// Null when there is none.
+const RVCtlCommand *commandNamed(const QString &name)
 {
-    const auto found = std::find_if(commands.begin(), commands.end(), [&name](const auto &command) {
-        return command->name() == name;
-    });
-    return found == commands.end() ? nullptr : found->get();
+    const std::vector<RVCtlCommand> &commands = RVCtlCommand::all();
+    const auto found =
+        std::find_if(commands.begin(), commands.end(), [&name](const RVCtlCommand &command) {
+            return name == QLatin1String(command.name);
+        });
+    return found == commands.end() ? nullptr : &*found;
 }
 
 /// Which command it is, whatever options stand before it: those of all commands are known here.
-QString commandName(const Commands &commands, const QStringList &arguments)
+QString commandName(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.addOptions(programOptions());
     QStringList known;
-    for (const auto &command : commands) {
-        for (const QCommandLineOption &option : command->options()) {
+    for (const RVCtlCommand &command : RVCtlCommand::all()) {
+        for (const QCommandLineOption &option : command.options) {
             if (!known.contains(option.names().constFirst())) {
                 known.append(option.names().constFirst());
                 parser.addOption(option);
@@ -192,18 +195,17 @@ void setLog(RVPaths paths, bool isLogged)
 
 RVCtlResult runCommand(const QStringList &arguments, RVCtlMessages *messages)
 {
-    const Commands commands = RVCtlCommand::all();
-    const QString name = commandName(commands, arguments);
-    RVCtlCommand *command = commandNamed(commands, name);
+    const QString name = commandName(arguments);
+    const RVCtlCommand *command = commandNamed(name);
 
     QCommandLineParser parser;
     parser.addOptions(programOptions());
     if (command) {
-        parser.addOptions(command->options());
+        parser.addOptions(command->options);
     }
     const bool isParsed = parser.parse(arguments);
     if (parser.isSet(helpOption)) {
-        return information(helpOption, command ? commandHelp(*command) : programHelp(commands));
+        return information(helpOption, command ? commandHelp(*command) : programHelp());
     }
     if (parser.isSet(versionOption)) {
         return information(
@@ -220,8 +222,9 @@ RVCtlResult runCommand(const QStringList &arguments, RVCtlMessages *messages)
         return usage(parser.errorText());
     }
     const QStringList rest = parser.positionalArguments().mid(1);
-    if (rest.size() < command->fewestArguments() || rest.size() > command->mostArguments()) {
-        return usage(QStringLiteral("usage: ravelctl %1 %2").arg(name, command->syntax()));
+    if (rest.size() < command->fewestArguments || rest.size() > command->mostArguments) {
+        return usage(
+            QStringLiteral("usage: ravelctl %1 %2").arg(name, QLatin1String(command->syntax)));
     }
 
     messages->setQuiet(parser.isSet(quietOption));
@@ -240,7 +243,7 @@ RVCtlResult runCommand(const QStringList &arguments, RVCtlMessages *messages)
     if (!readPaths(parser, &paths, &error)) {
         return usage(error);
     }
-    setLog(paths, command->isLogged(rest));
+    setLog(paths, rest.size() >= command->loggedFrom);
     deadline.catchSignals();
     RVCtlWorld world(paths);
     RVCtlResult result = command->run({parser, rest, world, deadline, *messages});

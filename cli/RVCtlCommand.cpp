@@ -2,36 +2,35 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlCommand.h"
 
-#include "cli/RVCtlDetails.h"
-#include "cli/RVCtlDownload.h"
-#include "cli/RVCtlExplain.h"
-#include "cli/RVCtlInstall.h"
-#include "cli/RVCtlLint.h"
-#include "cli/RVCtlList.h"
-#include "cli/RVCtlLocation.h"
-#include "cli/RVCtlPlan.h"
-#include "cli/RVCtlProxy.h"
-#include "cli/RVCtlRepos.h"
-#include "cli/RVCtlStatus.h"
+#include "cli/RVCtlAccess.h"
 
-bool RVCtlCommand::isLogged(const QStringList & /*arguments*/) const
+const std::vector<RVCtlCommand> &RVCtlCommand::all()
 {
-    return false;
-}
-
-std::vector<std::unique_ptr<RVCtlCommand>> RVCtlCommand::all()
-{
-    std::vector<std::unique_ptr<RVCtlCommand>> commands;
-    commands.push_back(std::make_unique<RVCtlStatus>());
-    commands.push_back(std::make_unique<RVCtlRepos>());
-    commands.push_back(std::make_unique<RVCtlList>());
-    commands.push_back(std::make_unique<RVCtlExplain>());
-    commands.push_back(std::make_unique<RVCtlDetails>());
-    commands.push_back(std::make_unique<RVCtlPlan>());
-    commands.push_back(std::make_unique<RVCtlInstall>());
-    commands.push_back(std::make_unique<RVCtlDownload>());
-    commands.push_back(std::make_unique<RVCtlLint>());
-    commands.push_back(std::make_unique<RVCtlLocation>());
-    commands.push_back(std::make_unique<RVCtlProxy>());
+    using namespace RVCtlCommands;
+    const QList<QCommandLineOption> none;
+    const QList<QCommandLineOption> access = RVCtlAccess::options();
+    static const std::vector<RVCtlCommand> commands{
+        {"status", "", 0, 0, never, none, status,
+         "Show the base system, service packs, architecture and model."},
+        {"repos", "", 0, 0, never, none, repos, "Show the sections in the order of the window."},
+        {"list", "[SECTION...]", 0, anyNumber, never, listOptions(), list,
+         "Refresh, and show what the window would offer."},
+        {"explain", "[SECTION...]", 0, anyNumber, never, access, explain,
+         "Refresh, and say of every archive why it is offered or not."},
+        {"details", "SECTION NAME", 2, 2, never, access, details,
+         "Refresh, and show everything that is known of one update."},
+        {"plan", "SECTION [NAME...]", 1, anyNumber, never, access, plan,
+         "Refresh, and show what an installation would download and run, changing nothing."},
+        {"install", "SECTION [NAME...]", 1, anyNumber, 0, installOptions(), install,
+         "Download and install updates, or what the window would preselect."},
+        {"download", "SECTION [NAME...] --to DIR", 1, anyNumber, never, downloadOptions(), download,
+         "Download updates into a folder that is itself a repository."},
+        {"lint", "[FILE or SECTION...]", 0, anyNumber, never, lintOptions(), lint,
+         "Check definition files, repositories and descriptors for defects."},
+        {"location", "SECTION [URL | - | default]", 1, 2, 2, none, location,
+         "Show or store the location of a section."},
+        {"proxy", "[none | TYPE HOST:PORT | TYPE none]", 0, 2, 1, none, proxy,
+         "Show or store the proxies; TYPE is http, https, ftp or all."},
+    };
     return commands;
 }

@@ -9,7 +9,6 @@
 #include <QStringList>
 
 #include <limits>
-#include <memory>
 #include <vector>
 
 class QCommandLineParser;
@@ -28,32 +27,48 @@ struct RVCtlCall {
     RVCtlMessages &messages;
 };
 
-/// One command of the program.
-class RVCtlCommand
-{
-public:
+/// One command of the program: a line of the table of all.
+struct RVCtlCommand {
     static constexpr int anyNumber = std::numeric_limits<int>::max();
+    static constexpr int never = anyNumber;
 
-    virtual ~RVCtlCommand() = default;
-
-    virtual QString name() const = 0;
+    const char *name;
     /// What follows the name: "SECTION [NAME...]".
-    virtual QString syntax() const = 0;
+    const char *syntax;
+    int fewestArguments;
+    int mostArguments;
+    /// With so many arguments or more it changes the system and leaves its traces in the log;
+    /// commands that only read leave none anywhere.
+    int loggedFrom;
+    /// Its own.
+    QList<QCommandLineOption> options;
+    RVCtlResult (*run)(const RVCtlCall &call);
     /// One sentence.
-    virtual QString summary() const = 0;
-    virtual QList<QCommandLineOption> options() const { return {}; }
-    virtual int fewestArguments() const { return 0; }
-    virtual int mostArguments() const { return anyNumber; }
-    /// Whether it is to leave its traces in the log; commands that only read leave none anywhere.
-    virtual bool isLogged(const QStringList &arguments) const;
-    virtual RVCtlResult run(const RVCtlCall &call) = 0;
+    const char *summary;
 
     /// Every command, in the order of the help text.
-    static std::vector<std::unique_ptr<RVCtlCommand>> all();
-
-protected:
-    RVCtlCommand() = default;
-
-private:
-    Q_DISABLE_COPY_MOVE(RVCtlCommand)
+    static const std::vector<RVCtlCommand> &all();
 };
+
+/// What the commands do, each in a file of its name: RVCtlStatus.cpp and so on.
+namespace RVCtlCommands
+{
+
+RVCtlResult status(const RVCtlCall &call);
+RVCtlResult repos(const RVCtlCall &call);
+RVCtlResult list(const RVCtlCall &call);
+RVCtlResult explain(const RVCtlCall &call);
+RVCtlResult details(const RVCtlCall &call);
+RVCtlResult plan(const RVCtlCall &call);
+RVCtlResult install(const RVCtlCall &call);
+RVCtlResult download(const RVCtlCall &call);
+RVCtlResult lint(const RVCtlCall &call);
+RVCtlResult location(const RVCtlCall &call);
+RVCtlResult proxy(const RVCtlCall &call);
+
+QList<QCommandLineOption> listOptions();
+QList<QCommandLineOption> installOptions();
+QList<QCommandLineOption> downloadOptions();
+QList<QCommandLineOption> lintOptions();
+
+} // namespace RVCtlCommands

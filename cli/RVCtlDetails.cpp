@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVCtlDetails.h"
-
 #include "cli/RVCtlAccess.h"
+#include "cli/RVCtlCommand.h"
 #include "cli/RVCtlOffers.h"
 #include "cli/RVCtlText.h"
 #include "core/RVText.h"
@@ -95,12 +94,7 @@ QJsonObject toJson(const RVCtlOffers::Entry &entry)
 
 } // namespace
 
-QList<QCommandLineOption> RVCtlDetails::options() const
-{
-    return RVCtlAccess::options();
-}
-
-RVCtlResult RVCtlDetails::run(const RVCtlCall &call)
+RVCtlResult RVCtlCommands::details(const RVCtlCall &call)
 {
     RVCtlResult result;
     QList<RVCtlOffers> sections;

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVCtlDownload.h"
-
 #include "cli/RVCtlAccess.h"
+#include "cli/RVCtlCommand.h"
 #include "cli/RVCtlDeadline.h"
 #include "cli/RVCtlFetch.h"
 #include "cli/RVCtlFolder.h"
@@ -198,7 +197,7 @@ void fetchAll(const RVCtlCall &call, const RVCtlOffers &section, RVCtlAccess *ac
 
 } // namespace
 
-QList<QCommandLineOption> RVCtlDownload::options() const
+QList<QCommandLineOption> RVCtlCommands::downloadOptions()
 {
     QList<QCommandLineOption> options{
         {toOption, QStringLiteral("The folder; it is made when it is missing."),
@@ -209,7 +208,7 @@ QList<QCommandLineOption> RVCtlDownload::options() const
     return options + RVCtlAccess::options();
 }
 
-RVCtlResult RVCtlDownload::run(const RVCtlCall &call)
+RVCtlResult RVCtlCommands::download(const RVCtlCall &call)
 {
     const QStringList names = call.arguments.mid(1);
     const bool isAll = call.parser.isSet(allOption);

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVCtlExplain.h"
-
 #include "cli/RVCtlAccess.h"
+#include "cli/RVCtlCommand.h"
 #include "cli/RVCtlOffers.h"
 #include "cli/RVCtlText.h"
 #include "core/RVText.h"
@@ -70,12 +69,7 @@ QString sentence(const RVVerdict &verdict, const RVRepository &repository,
 
 } // namespace
 
-QList<QCommandLineOption> RVCtlExplain::options() const
-{
-    return RVCtlAccess::options();
-}
-
-RVCtlResult RVCtlExplain::run(const RVCtlCall &call)
+RVCtlResult RVCtlCommands::explain(const RVCtlCall &call)
 {
     RVCtlResult result;
     QList<RVCtlOffers> sections;

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVCtlInstall.h"
-
 #include "cli/RVCtlAccess.h"
 #include "cli/RVCtlBatch.h"
+#include "cli/RVCtlCommand.h"
 #include "cli/RVCtlDeadline.h"
 #include "cli/RVCtlInstallRun.h"
 #include "cli/RVCtlMessages.h"
@@ -79,7 +78,7 @@ bool isConfirmed(const RVCtlCall &call, const RVCtlBatch &batch, QString *error)
 
 } // namespace
 
-QList<QCommandLineOption> RVCtlInstall::options() const
+QList<QCommandLineOption> RVCtlCommands::installOptions()
 {
     QList<QCommandLineOption> options{
         {yesOption, QStringLiteral("Install an image without asking.")},
@@ -90,7 +89,7 @@ QList<QCommandLineOption> RVCtlInstall::options() const
     return options + RVCtlAccess::options();
 }
 
-RVCtlResult RVCtlInstall::run(const RVCtlCall &call)
+RVCtlResult RVCtlCommands::install(const RVCtlCall &call)
 {
     int lockTimeout = 0;
     if (call.parser.isSet(lockTimeoutOption)) {

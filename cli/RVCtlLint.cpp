@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVCtlLint.h"
-
 #include "cli/RVCtlAccess.h"
+#include "cli/RVCtlCommand.h"
 #include "cli/RVCtlDeadline.h"
 #include "cli/RVCtlMessages.h"
 #include "cli/RVCtlOffers.h"
@@ -283,7 +282,7 @@ RVCtlResult kinds()
 
 } // namespace
 
-QList<QCommandLineOption> RVCtlLint::options() const
+QList<QCommandLineOption> RVCtlCommands::lintOptions()
 {
     return QList<QCommandLineOption>{
                {kindsOption,
@@ -292,7 +291,7 @@ QList<QCommandLineOption> RVCtlLint::options() const
     + RVCtlAccess::options();
 }
 
-RVCtlResult RVCtlLint::run(const RVCtlCall &call)
+RVCtlResult RVCtlCommands::lint(const RVCtlCall &call)
 {
     return call.parser.isSet(kindsOption) ? kinds() : Lint(call).run();
 }

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVCtlList.h"
-
 #include "cli/RVCtlAccess.h"
+#include "cli/RVCtlCommand.h"
 #include "cli/RVCtlOffers.h"
 #include "cli/RVCtlText.h"
 #include "core/RVText.h"
@@ -82,7 +81,7 @@ QJsonObject toJson(const RVCtlOffers &section, bool all)
 
 } // namespace
 
-QList<QCommandLineOption> RVCtlList::options() const
+QList<QCommandLineOption> RVCtlCommands::listOptions()
 {
     return QList<QCommandLineOption>{
                {QStringLiteral("all"),
@@ -92,7 +91,7 @@ QList<QCommandLineOption> RVCtlList::options() const
     + RVCtlAccess::options();
 }
 
-RVCtlResult RVCtlList::run(const RVCtlCall &call)
+RVCtlResult RVCtlCommands::list(const RVCtlCall &call)
 {
     RVCtlResult result;
     QList<RVCtlOffers> sections;

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVCtlLocation.h"
-
+#include "cli/RVCtlCommand.h"
 #include "cli/RVCtlMessages.h"
 #include "cli/RVCtlPassword.h"
 #include "cli/RVCtlText.h"
@@ -74,7 +73,7 @@ bool areSettingsStored()
 
 } // namespace
 
-RVCtlResult RVCtlLocation::run(const RVCtlCall &call)
+RVCtlResult RVCtlCommands::location(const RVCtlCall &call)
 {
     QString error;
     if (!call.world.readSections(&error)) {

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVCtlPlan.h"
-
 #include "cli/RVCtlAccess.h"
 #include "cli/RVCtlBatch.h"
+#include "cli/RVCtlCommand.h"
 #include "cli/RVCtlOffers.h"
 #include "cli/RVCtlText.h"
 #include "core/RVText.h"
@@ -69,12 +68,7 @@ QJsonObject toJson(const RVCtlBatch &plan)
 
 } // namespace
 
-QList<QCommandLineOption> RVCtlPlan::options() const
-{
-    return RVCtlAccess::options();
-}
-
-RVCtlResult RVCtlPlan::run(const RVCtlCall &call)
+RVCtlResult RVCtlCommands::plan(const RVCtlCall &call)
 {
     RVCtlResult result;
     QList<RVCtlOffers> sections;

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVCtlProxy.h"
-
+#include "cli/RVCtlCommand.h"
 #include "cli/RVCtlText.h"
 #include "core/RVLogger.h"
 #include "repository/RVProxySettings.h"
@@ -150,7 +149,7 @@ QString apply(const QStringList &arguments, RVProxySettings *settings)
 
 } // namespace
 
-RVCtlResult RVCtlProxy::run(const RVCtlCall &call)
+RVCtlResult RVCtlCommands::proxy(const RVCtlCall &call)
 {
     RVProxySettings settings = RVProxySettings::read();
     if (!call.arguments.isEmpty()) {

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVCtlRepos.h"
-
+#include "cli/RVCtlCommand.h"
 #include "cli/RVCtlText.h"
 #include "cli/RVCtlWorld.h"
 #include "core/RVText.h"
@@ -70,7 +69,7 @@ QString toText(const RVCtlWorld::Section &section)
 
 } // namespace
 
-RVCtlResult RVCtlRepos::run(const RVCtlCall &call)
+RVCtlResult RVCtlCommands::repos(const RVCtlCall &call)
 {
     QString error;
     if (!call.world.readSections(&error)) {

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVCtlStatus.h"
-
+#include "cli/RVCtlCommand.h"
 #include "cli/RVCtlText.h"
 #include "cli/RVCtlWorld.h"
 
@@ -60,7 +59,7 @@ QJsonObject toJson(const Status &status)
 
 } // namespace
 
-RVCtlResult RVCtlStatus::run(const RVCtlCall &call)
+RVCtlResult RVCtlCommands::status(const RVCtlCall &call)
 {
     QString error;
     if (!call.world.readSystem(&error)) {
