@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "ui/CertDialog.h"
 
+#include "core/RVText.h"
 #include "ui/RVDetailsBox.h"
 #include "ui/RVItalics.h"
 #include "ui/RVStyle.h"
@@ -28,6 +29,9 @@ constexpr QChar popDirectionalIsolate(0x2069);
 
 /// Of the place, in average characters: a longer one is shortened in the middle.
 constexpr int widestUrl = 80;
+
+/// Of a value of the certificate, in characters.
+constexpr int longestValue = 128;
 
 struct ErrorText {
     QSslError::SslError error;
@@ -293,9 +297,10 @@ void CertDialog::addDetail(const QString &label, const QString &value)
 {
     if (!value.isEmpty()) {
         // In a line from right to left, "18:e7" would else be shown as "e7:18".
-        const QString shown = label.isRightToLeft()
-            ? firstStrongIsolate + value.toHtmlEscaped() + popDirectionalIsolate
-            : value.toHtmlEscaped();
+        // Whoever made the certificate chose the text: it stays on its line, and draws no others.
+        const QString text = RVText::safe(RVText::shortened(value, longestValue)).toHtmlEscaped();
+        const QString shown =
+            label.isRightToLeft() ? firstStrongIsolate + text + popDirectionalIsolate : text;
         insertTransHtml(QStringLiteral("  %1%2<br />").arg(label, shown));
     }
 }

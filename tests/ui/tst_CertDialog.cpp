@@ -163,6 +163,23 @@ private Q_SLOTS:
         QVERIFY(dialog.isModal());
     }
 
+    // Whoever makes a certificate chooses its names.
+    void namesDrawNoLines()
+    {
+        const QSslCertificate certificate =
+            selfSigned(QString::fromUtf8("/O=Good\nFingerprints\nSHA256 Fingerprint:  aa"
+                                         "/OU=back\342\200\256wards\302\233\342\200\250line"
+                                         "/CN=plain"));
+        QVERIFY(!certificate.isNull());
+        const CertDialog dialog(QUrl(place), errorsOf(certificate));
+        const QString text = dialog.findChild<QTextEdit *>()->toPlainText();
+        QCOMPARE(text.count(QStringLiteral("\nFingerprints\n")), 1);
+        QVERIFY2(text.contains(QStringLiteral("Good\\u000aFingerprints\\u000aSHA256")),
+                 qPrintable(text));
+        QVERIFY2(text.contains(QStringLiteral("back\\u202ewards\\u009b\\u2028line")),
+                 qPrintable(text));
+    }
+
     void everyDetail()
     {
         const CertDialog dialog(QUrl(place), errorsOf(m_full, {9, 22}));
