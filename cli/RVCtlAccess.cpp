@@ -5,27 +5,17 @@
 #include "cli/RVCtlDeadline.h"
 #include "cli/RVCtlMessages.h"
 #include "cli/RVCtlPassword.h"
+#include "core/RVOrigin.h"
 #include "network/RVKeyring.h"
-#include "network/XServerCertificate.h"
 #include "repository/RVRepository.h"
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>
-#include <QCryptographicHash>
 #include <QJsonArray>
 #include <QNetworkProxy>
-#include <QSslCertificate>
 
 namespace
 {
-
-constexpr int fingerprintBytes = 32;
-
-QByteArray fingerprintOf(const QSslCertificate &certificate)
-{
-    return certificate.isNull() ? QByteArray()
-                                : certificate.digest(QCryptographicHash::Sha256).toHex();
-}
 
 QString nameOf(const QStringList &commonName, const QStringList &organisation)
 {
@@ -68,8 +58,9 @@ QList<QCommandLineOption> RVCtlAccess::options()
          QStringLiteral("Read the proxy's password from the first line of FILE."),
          QStringLiteral("FILE")},
         {QStringLiteral("accept-fingerprint"),
-         QStringLiteral("Accept the server certificate with this SHA-256 fingerprint although it "
-                        "does not validate."),
+         QStringLiteral("Accept the server certificate with this SHA-256 fingerprint although its "
+                        "authority is unknown. Add ':' and any of expired, not-yet-valid and host, "
+                        "separated by commas, to accept these faults too."),
          QStringLiteral("SHA256")},
     };
 }
@@ -79,15 +70,12 @@ bool RVCtlAccess::read(const QCommandLineParser &parser, const RVCtlDeadline &de
 {
     const QStringList fingerprints = parser.values(QStringLiteral("accept-fingerprint"));
     for (const QString &text : fingerprints) {
-        const QString digits = QString(text).remove(QLatin1Char(':'));
-        const QByteArray bytes = QByteArray::fromHex(digits.toLatin1());
-        if (digits.size() != 2 * fingerprintBytes || bytes.size() != fingerprintBytes
-            || bytes.toHex() != digits.toLower().toLatin1()) {
-            *error =
-                QStringLiteral("'%1' is no SHA-256 fingerprint: 64 hexadecimal digits.").arg(text);
+        if (!m_certificates.acceptFingerprint(text)) {
+            *error = QStringLiteral("'%1' is no SHA-256 fingerprint: 64 hexadecimal digits, and "
+                                    "':' with any of expired, not-yet-valid and host.")
+                         .arg(text);
             return false;
         }
-        m_acceptedFingerprints.insert(bytes.toHex());
     }
     return readLogin(parser, QString(), deadline, &m_user, &m_password, error)
         && readLogin(parser, QStringLiteral("proxy-"), deadline, &m_proxyUser, &m_proxyPassword,
@@ -141,11 +129,20 @@ bool RVCtlAccess::keepProxyLogin(const QList<RVCtlWorld::Section> &sections, QSt
     return true;
 }
 
+bool RVCtlAccess::useFor(const QList<RVCtlWorld::Section> &sections, QString *error)
+{
+    QSet<QString> servers;
+    for (const RVCtlWorld::Section &section : sections) {
+        servers.insert(originOf(section.repository->url()));
+    }
+    m_certificates.setServers(servers);
+    return keepProxyLogin(sections, error);
+}
+
 void RVCtlAccess::judge(QNetworkReply *reply, const QList<QSslError> &errors)
 {
-    const QSslCertificate certificate = serverCertificate(reply, errors);
-    const QByteArray fingerprint = fingerprintOf(certificate);
-    if (!fingerprint.isEmpty() && m_acceptedFingerprints.contains(fingerprint)) {
+    const RVCertificateFault fault(reply, errors);
+    if (m_certificates.accepts(fault)) {
         reply->ignoreSslErrors();
         return;
     }
@@ -155,22 +152,29 @@ void RVCtlAccess::judge(QNetworkReply *reply, const QList<QSslError> &errors)
         texts.append(error.errorString());
     }
     const QString host = reply->url().host();
-    m_refused.insert(host,
-                     {{QStringLiteral("subject"), subjectOf(certificate)},
-                      {QStringLiteral("issuer"), issuerOf(certificate)},
-                      {QStringLiteral("sha256"), QString::fromLatin1(fingerprint)},
-                      {QStringLiteral("errors"), texts}});
-    const QByteArray known = host.toUtf8() + ' ' + fingerprint;
-    if (m_describedFingerprints.contains(known)) {
+    const QString option = RVCertificates::optionFor(fault);
+    m_refused.insert(
+        host,
+        {{QStringLiteral("subject"), subjectOf(fault.certificate)},
+         {QStringLiteral("issuer"), issuerOf(fault.certificate)},
+         {QStringLiteral("sha256"), fault.sha256()},
+         {QStringLiteral("errors"), texts},
+         {QStringLiteral("option"), option.isEmpty() ? QJsonValue() : QJsonValue(option)}});
+    const QString known = fault.server + QLatin1Char(' ') + fault.key();
+    if (m_described.contains(known)) {
         return;
     }
-    m_describedFingerprints.insert(known);
+    m_described.insert(known);
     // A refusal is an error: it is described even when the caller wants to hear of errors only.
     m_messages.error(QStringLiteral("The certificate of %1 is refused:").arg(host));
-    m_messages.error(QStringLiteral("  Subject: %1").arg(subjectOf(certificate)));
-    m_messages.error(QStringLiteral("  Issuer:  %1").arg(issuerOf(certificate)));
-    m_messages.error(QStringLiteral("  SHA-256: %1").arg(QString::fromLatin1(fingerprint)));
+    m_messages.error(QStringLiteral("  Subject: %1").arg(subjectOf(fault.certificate)));
+    m_messages.error(QStringLiteral("  Issuer:  %1").arg(issuerOf(fault.certificate)));
+    m_messages.error(QStringLiteral("  SHA-256: %1").arg(fault.sha256()));
     for (const QSslError &error : errors) {
         m_messages.error(QStringLiteral("  Error:   %1").arg(error.errorString()));
+    }
+    if (!option.isEmpty()) {
+        m_messages.error(
+            QStringLiteral("To accept it all the same: --accept-fingerprint %1").arg(option));
     }
 }

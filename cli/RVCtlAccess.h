@@ -3,6 +3,7 @@
 #pragma once
 
 #include "cli/RVCtlWorld.h"
+#include "network/RVCertificates.h"
 
 #include <QHash>
 #include <QJsonObject>
@@ -29,9 +30,10 @@ public:
     /// Asks for the password on the terminal when there is no file with it. False, and why, when
     /// the arguments make no sense or the password cannot be had.
     bool read(const QCommandLineParser &parser, const RVCtlDeadline &deadline, QString *error);
-    /// Leaves the login for the proxy with the sections that use it. False, and why, when they use
-    /// several: each of them would learn it.
-    bool keepProxyLogin(const QList<RVCtlWorld::Section> &sections, QString *error) const;
+    /// What was read is for these sections: certificates are accepted of their servers, and the
+    /// login for the proxy is left with those that use it. False, and why, when they use several
+    /// proxies: each of them would learn it.
+    bool useFor(const QList<RVCtlWorld::Section> &sections, QString *error);
 
     const QString &user() const { return m_user; }
     const QString &password() const { return m_password; }
@@ -44,6 +46,7 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(RVCtlAccess)
 
+    bool keepProxyLogin(const QList<RVCtlWorld::Section> &sections, QString *error) const;
     static bool readLogin(const QCommandLineParser &parser, const QString &prefix,
                           const RVCtlDeadline &deadline, QString *user, QString *password,
                           QString *error);
@@ -53,7 +56,8 @@ private:
     QString m_password;
     QString m_proxyUser;
     QString m_proxyPassword;
-    QSet<QByteArray> m_acceptedFingerprints;
-    QSet<QByteArray> m_describedFingerprints;
+    RVCertificates m_certificates;
+    /// Faults that were described, by RVCertificateFault::key().
+    QSet<QString> m_described;
     QHash<QString, QJsonObject> m_refused;
 };

@@ -137,7 +137,7 @@ bool Lint::findSections()
         if (!m_call.world.find(m_names, &m_sections, &error)
             || !m_access.read(m_call.parser, m_call.deadline, &error)
             || !(m_access.user().isEmpty() || RVCtlOffers::isOneServer(m_sections, &error))
-            || !m_access.keepProxyLogin(m_sections, &error)) {
+            || !m_access.useFor(m_sections, &error)) {
             return fail(RVCtlExit::Usage, error);
         }
     }

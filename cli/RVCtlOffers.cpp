@@ -288,7 +288,7 @@ bool RVCtlOffers::read(const RVCtlCall &call, const QStringList &names, RVCtlAcc
     }
     if (!call.world.find(names, &named, &error) || !access->read(call.parser, call.deadline, &error)
         || !(access->user().isEmpty() || isOneServer(named, &error))
-        || !access->keepProxyLogin(named, &error)) {
+        || !access->useFor(named, &error)) {
         return fail(RVCtlExit::Usage, error);
     }
     for (const RVCtlWorld::Section &section : qAsConst(named)) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "network/XHttpReply.h"
 
+#include "core/RVUrl.h"
 #include "network/XNetworkError.h"
 
 #include <QCoreApplication>
@@ -17,8 +18,6 @@ const char outerProperty[] = "ravelOuterReply";
 /// Qt looks each of them up in a list, which a hundred thousand of them make a matter of seconds.
 constexpr int maxHeaders = 1000;
 constexpr qint64 pieceSize = 64 * 1024;
-/// What Qt may hold while the event loop is busy, with unpacking an archive for example.
-constexpr qint64 readAhead = 1024 * 1024;
 
 constexpr qint64 notANumber = -2;
 
@@ -46,6 +45,12 @@ qint64 contentLength(const QByteArray &header)
     return fits ? number : std::numeric_limits<qint64>::max();
 }
 
+/// Qt names the whole URL in its texts, which end in logs and on terminals.
+QString withoutPassword(const QString &text, const QUrl &url)
+{
+    return QString(text).replace(url.toString(), RVUrl::shown(url));
+}
+
 bool isIdentity(const QByteArray &coding)
 {
     return coding.isEmpty() || coding == "identity";
@@ -58,7 +63,6 @@ XHttpReply::XHttpReply(const QNetworkRequest &request, QNetworkReply *inner, QOb
     , m_inner(inner)
 {
     inner->setProperty(outerProperty, QVariant::fromValue<QObject *>(this));
-    inner->setReadBufferSize(readAhead);
     connect(inner, &QNetworkReply::metaDataChanged, this, &XHttpReply::takeMetaData);
     connect(inner, &QNetworkReply::readyRead, this, &XHttpReply::takeBody);
     connect(inner, &QNetworkReply::finished, this, &XHttpReply::takeEnd);
@@ -87,9 +91,7 @@ QNetworkReply *XHttpReply::outer(QNetworkReply *reply)
 
 void XHttpReply::ignoreSslErrors()
 {
-    if (m_inner) {
-        m_inner->ignoreSslErrors();
-    }
+    ignoreSslErrorsImplementation(m_question);
 }
 
 void XHttpReply::stop()
@@ -99,7 +101,8 @@ void XHttpReply::stop()
 
 void XHttpReply::ignoreSslErrorsImplementation(const QList<QSslError> &errors)
 {
-    if (m_inner) {
+    if (m_inner && m_asking) {
+        m_isAnswered = true;
         m_inner->ignoreSslErrors(errors);
     }
 }
@@ -176,7 +179,7 @@ void XHttpReply::takeEnd()
     const NetworkError error =
         qt4Error(m_inner->error(), attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt());
     if (error != QNetworkReply::NoError) {
-        refuse(error, m_inner->errorString());
+        refuse(error, withoutPassword(m_inner->errorString(), url()));
         return;
     }
     const QString fault = faultOfBody();
@@ -195,11 +198,26 @@ void XHttpReply::ask(const QList<QSslError> &errors)
     const QPointer<QNetworkReply> inner = m_inner;
     const QPointer<XHttpReply> self(this);
     m_asking = true;
+    m_isAnswered = false;
+    m_question = errors;
     suspendInactivity(true);
     Q_EMIT sslErrors(errors);
     if (self) {
-        m_asking = false;
         suspendInactivity(false);
+        if (!m_isAnswered && m_inner) {
+            // Qt keeps what an earlier handshake of this connection was allowed, and would let the
+            // next certificate of the same authority pass.
+            releaseInner();
+            QMetaObject::invokeMethod(
+                this,
+                [this] {
+                    end(QNetworkReply::SslHandshakeFailedError,
+                        QCoreApplication::translate("QHttp", "SSL handshake failed"));
+                },
+                Qt::QueuedConnection);
+        }
+        m_asking = false;
+        m_question.clear();
     }
     // The one that asks comes back to itself from here, so that it could not be released while the
     // receivers ran an event loop.

@@ -28,6 +28,9 @@ public:
     static QNetworkReply *outer(QNetworkReply *reply);
 
 public Q_SLOTS:
+    /// The answer to the question that is open now, in a slot of sslErrors(): exactly its errors
+    /// are ignored, in this handshake. Every other handshake of the transfer asks anew, and one
+    /// whose question nobody answers ends the transfer. Nothing while no question is open.
     void ignoreSslErrors() override;
 
 protected:
@@ -51,5 +54,8 @@ private:
     QPointer<QNetworkReply> m_inner;
     QSslConfiguration m_sslConfiguration;
     qint64 m_announced = -1;
+    /// The question that is open, and whether it is answered.
+    QList<QSslError> m_question;
     bool m_asking = false;
+    bool m_isAnswered = false;
 };

@@ -4,10 +4,10 @@
 
 #include "core/OSInfo.h"
 #include "core/RVLogger.h"
+#include "core/RVOrigin.h"
 #include "descriptor/DataXML.h"
 #include "network/RVKeyring.h"
 #include "network/XNetworkError.h"
-#include "network/XServerCertificate.h"
 #include "repository/RVRepDesc.h"
 #include "repository/RVRepository.h"
 #include "ui/CertDialog.h"
@@ -18,37 +18,16 @@
 #include <plume/Accordion.h>
 #include <plume/AccordionItem.h>
 
-#include <QCryptographicHash>
 #include <QEvent>
 #include <QEventLoop>
 #include <QPointer>
-#include <QSslCertificate>
 #include <QVBoxLayout>
-
-#include <set>
 
 namespace
 {
 
 constexpr int logThreshold = 6;
 constexpr int errorDialogWidth = 600;
-/// What a user's answer is about: the server's own certificate, and what is wrong with it. Empty
-/// when there is no certificate, so that the answer holds for one reply only.
-QString certificateQuestion(const QSslCertificate &certificate, const QList<QSslError> &errors)
-{
-    if (certificate.isNull()) {
-        return {};
-    }
-    std::set<int> codes;
-    for (const QSslError &error : errors) {
-        codes.insert(error.error());
-    }
-    QString question = QString::fromLatin1(certificate.digest(QCryptographicHash::Sha256).toHex());
-    for (const int code : codes) {
-        question += QLatin1Char(' ') + QString::number(code);
-    }
-    return question;
-}
 
 bool isProxy(const QString &host, int port)
 {
@@ -226,14 +205,13 @@ void RVMainPage::proxyChanged(const QString &scheme, const QString &server, int 
 
 void RVMainPage::sslErrors(QNetworkReply *reply, const QList<QSslError> &errors)
 {
-    const QSslCertificate certificate = serverCertificate(reply, errors);
-    const QString question = certificateQuestion(certificate, errors);
+    const RVCertificateFault fault(reply, errors);
     // The question runs an event loop, in which page and reply may go away.
     const QPointer<RVMainPage> page(this);
     const QPointer<QNetworkReply> waiting(reply);
-    const auto isAnswered = [this, &question] {
-        return m_acceptedCertificates.contains(question)
-            || m_rejectedCertificates.contains(question);
+    const auto isAnswered = [this, &fault] {
+        return fault.isFinal() || m_certificates.accepts(fault)
+            || m_rejectedCertificates.contains(fault.key());
     };
     while (page && waiting && m_certificateDialog && !isAnswered()) {
         // Downloads run side by side. One dialog at a time: this question may be the open one, or
@@ -246,26 +224,27 @@ void RVMainPage::sslErrors(QNetworkReply *reply, const QList<QSslError> &errors)
     if (!page || !waiting) {
         return;
     }
-    bool accepted = m_acceptedCertificates.contains(question);
+    bool accepted = m_certificates.accepts(fault);
     if (!isAnswered()) {
-        accepted = askAbout(certificate, question, reply->url(), errors);
+        accepted = askAbout(fault, reply->url(), errors);
     }
     if (accepted && waiting) {
         waiting->ignoreSslErrors();
     }
 }
 
-bool RVMainPage::askAbout(const QSslCertificate &certificate, const QString &question,
-                          const QUrl &url, const QList<QSslError> &errors)
+bool RVMainPage::askAbout(const RVCertificateFault &fault, const QUrl &url,
+                          const QList<QSslError> &errors)
 {
-    const QPointer<CertDialog> dialog(new CertDialog(url, errors, this, {}, certificate));
+    const QPointer<CertDialog> dialog(new CertDialog(url, errors, this, {}, fault.certificate));
     m_certificateDialog = dialog;
     // At once, and not when exec() returns: another question may be open on top by then.
-    connect(dialog, &QDialog::finished, this, [this, question](int result) {
+    connect(dialog, &QDialog::finished, this, [this, fault](int result) {
         m_certificateDialog.clear();
-        if (!question.isEmpty()) {
-            (result == QDialog::Accepted ? m_acceptedCertificates : m_rejectedCertificates)
-                .insert(question);
+        if (result == QDialog::Accepted) {
+            m_certificates.accept(fault);
+        } else if (!fault.certificate.isNull()) {
+            m_rejectedCertificates.insert(fault.key());
         }
     });
     const bool accepted = dialog->exec() == QDialog::Accepted;
@@ -302,7 +281,8 @@ void RVMainPage::shareCredentials(const QString &userName, const QString &passwo
     }
     for (RVControlFrame *frame : qAsConst(m_frames)) {
         const RVRepository *repository = frame->repository();
-        if (frame == sharing || repository->url().host() != sharing->repository()->url().host()
+        // A password that was typed for https must not travel in clear, nor to a neighbour's port.
+        if (frame == sharing || !isSameOrigin(repository->url(), sharing->repository()->url())
             || !repository->user().isEmpty() || !repository->password().isEmpty()) {
             continue;
         }

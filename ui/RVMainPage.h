@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/RVPaths.h"
+#include "network/RVCertificates.h"
 #include "repository/RVDefinitions.h"
 
 #include <plume/LocaleString.h>
@@ -92,8 +93,7 @@ private:
     void makeRepositories(const RVPaths &paths);
     void makeSections(const RVPaths &paths);
     void askAgain(const QString &place);
-    bool askAbout(const QSslCertificate &certificate, const QString &question, const QUrl &url,
-                  const QList<QSslError> &errors);
+    bool askAbout(const RVCertificateFault &fault, const QUrl &url, const QList<QSslError> &errors);
 
     std::unique_ptr<RVLogger> m_logger;
     OSInfo *m_osInfo = nullptr;
@@ -110,9 +110,9 @@ private:
     QMap<QString, int> m_proxyPorts;
     /// Logins for other servers and for proxies, of all sections.
     QSharedPointer<RVKeyring> m_keyring;
-    /// What the user accepted in this run: a certificate with what is wrong with it.
-    QSet<QString> m_acceptedCertificates;
-    /// What the user rejected since transfers were last started.
+    /// What the user accepted in this run.
+    RVCertificates m_certificates;
+    /// What the user rejected since transfers were last started, by RVCertificateFault::key().
     QSet<QString> m_rejectedCertificates;
     /// The one question that is open now.
     QPointer<CertDialog> m_certificateDialog;

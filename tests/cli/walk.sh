@@ -220,9 +220,14 @@ check "the password is nowhere" sh -c '! grep -q wrong "$@"' sh "$work/out" "$wo
 remote_run 3 '.repositories[0].error.certificate | .subject == "updates.example, Example Works" and (.sha256 | length) == 64 and (.errors | length) > 0' list c_tls
 fingerprint=$(jq -r '.repositories[0].error.certificate.sha256' "$work/out")
 check "the certificate is described" grep -q "SHA-256: $fingerprint" "$work/err"
+cp -- "$work/err" "$work/refused"
 check "it is the server's own" test "$fingerprint" = \
   "$(openssl x509 -in "$work/certificate.pem" -noout -fingerprint -sha256 | sed 's/.*=//; s/://g' | tr 'A-F' 'a-f')"
-remote_run 0 '.repositories[0].entries | length == 5' list c_tls --accept-fingerprint "$fingerprint"
+# It is for another host, which has to be named.
+remote_run 3 '.repositories[0].error.certificate.option | endswith(":host")' list c_tls --accept-fingerprint "$fingerprint"
+option=$(jq -r '.repositories[0].error.certificate.option' "$work/out")
+check "the option that accepts it is printed" grep -q -- "--accept-fingerprint $option\$" "$work/refused"
+remote_run 0 '.repositories[0].entries | length == 5' list c_tls --accept-fingerprint "$option"
 remote_run 3 '.repositories[0].entries == []' list c_tls --accept-fingerprint "${fingerprint//[0-9a-f]/0}"
 remote_run 124 '.error.code == 124' --timeout 1 list d_silent
 remote_run 8 '.repositories[0] | .error == null and (.descriptorErrors | length) == 1 and (.entries | length) == 4' list e_part

@@ -41,6 +41,64 @@ int code(const QNetworkReply *reply)
 
 } // namespace
 
+namespace
+{
+
+/// Answers the n-th connection with the n-th certificate. All but the last are cut right after
+/// their handshake, before a request is answered.
+class SwappingServer : public QTcpServer
+{
+public:
+    explicit SwappingServer(const QList<TestAuthority::Pair> &certificates)
+        : m_certificates(certificates)
+    {
+        listen(QHostAddress::LocalHost);
+    }
+
+    QUrl url() const { return QUrl(QStringLiteral("https://127.0.0.1:%1/x").arg(serverPort())); }
+    /// What came through, of all connections.
+    const QByteArray &received() const { return m_received; }
+    bool areAllClosed() const
+    {
+        const auto sockets = findChildren<QSslSocket *>();
+        return m_certificates.isEmpty()
+            && std::all_of(sockets.cbegin(), sockets.cend(), [](const QSslSocket *socket) {
+                   return socket->state() == QAbstractSocket::UnconnectedState;
+               });
+    }
+
+protected:
+    void incomingConnection(qintptr descriptor) override
+    {
+        auto *socket = new QSslSocket(this);
+        socket->setSocketDescriptor(descriptor);
+        if (m_certificates.isEmpty()) {
+            socket->abort();
+            return;
+        }
+        const TestAuthority::Pair pair = m_certificates.takeFirst();
+        const bool isLast = m_certificates.isEmpty();
+        socket->setLocalCertificate(pair.certificate);
+        socket->setPrivateKey(pair.key, QSsl::Ec);
+        connect(socket, &QSslSocket::encrypted, this, [socket, isLast] {
+            if (!isLast) {
+                socket->abort();
+            }
+        });
+        connect(socket, &QIODevice::readyRead, this, [this, socket] {
+            m_received += socket->readAll();
+            socket->write("HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\nevil");
+        });
+        socket->startServerEncryption();
+    }
+
+private:
+    QList<TestAuthority::Pair> m_certificates;
+    QByteArray m_received;
+};
+
+} // namespace
+
 class tst_XHttpReply : public QObject
 {
     Q_OBJECT
@@ -75,6 +133,9 @@ private Q_SLOTS:
     void deletedByTheQuestion();
     void certificate_data();
     void certificate();
+    void everyHandshakeIsJudged_data();
+    void everyHandshakeIsJudged();
+    void passwordsStayOutOfTexts();
     void deletedWhileAsking_data();
     void deletedWhileAsking();
     void largeBody_data();
@@ -651,7 +712,8 @@ void tst_XHttpReply::certificate_data()
     QTest::newRow("ignored") << "all" << 0;
     QTest::newRow("these errors ignored") << "list" << 0;
     QTest::newRow("refused") << "none" << 6;
-    QTest::newRow("ignored from the start") << "before" << 0;
+    // Before the question nobody has seen what is wrong.
+    QTest::newRow("ignored from the start") << "before" << 6;
     QTest::newRow("aborted") << "abort" << 5;
     QTest::newRow("ignored after a long dialog") << "late" << 0;
 }
@@ -707,11 +769,72 @@ void tst_XHttpReply::certificate()
     }
 }
 
+void tst_XHttpReply::everyHandshakeIsJudged_data()
+{
+    QTest::addColumn<bool>("sameAuthority");
+    QTest::addColumn<bool>("listed");
+    QTest::newRow("another certificate of the same authority") << true << false;
+    QTest::newRow("another certificate of the same authority, errors by list") << true << true;
+    QTest::newRow("a certificate of another authority") << false << false;
+    QTest::newRow("a certificate of another authority, errors by list") << false << true;
+}
+
+// The server is cut after the first handshake, and somebody else answers the second.
+void tst_XHttpReply::everyHandshakeIsJudged()
+{
+    QFETCH(bool, sameAuthority);
+    QFETCH(bool, listed);
+    TestAuthority authority;
+    TestAuthority other(QStringLiteral("Another authority"));
+    const TestAuthority::Pair own = authority.issue();
+    SwappingServer server({own, (sameAuthority ? authority : other).issue()});
+    const QByteArray accepted = TestAuthority::read(own.certificate).toDer();
+    const auto reply = get(server.url());
+    QSignalSpy finished(reply.get(), &QNetworkReply::finished);
+    int questions = 0;
+    int answers = 0;
+    connect(m_manager.get(), &QNetworkAccessManager::sslErrors, this,
+            [&](QNetworkReply *asking, const QList<QSslError> &found) {
+                ++questions;
+                if (asking->sslConfiguration().peerCertificate().toDer() != accepted) {
+                    return;
+                }
+                ++answers;
+                if (listed) {
+                    asking->ignoreSslErrors(found);
+                } else {
+                    asking->ignoreSslErrors();
+                }
+            });
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, limitMs);
+    QCOMPARE(answers, 1);
+    QCOMPARE(questions, 2);
+    QCOMPARE(code(reply.get()), 6);
+    QCOMPARE(reply->bytesAvailable(), qint64(0));
+    // Not a byte of the request, which may hold a login.
+    QTRY_VERIFY(server.areAllClosed());
+    QCOMPARE(server.received(), QByteArray());
+}
+
 void tst_XHttpReply::deletedWhileAsking_data()
 {
     QTest::addColumn<bool>("later");
     QTest::newRow("deleted") << false;
     QTest::newRow("deleteLater in the dialog's event loop") << true;
+}
+
+void tst_XHttpReply::passwordsStayOutOfTexts()
+{
+    m_server->serve(QStringLiteral("/x"), "gone", 404);
+    QUrl url = m_server->url(QStringLiteral("/x"));
+    url.setUserName(QStringLiteral("me"));
+    url.setPassword(QStringLiteral("secret word"));
+    const auto reply = get(url);
+    QTRY_VERIFY_WITH_TIMEOUT(reply->isFinished(), limitMs);
+    QCOMPARE(code(reply.get()), 203);
+    QVERIFY(reply->errorString().contains(QStringLiteral("me@")));
+    QVERIFY2(!reply->errorString().contains(QStringLiteral("secret")),
+             qPrintable(reply->errorString()));
 }
 
 void tst_XHttpReply::deletedWhileAsking()
