@@ -13,7 +13,7 @@
 # shellcheck disable=SC1112  # the French texts have their apostrophes
 set -euo pipefail
 umask 022
-export LC_ALL=C SOURCE_DATE_EPOCH=1767225600
+export LC_ALL=C SOURCE_DATE_EPOCH=1767225600 PATH=$PATH:/usr/sbin:/sbin
 
 if { [ $# -ne 1 ] && [ $# -ne 4 ]; } || [ -z "$1" ]; then
   echo "usage: ${0##*/} DIR [HTTPS HTTP FTP]" >&2

@@ -11,6 +11,8 @@
 #   ftp     an FTP server, for everybody
 set -euo pipefail
 umask 022
+# dpkg and nginx need the administrators' folders, which an ordinary user's PATH lacks.
+export PATH=$PATH:/usr/sbin:/sbin
 
 if [ $# -lt 2 ] || [ -z "$1" ]; then
   echo "usage: ${0##*/} DIR COMMAND [ARGUMENT...]" >&2
@@ -99,8 +101,7 @@ http {
   }
 }
 NGINX
-nginx=$(PATH=$PATH:/usr/sbin:/sbin command -v nginx)
-"$nginx" -c "$run/nginx.conf" -e "$run/log" 2>"$run/nginx.err" &
+nginx -c "$run/nginx.conf" -e "$run/log" 2>"$run/nginx.err" &
 pids+=("$!")
 "$python" "$demo/ftp-server.py" "$ftp" "$world/repos/ftp" 2>"$run/ftp.err" &
 pids+=("$!")
