@@ -40,7 +40,8 @@ void XNetworkReply::setDirectoryRequest(const QNetworkRequest &request)
 void XNetworkReply::fail(QNetworkReply::NetworkError code, const QString &text)
 {
     setError(code, text);
-    // The base class passes this on as the deprecated error(code).
+    // The base class passes this on as the deprecated error(code); emitting that as well, which
+    // other versions of Qt need, would tell its receivers twice.
     Q_EMIT errorOccurred(code);
 }
 

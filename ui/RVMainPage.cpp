@@ -192,7 +192,8 @@ void RVMainPage::proxyChanged(const QString &scheme, const QString &server, int 
             continue;
         }
         const bool differs = repository->proxyHost() != server || repository->proxyPort() != port;
-        // "No proxy" has more than one spelling; going from one to another changes nothing.
+        // "No proxy" is an empty host or any port of 0 or less: the options say -1 at the start, a
+        // repository begins with 0. Going from one to another must not restart a retrieval.
         if (differs
             && (isProxy(server, port)
                 || isProxy(repository->proxyHost(), repository->proxyPort()))) {

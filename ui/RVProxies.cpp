@@ -259,6 +259,8 @@ void RVProxies::makeRows()
     }
 }
 
+// Disabled and not hidden: the page keeps its height, and the user sees what comes back with the
+// check mark. What is in the rows is stored with the rest.
 void RVProxies::enableRows()
 {
     for (int row = 1; row < rowCount; ++row) {

@@ -8,8 +8,8 @@
 #include <QString>
 
 /// The one table of standard icons. On the device a row's file is there; elsewhere the theme's icon
-/// of the freedesktop name stands in, then the style's standard pixmap, then a drawing of our own,
-/// so that no button is ever blank.
+/// of the freedesktop name stands in, then the style's standard pixmap, then a drawing of our own:
+/// no button is ever blank.
 class RVStyle
 {
 public:
