@@ -4,6 +4,7 @@
 
 #include "core/LocalCopy.h"
 #include "core/RVLogger.h"
+#include "core/RVSum.h"
 #include "core/XarToc.h"
 
 #include <QDir>
@@ -218,10 +219,10 @@ qint64 announcedSize(QFile *file)
     qint64 total = 0;
     while (reader && readNext(reader.get(), &entry, &result)) {
         const qint64 size = archive_entry_size(entry);
-        if (size < 0 || size > std::numeric_limits<qint64>::max() - total) {
+        if (size < 0) {
             return -1;
         }
-        total += size;
+        total = saturatingSum(total, size);
     }
     return total;
 }

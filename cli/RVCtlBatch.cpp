@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlBatch.h"
 
+#include "core/RVSum.h"
 #include "core/RVUrl.h"
 #include "install/RVInstallProc.h"
 #include "repository/RVRepository.h"
@@ -31,7 +32,8 @@ RVCtlBatch RVCtlBatch::of(const RVCtlOffers &section, const QVector<RVCtlOffers:
     batch.downloads = RVInstallProc::downloads(batch.entries);
     for (const RVData &data : qAsConst(batch.downloads)) {
         const qint64 size = data.descriptor()->size();
-        batch.downloadSize = size < 0 || batch.downloadSize < 0 ? -1 : batch.downloadSize + size;
+        batch.downloadSize =
+            size < 0 || batch.downloadSize < 0 ? -1 : saturatingSum(batch.downloadSize, size);
     }
     ArchiveGeneric &first = *batch.entries.first().archive();
     const RVRepository &repository = *section.section().repository;

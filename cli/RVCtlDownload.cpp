@@ -10,6 +10,7 @@
 #include "cli/RVCtlProgress.h"
 #include "cli/RVCtlSpace.h"
 #include "cli/RVCtlText.h"
+#include "core/RVSum.h"
 #include "core/RVUrl.h"
 #include "repository/RVRepDesc.h"
 
@@ -17,7 +18,6 @@
 #include <QJsonArray>
 
 #include <algorithm>
-#include <limits>
 
 namespace
 {
@@ -155,11 +155,10 @@ void judge(const QVector<File> &files, RVCtlResult *result)
 /// As far as it is known.
 qint64 bytesToFetch(const QVector<File> &files)
 {
-    constexpr qint64 most = std::numeric_limits<qint64>::max();
     qint64 total = 0;
     for (const File &file : files) {
         if (!file.isPresent && !file.fault.isSet() && file.size > 0) {
-            total = file.size > most - total ? most : total + file.size;
+            total = saturatingSum(total, file.size);
         }
     }
     return total;
@@ -176,18 +175,17 @@ void fetchAll(const RVCtlCall &call, const RVCtlOffers &section, RVCtlAccess *ac
         if (file.isPresent || file.fault.isSet()) {
             continue;
         }
+        // A descriptor's is not announced.
+        const qint64 size = qMax<qint64>(0, file.size);
         file.fault = fetch.fetch(file.url, file.name, folder, [&](qint64 received) {
             if (total > 0) {
-                // A descriptor's size is not announced.
-                progress.show(
-                    qMin(total, before + qBound<qint64>(0, received, qMax<qint64>(0, file.size))),
-                    total);
+                progress.show(saturatingSum(before, qBound<qint64>(0, received, size)), total);
             }
         });
         if (call.deadline.isOver()) {
             return;
         }
-        before += qMax<qint64>(0, file.size);
+        before = saturatingSum(before, size);
         if (file.fault.isSet()) {
             call.messages.error(
                 QStringLiteral("%1: %2").arg(RVUrl::shown(file.url), file.fault.text));

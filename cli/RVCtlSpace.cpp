@@ -5,6 +5,7 @@
 #include "cli/RVCtlBatch.h"
 #include "cli/RVCtlText.h"
 #include "core/RVPaths.h"
+#include "core/RVSum.h"
 
 #include <QDir>
 #include <QFile>
@@ -23,12 +24,10 @@ constexpr qint64 most = std::numeric_limits<qint64>::max();
 /// What unpacking a service pack leaves free.
 constexpr qint64 spareBytes = 64LL * 1024 * 1024;
 
-/// Of sizes that a server announces; what is not known is nothing.
-qint64 sum(qint64 a, qint64 b)
+/// What is not known is nothing.
+qint64 known(qint64 size)
 {
-    a = qMax<qint64>(a, 0);
-    b = qMax<qint64>(b, 0);
-    return a > most - b ? most : a + b;
+    return qMax<qint64>(size, 0);
 }
 
 /// A package is written twice, once as it arrives and once beside the others of its batch; the
@@ -40,13 +39,13 @@ qint64 temporaryBytes(const RVCtlBatch &batch)
     for (const RVData &data : batch.downloads) {
         const qint64 size = data.descriptor()->size();
         const qint64 unpacked = data.descriptor()->unpackedSize();
-        total = sum(total, batch.isPackages() || unpacked < 0 ? size : unpacked);
-        smallest = qMin(smallest, qMax<qint64>(size, 0));
+        total = saturatingSum(total, known(batch.isPackages() || unpacked < 0 ? size : unpacked));
+        smallest = qMin(smallest, known(size));
     }
     if (total == 0) {
         return 0;
     }
-    return sum(sum(total, smallest), batch.isPackages() ? 0 : spareBytes);
+    return saturatingSum(saturatingSum(total, smallest), batch.isPackages() ? 0 : spareBytes);
 }
 
 /// What is new comes on top; what replaces an older version needs its own size until that is gone.
@@ -57,12 +56,12 @@ qint64 installedBytes(const RVCtlBatch &batch)
     for (const RVCtlOffers::Entry &entry : batch.updates) {
         const qint64 size = entry.description ? entry.description->installedSize() : -1;
         if (entry.proposal.installed.isEmpty()) {
-            added = sum(added, size);
+            added = saturatingSum(added, known(size));
         } else {
             replacing = qMax(replacing, size);
         }
     }
-    return sum(added, replacing);
+    return saturatingSum(added, replacing);
 }
 
 bool isSameFileSystem(const QString &a, const QString &b)
@@ -110,7 +109,7 @@ bool RVCtlSpace::fits(const RVCtlBatch &batch, const RVPaths &paths, QString *er
     const qint64 forDownloads = temporaryBytes(batch);
     const qint64 forInstallation = installedBytes(batch);
     if (isSameFileSystem(temporary, root)) {
-        return fits(sum(forDownloads, forInstallation), temporary, error);
+        return fits(saturatingSum(forDownloads, forInstallation), temporary, error);
     }
     return fits(forDownloads, temporary, error) && fits(forInstallation, root, error);
 }

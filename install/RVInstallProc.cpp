@@ -4,6 +4,7 @@
 
 #include "core/RVLimits.h"
 #include "core/RVLogger.h"
+#include "core/RVSum.h"
 #include "core/RVUrl.h"
 #include "descriptor/DescriptorGeneric.h"
 #include "network/XHttpReply.h"
@@ -19,7 +20,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <limits>
 #include <utility>
 
 namespace
@@ -37,17 +37,6 @@ QList<RVData> withArchiveOnce(const QList<RVData> &entries)
         }
     }
     return result;
-}
-
-/// The sum of two byte counts from a server, which may announce any number.
-qint64 boundedSum(qint64 a, qint64 b)
-{
-    using Limits = std::numeric_limits<qint64>;
-    qint64 sum = 0;
-    if (__builtin_add_overflow(a, b, &sum)) {
-        return b > 0 ? Limits::max() : Limits::min();
-    }
-    return sum;
 }
 
 } // namespace
@@ -135,7 +124,7 @@ void RVInstallProc::start()
     for (const RVData &entry : m_entries) {
         // As it stands: a size that is not announced is -1.
         const qint64 size = entry.descriptor() ? entry.descriptor()->size() : -1;
-        m_expectedTotal = boundedSum(m_expectedTotal, size);
+        m_expectedTotal = saturatingSum(m_expectedTotal, size);
     }
     startDownloads();
 }
@@ -373,7 +362,7 @@ void RVInstallProc::progress(qint64 bytesReceived, qint64 bytesTotal)
     m_received[index] = bytesReceived;
     qint64 sum = 0;
     for (const qint64 received : std::as_const(m_received)) {
-        sum = boundedSum(sum, received);
+        sum = saturatingSum(sum, received);
     }
     Q_EMIT downloadProgress(qMin(sum, m_expectedTotal), m_expectedTotal);
 }
