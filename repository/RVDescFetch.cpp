@@ -86,7 +86,7 @@ void RVDescFetch::cancel()
 bool RVDescFetch::startWaiting()
 {
     const QPointer<RVDescFetch> self(this);
-    while (self && m_next < m_entries.size() && m_fetches.size() < RVLimits::transfersInFlight) {
+    while (self && m_next < m_entries.size() && m_fetches.size() < RVLimits::transfersNow()) {
         start(m_entries.at(m_next++));
     }
     return !self.isNull();
