@@ -5,7 +5,9 @@
 #include "core/RVText.h"
 #include "core/RVUrl.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QVector>
 
 #include <cstdarg>
@@ -29,12 +31,50 @@ QString &logPlace()
     return place;
 }
 
+/// Whether only root decides what is in this folder, by its name or through any above it.
+bool isRootsAlone(QByteArray folder)
+{
+    while (true) {
+        struct stat info = {};
+        if (::lstat(folder.constData(), &info) != 0 || !S_ISDIR(info.st_mode) || info.st_uid != 0
+            || (info.st_mode & (S_IWGRP | S_IWOTH)) != 0) {
+            return false;
+        }
+        if (folder == "/") {
+            return true;
+        }
+        folder.truncate(qMax(folder.lastIndexOf('/'), 1));
+    }
+}
+
+/// The file that the log is in: the place itself, or what an administrator's link leads to, such
+/// as a log on another file system. Empty for a link that somebody else may have planted.
+QByteArray targetOf(const QString &place)
+{
+    const QByteArray name = QFile::encodeName(place);
+    struct stat info = {};
+    if (::lstat(name.constData(), &info) != 0 || !S_ISLNK(info.st_mode)) {
+        return name;
+    }
+    const QFileInfo link(place);
+    const QString folder = QFileInfo(link.symLinkTarget()).dir().canonicalPath();
+    if (info.st_uid != 0 || folder.isEmpty() || !isRootsAlone(QFile::encodeName(folder))) {
+        return {};
+    }
+    return QFile::encodeName(folder + QLatin1Char('/')
+                             + QFileInfo(link.symLinkTarget()).fileName());
+}
+
 std::FILE *openAt(const QString &place)
 {
     // Anyone may write to /tmp: what was planted there must neither be written through nor be
     // waited for.
+    const QByteArray target = targetOf(place);
+    if (target.isEmpty()) {
+        return nullptr;
+    }
     const int fd = ::open(
-        QFile::encodeName(place).constData(),
+        target.constData(),
         O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, 0600);
     if (fd < 0) {
         return nullptr;
@@ -47,6 +87,22 @@ std::FILE *openAt(const QString &place)
         ::close(fd);
     }
     return stream;
+}
+
+/// A link at the log's place switches logging off, and nobody would notice.
+void tellOfPlanted(const QString &place)
+{
+    static QString told;
+    struct stat info = {};
+    const QByteArray name = QFile::encodeName(place);
+    if (told == place || ::lstat(name.constData(), &info) != 0) {
+        return;
+    }
+    if (S_ISLNK(info.st_mode) || (S_ISREG(info.st_mode) && info.st_nlink > 1)) {
+        told = place;
+        std::fprintf(stderr, "Nothing is logged: %s is a link.\n",
+                     RVLogger::oneLine(place).constData());
+    }
 }
 
 void writeTime(std::FILE *stream, const char *format)
@@ -116,6 +172,8 @@ std::FILE *RVLogger::open()
     if (stream) {
         std::fprintf(stream, "%s\n", std::string(54, '-').c_str());
         writeTime(stream, "%c\n");
+    } else {
+        tellOfPlanted(logPlace());
     }
     return stream;
 }

@@ -30,8 +30,9 @@ public:
     void log(const char *format, ...) Q_ATTRIBUTE_FORMAT_PRINTF(2, 3);
 
     /// Opens the log for appending and writes its header. Returns null when the place is not
-    /// writable or holds anything but a regular file of our own with one link. The caller keeps the
-    /// stream.
+    /// writable or holds anything but a regular file of our own with one link, or a symbolic link
+    /// of root's into a folder that only root may write; of any other link standard error is told,
+    /// once. The caller keeps the stream.
     static std::FILE *open();
     /// Closes the log; the next entry opens it again, with a new header.
     static void close();

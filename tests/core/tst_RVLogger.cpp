@@ -72,6 +72,9 @@ private Q_SLOTS:
 
     void refusedPlace_data();
     void refusedPlace();
+    void plantedLinkIsTold_data();
+    void plantedLinkIsTold();
+    void administratorsLink();
     void fifoWithAReader();
     void fileOfAnother();
     void unwritableDirectory();
@@ -117,7 +120,7 @@ void tst_RVLogger::oneLine_data()
     const uint tag = 0xe0041;
     QTest::newRow("format character beyond the base plane")
         << QString::fromUcs4(&tag, 1) << QByteArray("?");
-    QTest::newRow("half a character") << QString(QChar(0xd800)) << QByteArray("?");
+    QTest::newRow("half a character") << QString(QChar(0xd800)) << QByteArray("\xef\xbf\xbd");
     const QString longest(RVLogger::longestText, QLatin1Char('a'));
     QTest::newRow("as long as can be") << longest << longest.toUtf8();
     QTest::newRow("longer") << longest + QLatin1Char('b')
@@ -353,6 +356,9 @@ void tst_RVLogger::refusedPlace()
     QFETCH(QString, what);
     const QByteArray place = local8(m_log->path());
     const QString victim = m_log->path() + QStringLiteral(".victim");
+    // As /tmp is: anyone may have planted it.
+    const QByteArray folder = local8(QFileInfo(victim).path());
+    QCOMPARE(::chmod(folder.constData(), 01777), 0);
     QFile file(victim);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("precious");
@@ -386,6 +392,71 @@ void tst_RVLogger::refusedPlace()
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), QByteArray("precious"));
     }
+}
+
+void tst_RVLogger::plantedLinkIsTold_data()
+{
+    QTest::addColumn<bool>("symbolic");
+    QTest::newRow("symbolic link") << true;
+    QTest::newRow("hard link") << false;
+}
+
+void tst_RVLogger::plantedLinkIsTold()
+{
+    QFETCH(bool, symbolic);
+    const QString victim = m_log->path() + QStringLiteral(".victim");
+    QFile file(victim);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(::chmod(local8(QFileInfo(victim).path()).constData(), 01777), 0);
+    const QByteArray place = local8(m_log->path());
+    QCOMPARE((symbolic ? ::symlink : ::link)(local8(victim).constData(), place.constData()), 0);
+
+    const int standardError = ::dup(STDERR_FILENO);
+    FILE *told = ::tmpfile();
+    QVERIFY(told);
+    ::dup2(::fileno(told), STDERR_FILENO);
+    for (int i = 0; i < 3; ++i) {
+        RVLogger().log(3, "text");
+    }
+    ::fflush(stderr);
+    ::dup2(standardError, STDERR_FILENO);
+    ::close(standardError);
+    ::rewind(told);
+    char text[4096] = {};
+    ::fread(text, 1, sizeof text - 1, told);
+    ::fclose(told);
+    QCOMPARE(QByteArray(text), "Nothing is logged: " + place + " is a link.\n");
+}
+
+void tst_RVLogger::administratorsLink()
+{
+    if (::geteuid() != 0) {
+        QSKIP("only root's links are followed");
+    }
+    const QString elsewhere = m_log->path() + QStringLiteral(".elsewhere");
+    QVERIFY(QDir().mkdir(elsewhere));
+    for (QDir folder(elsewhere);; folder.setPath(QFileInfo(folder.path()).path())) {
+        struct stat info = {};
+        QCOMPARE(::lstat(local8(folder.path()).constData(), &info), 0);
+        if (info.st_uid != 0 || (info.st_mode & 022) != 0) {
+            QSKIP("others may write somewhere above the folder of the tests");
+        }
+        if (folder.isRoot()) {
+            break;
+        }
+    }
+    const QString target = elsewhere + QStringLiteral("/Ravel.log");
+    QCOMPARE(::symlink(local8(target).constData(), local8(m_log->path()).constData()), 0);
+    RVLogger().log(3, "first");
+    RVLogger::close();
+    QFile file(target);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().endsWith(": first\n"));
+
+    // From here on somebody else may put another file there.
+    QCOMPARE(::chmod(local8(elsewhere).constData(), 0777), 0);
+    RVLogger().log(3, "second");
+    QVERIFY(!RVLogger::m_stream);
 }
 
 void tst_RVLogger::fifoWithAReader()
