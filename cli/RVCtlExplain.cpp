@@ -38,6 +38,8 @@ QString sentence(RVEligibility reason, const DescriptorGeneric &descriptor,
         return QStringLiteral("no filter of the section picks it");
     case RVEligibility::NoDescriptor:
         return QStringLiteral("no descriptor of the same core name");
+    case RVEligibility::ForeignLink:
+        return QStringLiteral("the listing links it where it must not lead");
     case RVEligibility::UnreadableDescriptor:
         return QStringLiteral("its descriptor cannot be read");
     case RVEligibility::OtherBaseRelease:

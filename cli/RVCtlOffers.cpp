@@ -317,6 +317,8 @@ QString reasonWord(RVEligibility reason)
         return QStringLiteral("no-filter");
     case RVEligibility::NoDescriptor:
         return QStringLiteral("no-descriptor");
+    case RVEligibility::ForeignLink:
+        return QStringLiteral("foreign-link");
     case RVEligibility::UnreadableDescriptor:
         return QStringLiteral("unreadable-descriptor");
     case RVEligibility::OtherBaseRelease:

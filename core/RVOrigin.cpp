@@ -36,3 +36,18 @@ bool isSameOrigin(const QUrl &a, const QUrl &b)
     const QString origin = originOf(a);
     return !origin.isEmpty() && origin == originOf(b);
 }
+
+bool mayLeadTo(const QUrl &location, const QUrl &link)
+{
+    const auto isLocal = [](const QUrl &url) {
+        return url.scheme().isEmpty() || url.isLocalFile();
+    };
+    if (isLocal(location) || isLocal(link)) {
+        return isLocal(location) && isLocal(link);
+    }
+    if (link.scheme() == QLatin1String("https")) {
+        return true;
+    }
+    return location.scheme() != QLatin1String("https")
+        && (link.scheme() == QLatin1String("http") || link.scheme() == QLatin1String("ftp"));
+}

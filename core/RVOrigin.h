@@ -9,5 +9,9 @@
 /// included. No user name, no password; empty for a URL without a host.
 QString originOf(const QUrl &url);
 
+/// Whether a listing of `location` may lead to `link`: nothing on the network may name a file of
+/// this system, and what came encrypted leads to nothing that travels in clear.
+bool mayLeadTo(const QUrl &location, const QUrl &link);
+
 /// Whether what is meant for one server may be given to the other. Never for URLs without a host.
 bool isSameOrigin(const QUrl &a, const QUrl &b);

@@ -10,9 +10,11 @@
 /// Why an archive is offered on a system, or the first reason why it is not.
 enum class RVEligibility {
     Offered,
-    /// Only for archives of which no entry was made.
+    // Only for archives of which no entry was made.
     NoFilter,
     NoDescriptor,
+    /// The listing leads where it must not; see mayLeadTo().
+    ForeignLink,
     /// What could not be read says nothing that fits.
     UnreadableDescriptor,
     OtherBaseRelease,

@@ -3,6 +3,7 @@
 #include "repository/RVExplain.h"
 
 #include "archive/ArchiveGeneric.h"
+#include "core/RVOrigin.h"
 #include "repository/RVFilter.h"
 #include "repository/RVRepository.h"
 
@@ -34,7 +35,10 @@ QList<RVVerdict> explain(const RVRepository &repository, const OSInfoBaseClass &
             // A page may link the same file twice.
             byArchive.erase(known);
         } else if (repository.selects(item)) {
-            verdicts.append({url, RVEligibility::NoDescriptor, -1});
+            verdicts.append({url,
+                             mayLeadTo(repository.url(), url) ? RVEligibility::NoDescriptor
+                                                              : RVEligibility::ForeignLink,
+                             -1});
         } else if (!item.isDir() && ArchiveGeneric::isHandled(url)) {
             verdicts.append({url, RVEligibility::NoFilter, -1});
         }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "repository/RVFilter.h"
 
+#include "core/RVOrigin.h"
+
 #include <QHash>
 #include <QRegularExpression>
 
@@ -100,9 +102,12 @@ QString RVFilter::corename(const QString &name, const QRegExp &pattern) const
 }
 
 void RVFilter::filterList(const QList<XUrlInfo> &listing, QList<RVData> &entries,
-                          const RVPaths &paths) const
+                          const RVPaths &paths, const QUrl &location) const
 {
     entries.clear();
+    const auto isForeign = [&location](const QString &name) {
+        return !location.isEmpty() && !mayLeadTo(location, urlOfName(name));
+    };
     const auto add = [&](const QString &archive, const QString &descriptor) {
         entries.append(RVData(urlOfName(archive),
                               descriptor.isEmpty() ? QUrl() : urlOfName(descriptor), nullptr,
@@ -119,18 +124,23 @@ void RVFilter::filterList(const QList<XUrlInfo> &listing, QList<RVData> &entries
     if (m_descriptor.isEmpty()) {
         // The index runs over the whole listing and not over the matches: repositories rely on it.
         for (int i = 0; i < archives.size(); ++i) {
-            add(listing[i].name(), {});
+            if (!isForeign(listing[i].name())) {
+                add(listing[i].name(), {});
+            }
         }
         return;
     }
 
     QHash<QString, Candidates> candidates;
     for (const XUrlInfo &item : listing) {
-        if (isFound(m_descriptor, item)) {
+        if (isFound(m_descriptor, item) && !isForeign(item.name())) {
             candidates[corename(item.name(), m_descriptor)].add(item.name());
         }
     }
     for (const QString &archive : qAsConst(archives)) {
+        if (isForeign(archive)) {
+            continue;
+        }
         const Candidates found = candidates.value(corename(archive, m_archive));
         if (!found.first.isEmpty() && found.first != archive) {
             add(archive, found.first);

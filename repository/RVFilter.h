@@ -34,9 +34,11 @@ public:
 
     /// The part of a file name that an archive and its descriptor share.
     QString corename(const QString &name, const QRegExp &pattern) const;
-    /// Replaces `entries` by what the listing holds. Linear in the size of the listing.
+    /// Replaces `entries` by what the listing holds. Linear in the size of the listing. Items that
+    /// a listing of `location` may not lead to keep their position and become no entry, if a
+    /// location is given; see mayLeadTo().
     void filterList(const QList<XUrlInfo> &listing, QList<RVData> &entries,
-                    const RVPaths &paths = {}) const;
+                    const RVPaths &paths = {}, const QUrl &location = {}) const;
 
 private:
     QRegExp m_archive;

@@ -287,7 +287,7 @@ void RVRepository::filter()
 {
     const auto append = [this](const RVFilter &filter) {
         QList<RVData> found;
-        filter.filterList(m_listing, found, m_paths);
+        filter.filterList(m_listing, found, m_paths, m_url);
         m_entries.append(found);
     };
     m_entries.clear();

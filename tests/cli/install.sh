@@ -76,12 +76,12 @@ define images "http://127.0.0.1:$(port plain)/images/" 'dd\.gz'
 define local "file://$repos/packages"
 define mixed "file://$work/mixed" '(deb|xar|dd\.gz)'
 define odd "file://$work/odd"
-define lost "http://127.0.0.1:$(port plain)/lost/"
+define lost "file://$work/lost"
 printf 'secret\n' > "$work/password"
 printf 'wrong\n' > "$work/wrong"
 
 # Mixed: an image, a service pack and a package beside each other. Odd: packages that are none.
-mkdir -- "$work/mixed" "$work/odd" "$repos/lost"
+mkdir -- "$work/mixed" "$work/odd" "$work/lost"
 cp -- "$repos/packages/tc-audio_1.0-1_all".* "$repos/service-packs/SP-6.1.2-2".* \
   "$repos/images/tc-system-6.2.0".* "$work/mixed"
 # odd FILE NAME EXTRA: the descriptor of a package.
@@ -110,9 +110,10 @@ data[200:260] = bytes(60)
 open(sys.argv[2], "wb").write(data)
 PYTHON
 odd odd/rotten tc-rotten ''
-# Of a local file that is not there, the engine hears at once, and has no last word.
-printf '<a href="file://%s/nowhere/whole.deb">a</a> <a href="file://%s/odd/whole.xml">x</a>\n' "$work" \
-  "$work" > "$repos/lost/index.html"
+# Of a local file that it does not open, the engine hears at once.
+mkfifo -- "$work/pipe"
+ln -s -- "$work/pipe" "$work/lost/whole.deb"
+cp -- "$work/odd/whole.xml" "$work/lost/"
 cp -a -- "$root" "$work/root.saved"
 fresh()
 {

@@ -9,6 +9,8 @@ class tst_RVOrigin : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void leads_data();
+    void leads();
     void origin_data()
     {
         QTest::addColumn<QString>("url");
@@ -67,6 +69,42 @@ private Q_SLOTS:
         QTEST(isSameOrigin(QUrl(b), QUrl(a)), "expected");
     }
 };
+
+void tst_RVOrigin::leads_data()
+{
+    QTest::addColumn<QString>("location");
+    QTest::addColumn<QString>("link");
+    QTest::addColumn<bool>("may");
+    const auto rows = [](const char *location, const std::initializer_list<const char *> &links,
+                         bool may) {
+        for (const char *link : links) {
+            QTest::addRow("%s to %s", location, link)
+                << QString::fromLatin1(location) << QString::fromLatin1(link) << may;
+        }
+    };
+    rows("http://h/", {"http://h/a.deb", "http://i/a.deb", "https://i/a.deb", "ftp://i/a.deb"},
+         true);
+    rows("ftp://h/", {"ftp://h/a.deb", "http://i/a.deb", "https://i/a.deb"}, true);
+    rows("https://h/", {"https://h/a.deb", "https://i:8443/a.deb", "HTTPS://i/a.deb"}, true);
+    rows("https://h/", {"http://h/a.deb", "ftp://h/a.deb"}, false);
+    for (const char *location : {"http://h/", "https://h/", "ftp://h/"}) {
+        rows(location,
+             {"file:///proc/kmsg%00.xml", "file://h/a.deb", "FILE:///etc/a.deb", "/etc/a.deb",
+              "data:application/x,a.deb", "qrc:/a.deb", "gopher://h/a.deb", "javascript:a.deb", ""},
+             false);
+    }
+    rows("file:///srv/", {"file:///srv/a.deb", "/srv/a.deb"}, true);
+    rows("file:///srv/", {"http://h/a.deb", "https://h/a.deb", "qrc:/a.deb"}, false);
+    rows("/srv/", {"file:///srv/a.deb"}, true);
+}
+
+void tst_RVOrigin::leads()
+{
+    QFETCH(QString, location);
+    QFETCH(QString, link);
+    QFETCH(bool, may);
+    QCOMPARE(mayLeadTo(QUrl(location), QUrl(link)), may);
+}
 
 QTEST_GUILESS_MAIN(tst_RVOrigin)
 #include "tst_RVOrigin.moc"

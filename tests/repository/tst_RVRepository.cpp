@@ -166,6 +166,7 @@ private Q_SLOTS:
     void refreshReplacesTheEntries();
     void awkwardNamesAreRead();
 
+    void linksThatLeadElsewhere();
     void listingThatCannotStart_data();
     void listingThatCannotStart();
     void failedListingForgetsTheEntries();
@@ -515,6 +516,24 @@ void tst_RVRepository::awkwardNamesAreRead()
         QCOMPARE(entry.descriptor()->version().toString(), QStringLiteral("1.0"));
         QVERIFY(QFile::exists(entry.archiveUrl().toLocalFile()));
     }
+}
+
+// The page's links stay in the listing, of which positions count; no entry is made of some.
+void tst_RVRepository::linksThatLeadElsewhere()
+{
+    HttpServer server;
+    server.serve(QStringLiteral("/"),
+                 "<a href='file:///dev/zero#.deb'></a><a href='file:///proc/kmsg%00.xml'></a>"
+                 "<a href='data:,a.deb'></a><a href='qrc:/a.deb'></a><a href='odd://h/a.deb'></a>"
+                 "<a href='a.deb'></a><a href='file:///etc/b.deb'></a><a href='c.deb'></a>");
+    server.serve(QStringLiteral("/a.deb"), "a");
+    server.serve(QStringLiteral("/c.deb"), "c");
+    Watched watched(server.url(QStringLiteral("/")), SortByName, false);
+    watched.repository.addFilter(pattern("\\.deb$"), pattern("\\.deb$"));
+    watched.refresh();
+    QTRY_VERIFY(watched.count("refreshDone") > 0);
+    QCOMPARE(watched.archives(), QStringLiteral("a.deb c.deb"));
+    QCOMPARE(watched.repository.listing().size(), 8);
 }
 
 void tst_RVRepository::listingThatCannotStart_data()
