@@ -8,12 +8,10 @@
 #include "core/RVUrl.h"
 
 #include <QPointer>
-#include <QProcessEnvironment>
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <cerrno>
-#include <sys/stat.h>
 
 namespace
 {
@@ -66,25 +64,6 @@ bool hasControlCharacter(const QString &text)
     });
 }
 
-/// What would make the shell run or find something else than the script says.
-void removeShellSettings(QProcess *proc)
-{
-    static const QStringList settings{
-        QStringLiteral("BASH_ENV"), QStringLiteral("ENV"),    QStringLiteral("SHELLOPTS"),
-        QStringLiteral("BASHOPTS"), QStringLiteral("CDPATH"), QStringLiteral("IFS"),
-    };
-    QProcessEnvironment environment = proc->processEnvironment();
-    if (environment.isEmpty()) {
-        environment = QProcessEnvironment::systemEnvironment();
-    }
-    for (const QString &name : environment.keys()) {
-        if (settings.contains(name) || name.startsWith(QLatin1String("BASH_FUNC_"))) {
-            environment.remove(name);
-        }
-    }
-    proc->setProcessEnvironment(environment);
-}
-
 } // namespace
 
 ArchiveDDImage::ArchiveDDImage(const QUrl &url, QObject *parent, const RVPaths &paths)
@@ -131,11 +110,7 @@ void ArchiveDDImage::install(QProcess *proc)
             m_paths);
         return;
     }
-    removeShellSettings(proc);
-    // The configuration holds a password. The process inherits the mask, and start() forks at once.
-    const mode_t mask = ::umask(077);
     proc->start(command.program, command.arguments);
-    ::umask(mask);
 }
 
 void ArchiveDDImage::setProxy(const QString &host, int port)
@@ -175,8 +150,7 @@ QByteArrayList ArchiveDDImage::proxyLines() const
 QByteArray ArchiveDDImage::script() const
 {
     const QString deployDir = m_paths.writableDir + QStringLiteral("/CV");
-    const QString autoUpdateDir =
-        (m_paths.isEtcReadOnly() ? m_paths.writableDir : m_paths.etcDir)
+    const QString autoUpdateDir = (m_paths.isEtcReadOnly() ? m_paths.writableDir : m_paths.etcDir)
         + QStringLiteral("/auto-update");
     const QByteArray port = m_url.port() >= 0 ? ':' + QByteArray::number(m_url.port()) : "";
 
@@ -188,6 +162,8 @@ QByteArray ArchiveDDImage::script() const
         "    echo 'Could not mkdir " + inQuotes(deployDir) + "!' >&2",
         "    exit 1",
         "fi",
+        // It holds a password, and one that lies there already may be open to all, or a link.
+        "install -m 600 /dev/null Snapstow.conf || exit 1",
         "cat >Snapstow.conf <<EOF",
         "[General]",
         "autostart=remote-deploy",

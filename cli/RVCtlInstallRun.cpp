@@ -24,23 +24,11 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <unistd.h>
 
 namespace
 {
 
 constexpr int lockLookMs = 250;
-
-/// The interrupt key and the end of a terminal reach everything that belongs to it: the installer
-/// does not.
-class Installer : public RVInstallProc
-{
-public:
-    using RVInstallProc::RVInstallProc;
-
-protected:
-    void setupChildProcess() override { ::setsid(); }
-};
 
 /// It was asked before anything was started.
 class Confirmed : public ImageQuestion
@@ -128,8 +116,9 @@ bool RVCtlInstallRun::awaitDatabase(QString *error)
 void RVCtlInstallRun::run()
 {
     Confirmed confirmed;
-    m_process = std::make_unique<Installer>(m_batch.entries, m_repository.user(),
-                                            m_repository.password(), nullptr, m_call.world.paths());
+    m_process =
+        std::make_unique<RVInstallProc>(m_batch.entries, m_repository.user(),
+                                        m_repository.password(), nullptr, m_call.world.paths());
     m_process->access = m_repository.access();
     m_process->imageQuestion = &confirmed;
     // What it writes stays in its order.

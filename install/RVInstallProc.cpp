@@ -20,6 +20,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
+#include <unistd.h>
 #include <utility>
 
 namespace
@@ -39,6 +41,63 @@ QList<RVData> withArchiveOnce(const QList<RVData> &entries)
     return result;
 }
 
+/// The sum of two byte counts from a server, which may announce any number.
+qint64 boundedSum(qint64 a, qint64 b)
+{
+    using Limits = std::numeric_limits<qint64>;
+    qint64 sum = 0;
+    if (__builtin_add_overflow(a, b, &sum)) {
+        return b > 0 ? Limits::max() : Limits::min();
+    }
+    return sum;
+}
+
+/// The search path with the folders of the system's own tools, which an ordinary user's login
+/// leaves out. Relative folders would find what lies among the archives.
+QString searchPath()
+{
+    QStringList folders = qEnvironmentVariable("PATH").split(QLatin1Char(':'));
+    folders.erase(std::remove_if(folders.begin(), folders.end(),
+                                 [](const QString &folder) {
+                                     return !folder.startsWith(QLatin1Char('/'));
+                                 }),
+                  folders.end());
+    for (const char *folder :
+         {"/usr/local/sbin", "/usr/local/bin", "/usr/sbin", "/usr/bin", "/sbin", "/bin"}) {
+        if (!folders.contains(QLatin1String(folder))) {
+            folders.append(QLatin1String(folder));
+        }
+    }
+    return folders.join(QLatin1Char(':'));
+}
+
+/// What an installer needs of the program's environment, and nothing else of it: settings of the
+/// shell, the loader and the package tool would make it run or find something else.
+QProcessEnvironment installerEnvironment(const RVPaths &paths)
+{
+    const QProcessEnvironment own = QProcessEnvironment::systemEnvironment();
+    QProcessEnvironment environment;
+    for (const QString &name : own.keys()) {
+        static const QStringList kept{
+            QStringLiteral("HOME"),   QStringLiteral("LANG"), QStringLiteral("LOGNAME"),
+            QStringLiteral("TMPDIR"), QStringLiteral("TZ"),   QStringLiteral("USER"),
+        };
+        if (kept.contains(name)
+            || (name.startsWith(QLatin1String("LC_")) && name != QLatin1String("LC_ALL"))) {
+            environment.insert(name, own.value(name));
+        }
+    }
+    environment.insert(QStringLiteral("PATH"), searchPath());
+    environment.insert(QStringLiteral("DEBIAN_FRONTEND"), QStringLiteral("noninteractive"));
+    // Its messages are searched for their causes.
+    environment.insert(QStringLiteral("LC_MESSAGES"), QStringLiteral("C.UTF-8"));
+    for (const QString &assignment : paths.installerEnvironment) {
+        environment.insert(assignment.section(QLatin1Char('='), 0, 0),
+                           assignment.section(QLatin1Char('='), 1));
+    }
+    return environment;
+}
+
 } // namespace
 
 RVInstallProc::RVInstallProc(const QList<RVData> &entries, const QString &user,
@@ -47,12 +106,8 @@ RVInstallProc::RVInstallProc(const QList<RVData> &entries, const QString &user,
     , m_entries(withArchiveOnce(entries))
 {
     access.login = {user, password};
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const QString &assignment : paths.installerEnvironment) {
-        environment.insert(assignment.section(QLatin1Char('='), 0, 0),
-                           assignment.section(QLatin1Char('='), 1));
-    }
-    setProcessEnvironment(environment);
+    setProcessEnvironment(installerEnvironment(paths));
+    setStandardInputFile(nullDevice());
 
     connect(this, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this, [this] {
         m_state = State::Ended;
@@ -75,7 +130,6 @@ RVInstallProc::~RVInstallProc()
         // However long it takes: dpkg dies of a reader that goes away and leaves its packages half
         // installed. Nobody is told, since the watchers may be half destroyed already.
         blockSignals(true);
-        closeWriteChannel();
         waitForFinished(-1);
     }
     leaveTemporaryDir();
@@ -92,6 +146,13 @@ QList<RVData> RVInstallProc::downloads(const QList<RVData> &entries)
                      });
     }
     return result;
+}
+
+void RVInstallProc::setupChildProcess()
+{
+    // The interrupt key and the end of a terminal reach everything that belongs to it, and a
+    // script that reads the terminal waits for it: the installer has none.
+    ::setsid();
 }
 
 void RVInstallProc::start()
@@ -160,7 +221,7 @@ void RVInstallProc::cancel()
 void RVInstallProc::startDownloads()
 {
     while (m_state == State::Downloading && m_next < m_entries.size()
-           && m_pending.size() < RVLimits::transfersInFlight) {
+           && m_pending.size() < RVLimits::transfersNow()) {
         startDownload(m_next++);
     }
 }
@@ -272,12 +333,7 @@ void RVInstallProc::startInstallation()
         first->setProxy(proxyHost, proxyPort);
     }
     first->setImageQuestion(imageQuestion);
-    const QPointer<RVInstallProc> alive(this);
     first->install(this);
-    if (alive) {
-        // Nobody answers: a maintainer script that reads its standard input gets its end at once.
-        closeWriteChannel();
-    }
 }
 
 bool RVInstallProc::enterTemporaryDir()

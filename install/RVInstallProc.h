@@ -23,6 +23,10 @@ class TemporaryDir;
 /// Downloads and unpacks a batch of updates and is itself the process in which their installer
 /// runs. Only the first archive installs; the others of a batch are of its kind and lie beside it.
 ///
+/// The installer has a session and an environment of its own, without what the program's holds but
+/// PATH, HOME, the user's name, the language and the place for temporary files, and nothing to
+/// read on its standard input.
+///
 /// Its final signal, once after each start(), is QProcess's finished(), or
 /// errorOccurred(FailedToStart) when there was no installer program to start. A batch whose every
 /// download fails at once gets none by itself: cancel() ends it. It must not be destroyed while the
@@ -73,6 +77,9 @@ Q_SIGNALS:
     void installStarted();
     /// Bytes of the whole batch, measured against what the descriptors announce; never above it.
     void downloadProgress(qint64 bytesReceived, qint64 bytesTotal);
+
+protected:
+    void setupChildProcess() override;
 
 private Q_SLOTS:
     void incExtractFinished();

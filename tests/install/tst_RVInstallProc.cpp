@@ -249,6 +249,8 @@ private Q_SLOTS:
     void destructorWaitsForTheInstaller();
     void destructorDuringDownloads();
     void passesEnvironment();
+    void environmentIsClean();
+    void hasNoTerminalAndNothingToRead();
     void namesOfTheMetaObject();
 
 private:
@@ -1418,6 +1420,77 @@ void tst_RVInstallProc::passesEnvironment()
     Report report(&procedure);
     run(&procedure, &report);
     QCOMPARE(procedure.readAllStandardOutput(), "a=b c|" + qgetenv("HOME") + '\n');
+}
+
+void tst_RVInstallProc::environmentIsClean()
+{
+    const QString start = m_dir->filePath(QStringLiteral("start"));
+    QVERIFY(write(start, "echo started by a setting"));
+    const QByteArray file = QFile::encodeName(start);
+    const QList<QPair<QByteArray, QByteArray>> settings{
+        {"BASH_ENV", file},
+        {"ENV", file},
+        {"SHELLOPTS", "noexec"},
+        {"BASHOPTS", "xpg_echo"},
+        {"CDPATH", "/"},
+        {"IFS", "/"},
+        {"BASH_FUNC_echo%%", "() { /bin/echo pwned; }"},
+        {"LD_PRELOAD", "/nonexistent.so"},
+        {"LD_LIBRARY_PATH", "/nonexistent"},
+        {"DPKG_ROOT", "/nonexistent"},
+        {"DPKG_FORCE", "all"},
+        {"DPKG_ADMINDIR", "/nonexistent"},
+        {"LC_ALL", "de_DE.UTF-8"},
+        {"LANGUAGE", "de"},
+        {"RAVEL_TEST", "x"},
+    };
+    QHash<QByteArray, QByteArray> before;
+    for (const auto &setting : settings) {
+        before.insert(setting.first, qgetenv(setting.first.constData()));
+        qputenv(setting.first.constData(), setting.second);
+    }
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", "relative:" + path + ":.");
+    const RVPaths paths = installer("exit 0");
+    RVInstallProc procedure({entry(QUrl::fromLocalFile(start + QStringLiteral(".deb")), paths)},
+                            QString(), QString(), nullptr, paths);
+    qputenv("PATH", path);
+    for (const auto &setting : settings) {
+        const QByteArray old = before.value(setting.first);
+        old.isNull() ? qunsetenv(setting.first.constData())
+                     : qputenv(setting.first.constData(), old);
+    }
+    const QStringList names = procedure.processEnvironment().keys();
+    for (const auto &setting : settings) {
+        QVERIFY2(!names.contains(QString::fromLatin1(setting.first)), setting.first.constData());
+    }
+    const QProcessEnvironment environment = procedure.processEnvironment();
+    QCOMPARE(environment.value(QStringLiteral("LC_MESSAGES")), QStringLiteral("C.UTF-8"));
+    QCOMPARE(environment.value(QStringLiteral("DEBIAN_FRONTEND")),
+             QStringLiteral("noninteractive"));
+    const QStringList folders = environment.value(QStringLiteral("PATH")).split(QLatin1Char(':'));
+    for (const char *folder : {"/usr/sbin", "/sbin", "/usr/local/sbin", "/usr/bin"}) {
+        QCOMPARE(folders.count(QLatin1String(folder)), 1);
+    }
+    for (const QString &folder : folders) {
+        QVERIFY2(folder.startsWith(QLatin1Char('/')), qPrintable(folder));
+    }
+}
+
+void tst_RVInstallProc::hasNoTerminalAndNothingToRead()
+{
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), "package");
+    // The session's id is the shell's own process.
+    const RVPaths paths = installer("read -r line && echo \"read $line\"\n"
+                                    "ps -o sid= -p $$ | grep -qw $$ && echo own session\n"
+                                    "( : </dev/tty ) 2>/dev/null && echo terminal\n"
+                                    "exit 0");
+    RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
+                            QString(), nullptr, paths);
+    Report report(&procedure);
+    run(&procedure, &report);
+    QCOMPARE(procedure.readAllStandardOutput(), QByteArray("own session\n"));
 }
 
 void tst_RVInstallProc::namesOfTheMetaObject()
