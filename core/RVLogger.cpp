@@ -51,10 +51,9 @@ bool isRootsAlone(QByteArray folder)
 /// as a log on another file system. Empty for a link that somebody else may have planted.
 QByteArray targetOf(const QString &place)
 {
-    const QByteArray name = QFile::encodeName(place);
     struct stat info = {};
-    if (::lstat(name.constData(), &info) != 0 || !S_ISLNK(info.st_mode)) {
-        return name;
+    if (::lstat(QFile::encodeName(place).constData(), &info) != 0 || !S_ISLNK(info.st_mode)) {
+        return QFile::encodeName(place);
     }
     const QFileInfo link(place);
     const QString folder = QFileInfo(link.symLinkTarget()).dir().canonicalPath();
