@@ -41,17 +41,6 @@ QList<RVData> withArchiveOnce(const QList<RVData> &entries)
     return result;
 }
 
-/// The sum of two byte counts from a server, which may announce any number.
-qint64 boundedSum(qint64 a, qint64 b)
-{
-    using Limits = std::numeric_limits<qint64>;
-    qint64 sum = 0;
-    if (__builtin_add_overflow(a, b, &sum)) {
-        return b > 0 ? Limits::max() : Limits::min();
-    }
-    return sum;
-}
-
 /// The search path with the folders of the system's own tools, which an ordinary user's login
 /// leaves out. Relative folders would find what lies among the archives.
 QString searchPath()
