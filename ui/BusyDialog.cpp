@@ -3,6 +3,7 @@
 #include "ui/BusyDialog.h"
 
 #include "core/RVLogger.h"
+#include "install/RVInstallProc.h"
 #include "ui/RVDetailsBox.h"
 #include "ui/RVStyle.h"
 
@@ -331,6 +332,18 @@ void BusyDialog::showDetails()
 void BusyDialog::hideDetails()
 {
     setDetailsChecked(false);
+}
+
+void BusyDialog::follow(RVInstallProc *procedure)
+{
+    processOutputToDetails(procedure);
+    connect(procedure, &RVInstallProc::downloadProgress, this, &BusyDialog::progress);
+    connect(procedure, &RVInstallProc::extractFinished, this, &BusyDialog::disableCancel);
+    connect(procedure, &RVInstallProc::installStarted, this, &BusyDialog::enterInstallPhase);
+    connect(procedure, &QProcess::errorOccurred, this, &BusyDialog::processError);
+    connect(this, &BusyDialog::canceled, procedure, &RVInstallProc::cancel);
+    connect(this, &BusyDialog::canceled, this, &QWidget::hide);
+    connect(this, &BusyDialog::canceled, this, &QObject::deleteLater);
 }
 
 void BusyDialog::processOutputToDetails(QProcess *proc)

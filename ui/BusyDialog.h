@@ -17,12 +17,13 @@ class QProgressBar;
 class QPushButton;
 class QTextDocument;
 class QTextEdit;
+class RVInstallProc;
 
 /// Progress of a download and of the installation after it, with the installer's output on request.
 /// canceled() is its only signal, and comes at most once. Closing the dialog means Cancel while
 /// there is a Cancel button and nothing while there is none; after the end it closes, and deletes
-/// itself. The details hold the last 20,000 lines and two million characters of the output, in
-/// lines of at most a thousand: an installer can write for hours.
+/// itself. The details hold the last 20,000 lines and 2 Mi characters of the output, in lines of at
+/// most a thousand: an installer can write for hours.
 class BusyDialog : public QDialog
 {
     Q_OBJECT
@@ -34,6 +35,9 @@ public:
                QWidget *parent = nullptr, Qt::WindowFlags flags = {});
     ~BusyDialog() override;
 
+    /// Follows one installation, to which Cancel then goes; the dialog deletes itself at a Cancel.
+    /// Whoever started it says how it ends: finished(). Not owned.
+    void follow(RVInstallProc *procedure);
     /// Follows this process's output from now on instead of an earlier one's. Not owned.
     void processOutputToDetails(QProcess *proc);
     void setAutoReset(bool on);

@@ -264,23 +264,16 @@ void SelectionTable::install()
     dialog->setWindowModality(Qt::WindowModal);
     dialog->setAutoClose(false);
     dialog->setAutoReset(false);
-    connect(m_procedure, &RVInstallProc::extractFinished, dialog, &BusyDialog::disableCancel);
+    dialog->follow(m_procedure);
+    connect(this, &SelectionTable::installError, dialog, &BusyDialog::showDetails);
+    connect(this, &SelectionTable::installError, dialog, &BusyDialog::logContents);
+    connect(this, &SelectionTable::installFinished, dialog, &BusyDialog::finished);
     connect(m_procedure, &RVInstallProc::extractFinished, this, [this] {
         m_isRetrieving = false;
     });
-    connect(dialog, &BusyDialog::canceled, m_procedure, &RVInstallProc::cancel);
-    connect(dialog, &BusyDialog::canceled, dialog, &QWidget::hide);
-    connect(dialog, &BusyDialog::canceled, dialog, &QObject::deleteLater);
-    connect(this, &SelectionTable::installError, dialog, &BusyDialog::showDetails);
-    connect(this, &SelectionTable::installError, dialog, &BusyDialog::logContents);
-    connect(m_procedure, &QProcess::errorOccurred, dialog, &BusyDialog::processError);
-    connect(this, &SelectionTable::installFinished, dialog, &BusyDialog::finished);
-    connect(m_procedure, &RVInstallProc::downloadProgress, dialog, &BusyDialog::progress);
-    connect(m_procedure, &RVInstallProc::installStarted, dialog, &BusyDialog::enterInstallPhase);
     // After the dialog's: it has said what happened when relayProcessError() ends the installation.
     connect(m_procedure, &QProcess::errorOccurred, this, &SelectionTable::relayProcessError);
     dialog->show();
-    dialog->processOutputToDetails(m_procedure);
     m_procedure->start();
 }
 

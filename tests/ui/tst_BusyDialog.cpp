@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "core/RVLogger.h"
+#include "install/RVInstallProc.h"
 #include "tests/support/LogFile.h"
 #include "tests/support/WarningGuard.h"
 #include "tests/ui/Spoken.h"
@@ -587,6 +588,41 @@ private Q_SLOTS:
         dialog.showDetails();
         const QScrollBar *bar = parts.view->verticalScrollBar();
         QTRY_VERIFY_WITH_TIMEOUT(bar->maximum() > 0 && bar->value() == bar->maximum(), 5000);
+    }
+
+    void followsAnInstallation()
+    {
+        BusyDialog dialog;
+        dialog.setAutoReset(false);
+        const Parts parts(dialog);
+        RVInstallProc procedure({}, {}, {});
+        dialog.follow(&procedure);
+        Q_EMIT procedure.downloadProgress(KiB, 4 * KiB);
+        QCOMPARE(parts.bar->text(), QStringLiteral("1 of 4 KiB"));
+        Q_EMIT procedure.extractFinished();
+        QVERIFY(parts.cancel->isHidden());
+        Q_EMIT procedure.installStarted();
+        QCOMPARE(parts.label->text(), QStringLiteral("Installing updates..."));
+        procedure.setProgram(QStringLiteral("/nonexistent"));
+        procedure.QProcess::start();
+        QTRY_COMPARE(visibleText(parts), QStringLiteral("The process failed to start."));
+        QVERIFY(!parts.close->isHidden());
+    }
+
+    void cancelEndsTheInstallation()
+    {
+        const QPointer<BusyDialog> dialog = new BusyDialog;
+        RVInstallProc procedure({}, {}, {});
+        int ends = 0;
+        connect(&procedure, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
+                [&ends] {
+                    ++ends;
+                });
+        dialog->follow(&procedure);
+        dialog->show();
+        dialog->cancel();
+        QCOMPARE(ends, 1);
+        QTRY_VERIFY(!dialog);
     }
 
     void anotherProcess()
