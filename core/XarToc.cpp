@@ -9,6 +9,7 @@
 #include <QXmlStreamWriter>
 #include <QtEndian>
 
+#include <algorithm>
 #include <zlib.h>
 
 namespace
@@ -102,6 +103,47 @@ QByteArray innerText(QXmlStreamReader *reader, int depthLeft)
     return text;
 }
 
+/// Whether no tag has more attributes than any archiver writes: the reader compares each with all
+/// before it. False too for what the reader refuses anyway.
+bool isCheapToRead(const QByteArray &table)
+{
+    struct Section {
+        QByteArray begin;
+        QByteArray end;
+    };
+    static const QVector<Section> skipped{
+        {"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}, {"<!", {}}};
+    int at = 0;
+    while ((at = table.indexOf('<', at)) >= 0) {
+        const auto section =
+            std::find_if(skipped.cbegin(), skipped.cend(), [&](const Section &one) {
+                return qstrncmp(table.constData() + at, one.begin.constData(),
+                                static_cast<uint>(one.begin.size()))
+                    == 0;
+            });
+        if (section != skipped.cend()) {
+            at = section->end.isEmpty() ? -1
+                                        : table.indexOf(section->end, at + section->begin.size());
+            if (at < 0) {
+                return false;
+            }
+            continue;
+        }
+        int attributes = 0;
+        for (++at; at < table.size() && table.at(at) != '>'; ++at) {
+            const char quote = table.at(at);
+            if (quote != '"' && quote != '\'') {
+                continue;
+            }
+            at = table.indexOf(quote, at + 1);
+            if (at < 0 || ++attributes > XarToc::maxAttributes) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 bool XarToc::read(QIODevice *source)
@@ -121,6 +163,9 @@ bool XarToc::read(QIODevice *source)
 
 bool XarToc::parse(const QByteArray &table)
 {
+    if (!isCheapToRead(table)) {
+        return false;
+    }
     QXmlStreamReader reader(table);
     reader.setNamespaceProcessing(false);
     struct Member {
@@ -139,6 +184,9 @@ bool XarToc::parse(const QByteArray &table)
                 return false;
             }
             if (depth == 2 && reader.name() == QLatin1String("subdoc")) {
+                if (m_subdocuments.size() >= maxSubdocuments) {
+                    return false;
+                }
                 m_subdocuments.append(innerText(&reader, maxDepth - depth));
                 --depth;
             } else if (reader.name() == QLatin1String("file")) {

@@ -17,6 +17,9 @@ public:
     /// descriptors take no larger document either.
     static constexpr int maxBytes = 16 * 1024 * 1024;
     static constexpr int maxDepth = 256;
+    /// Of one element; and of the subdocuments, one of which describes an update.
+    static constexpr int maxAttributes = 256;
+    static constexpr int maxSubdocuments = 1000;
     /// The longest path that the system takes.
     static constexpr int maxPath = 4096;
 

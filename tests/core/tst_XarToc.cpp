@@ -207,6 +207,34 @@ void tst_XarToc::refuses_data()
     XarWriter root;
     root.root = "rax";
     QTest::newRow("another root") << root.archive();
+    const QByteArray tooMany = [] {
+        QByteArray element = "<a";
+        for (int i = 0; i <= XarToc::maxAttributes; ++i) {
+            element += " n" + QByteArray::number(i) + "='\"'";
+        }
+        return element + "/>";
+    }();
+    QTest::newRow("too many attributes") << withTable(tooMany);
+    // What would hide them from a pass that does not know where tags begin.
+    QTest::newRow("behind a comment with a quote") << withTable("<!-- ' -->" + tooMany);
+    QTest::newRow("behind a section with a quote") << withTable("<![CDATA[ \" ]]>" + tooMany);
+    QTest::newRow("behind an instruction with a quote") << withTable("<?x ' ?>" + tooMany);
+    QTest::newRow("behind a sign in a value") << withTable("<b c='>'/>" + tooMany);
+    QByteArray attributes = "<a";
+    for (int i = 0; i < 200000; ++i) {
+        attributes += " n" + QByteArray::number(i) + "=''";
+    }
+    QTest::newRow("200,000 attributes") << withTable(attributes + "/>");
+    XarWriter attributesInside;
+    attributesInside.addSubdocument(tooMany);
+    QTest::newRow("too many attributes in a subdocument") << attributesInside.archive();
+    for (const int count : {XarToc::maxSubdocuments + 1, 300000}) {
+        XarWriter writer;
+        for (int i = 0; i < count; ++i) {
+            writer.addSubdocument({});
+        }
+        QTest::addRow("%d subdocuments", count) << writer.archive();
+    }
     QTest::newRow("member without a name") << withTable("<file></file>");
     QTest::newRow("member with two names")
         << withTable("<file><name>a</name><name>b</name></file>");
