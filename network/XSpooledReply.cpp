@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 namespace
@@ -45,6 +46,22 @@ bool writeAt(int file, const char *data, qint64 size, qint64 position)
         position += written;
     }
     return true;
+}
+
+/// Whether the file system keeps a reserve: bodies that never end fill it otherwise, and with it
+/// whatever else lives there.
+bool leavesRoom(int file, qint64 size)
+{
+    constexpr qint64 largestReserve = qint64(64) << 20;
+    constexpr int shareOfReserve = 20;
+    struct statvfs info = {};
+    if (::fstatvfs(file, &info) != 0 || info.f_blocks == 0) {
+        return true; // it does not tell
+    }
+    const auto block = static_cast<qint64>(info.f_frsize);
+    const qint64 reserve =
+        qMin(largestReserve, static_cast<qint64>(info.f_blocks) / shareOfReserve * block);
+    return static_cast<qint64>(info.f_bavail) * block - size >= reserve;
 }
 
 } // namespace
@@ -245,6 +262,9 @@ bool XSpooledReply::store(const QByteArray &data)
     }
     if (m_file < 0) {
         m_memory.append(data);
+    } else if (!leavesRoom(m_file, data.size())) {
+        errno = ENOSPC;
+        return false;
     } else if (!writeAt(m_file, data.constData(), data.size(), m_writePosition)) {
         return false;
     }
@@ -269,6 +289,10 @@ bool XSpooledReply::openFile()
             return false;
         }
         ::unlink(name.constData());
+    }
+    if (!leavesRoom(m_file, m_memory.size())) {
+        errno = ENOSPC;
+        return false;
     }
     if (!writeAt(m_file, m_memory.constData(), m_memory.size(), 0)) {
         return false;

@@ -12,11 +12,16 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <csignal>
 #include <limits>
 #include <memory>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <vector>
 
 namespace
 {
@@ -220,6 +225,42 @@ private Q_SLOTS:
         QCOMPARE(record.events.mid(2),
                  QStringList({QStringLiteral("error 99"), QStringLiteral("finished")}));
         QCOMPARE(reply.stops, 1);
+    }
+
+    // Many of them at a time fill the disk together, but for the reserve.
+    void bodiesThatNeverEndLeaveAReserve()
+    {
+        if (::geteuid() != 0 || ::unshare(CLONE_NEWNS) != 0
+            || ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) {
+            QSKIP("mounting is not allowed here");
+        }
+        QTemporaryDir directory;
+        const QByteArray place = QFile::encodeName(directory.path());
+        QCOMPARE(::mount("tmpfs", place.constData(), "tmpfs", 0, "size=100m"), 0);
+        const QByteArray before = qgetenv("TMPDIR");
+        qputenv("TMPDIR", place);
+        std::vector<std::unique_ptr<Reply>> replies;
+        for (int i = 0; i < 100; ++i) {
+            replies.push_back(std::make_unique<Reply>());
+        }
+        for (int piece = 0; piece < 2; ++piece) {
+            for (const auto &reply : replies) {
+                if (reply->error() == QNetworkReply::NoError) {
+                    reply->append(pattern(0, mebibyte), -1);
+                }
+            }
+        }
+        qputenv("TMPDIR", before);
+        struct statvfs info = {};
+        QCOMPARE(::statvfs(place.constData(), &info), 0);
+        const auto failed = std::count_if(replies.cbegin(), replies.cend(), [](const auto &reply) {
+            return reply->error() == QNetworkReply::UnknownNetworkError;
+        });
+        QVERIFY(failed > 0);
+        QVERIFY(failed < 100);
+        QVERIFY(info.f_bavail >= info.f_blocks / 20);
+        replies.clear();
+        QCOMPARE(::umount(place.constData()), 0);
     }
 
     void missingDirectoryEndsIt()
