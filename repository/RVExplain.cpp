@@ -7,12 +7,13 @@
 #include "repository/RVFilter.h"
 #include "repository/RVRepository.h"
 
-#include <QHash>
+#include <QMap>
 
 QList<RVVerdict> explain(const RVRepository &repository, const OSInfoBaseClass &system,
                          bool filterSps)
 {
-    QHash<QUrl, RVVerdict> byArchive;
+    // Ordered: addresses that share one hash would make it quadratic.
+    QMap<QUrl, RVVerdict> byArchive;
     const QList<RVData> &entries = repository.entries();
     for (int i = 0; i < entries.size(); ++i) {
         const RVVerdict verdict{entries.at(i).archiveUrl(),

@@ -4,7 +4,7 @@
 
 #include "core/RVOrigin.h"
 
-#include <QHash>
+#include <QMap>
 #include <QRegularExpression>
 
 namespace
@@ -26,7 +26,8 @@ QUrl urlOfName(const QString &name)
 
 bool isFound(const QRegExp &pattern, const XUrlInfo &item)
 {
-    return !item.isDir() && pattern.indexIn(item.name()) != -1;
+    return !item.isDir() && item.name().size() <= RVFilter::longestName
+        && pattern.indexIn(item.name()) != -1;
 }
 
 /// The files that describe the archives of one core name: what an archive takes is the first of
@@ -131,7 +132,8 @@ void RVFilter::filterList(const QList<XUrlInfo> &listing, QList<RVData> &entries
         return;
     }
 
-    QHash<QString, Candidates> candidates;
+    // Ordered: names that share one hash would make it quadratic.
+    QMap<QString, Candidates> candidates;
     for (const XUrlInfo &item : listing) {
         if (isFound(m_descriptor, item) && !isForeign(item.name())) {
             candidates[corename(item.name(), m_descriptor)].add(item.name());

@@ -17,6 +17,9 @@ class RVFilter : public QObject
     Q_OBJECT
 
 public:
+    /// A longer name matches no pattern: some patterns take minutes to say no.
+    static constexpr int longestName = 4096;
+
     RVFilter(const QRegExp &archive, const QRegExp &descriptor, QObject *parent = nullptr);
     RVFilter(const QString &archive, const QString &descriptor, QObject *parent = nullptr);
     RVFilter(const RVFilter &other);

@@ -127,6 +127,7 @@ private Q_SLOTS:
     void pairs();
     void keepsAwkwardNames_data();
     void keepsAwkwardNames();
+    void veryLongNamesMatchNothing();
     void replacesFormerEntries();
     void equalsTheNestedScan_data();
     void equalsTheNestedScan();
@@ -296,6 +297,23 @@ void tst_RVFilter::keepsAwkwardNames()
     QCOMPARE(pairs[0].first, url);
     QCOMPARE(pairs[0].second, url);
     QTEST(QUrl(QStringLiteral("http://h/r/")).resolved(pairs[0].first), "resolved");
+}
+
+void tst_RVFilter::veryLongNamesMatchNothing()
+{
+    const auto item = [](int length) {
+        XUrlInfo result;
+        result.setName(QString(length - 4, QLatin1Char('a')) + QStringLiteral(".deb"));
+        return result;
+    };
+    // Of this pattern each character of a name may be the first: the time is quadratic.
+    const RVFilter filter(QStringLiteral(".*\\.deb$"), QStringLiteral(".*\\.deb$"));
+    QList<RVData> entries;
+    filter.filterList({item(RVFilter::longestName), item(RVFilter::longestName + 1), item(200000)},
+                      entries);
+    QCOMPARE(entries.size(), 1);
+    QVERIFY(filter.selects(item(RVFilter::longestName)));
+    QVERIFY(!filter.selects(item(RVFilter::longestName + 1)));
 }
 
 void tst_RVFilter::replacesFormerEntries()
