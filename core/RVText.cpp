@@ -58,6 +58,22 @@ QString RVText::safeLines(const QString &text)
     return visible(text, true);
 }
 
+QString RVText::shown(const QString &text)
+{
+    constexpr uint zeroWidthNonJoiner = 0x200c;
+    constexpr uint zeroWidthJoiner = 0x200d;
+    QVector<uint> result;
+    for (const uint character : text.toUcs4()) {
+        if (isVisible(character) || character == '\t' || character == zeroWidthNonJoiner
+            || character == zeroWidthJoiner) {
+            result.append(character);
+        } else if (QChar::category(character) != QChar::Other_Format) {
+            result.append(' ');
+        }
+    }
+    return QString::fromUcs4(result.constData(), result.size());
+}
+
 QString RVText::shortened(const QString &text, int length)
 {
     if (text.size() <= length) {

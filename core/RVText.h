@@ -15,6 +15,10 @@ bool isVisible(uint character);
 QString safe(const QString &text);
 /// The same for each line of a text of several lines.
 QString safeLines(const QString &text);
+/// For a window: without the characters that turn the order of what follows around, hide it, or
+/// have no width, so that two names that look the same are the same. What joins letters stays, and
+/// a control character but a tabulator is a blank.
+QString shown(const QString &text);
 /// At most `length` characters, the last of them an ellipsis when something is left out.
 QString shortened(const QString &text, int length);
 

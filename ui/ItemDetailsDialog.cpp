@@ -3,6 +3,7 @@
 #include "ui/ItemDetailsDialog.h"
 
 #include "core/ByteSize.h"
+#include "core/RVText.h"
 #include "core/RVUrl.h"
 #include "descriptor/DataXML.h"
 #include "descriptor/DescriptorGeneric.h"
@@ -33,7 +34,7 @@ constexpr int maximumUnbroken = 60;
 
 QString shortened(const QString &text, int length)
 {
-    return text.size() <= length ? text : text.left(length) + QChar(0x2026);
+    return RVText::shown(RVText::shortened(text, length));
 }
 
 // As text in a rich-text label, which breaks lines at blanks only: a long run without one gets

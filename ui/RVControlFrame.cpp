@@ -4,6 +4,7 @@
 
 #include "core/OSInfoBaseClass.h"
 #include "core/RVOrigin.h"
+#include "core/RVText.h"
 #include "core/RVUrl.h"
 #include "repository/RVEligibility.h"
 #include "repository/RVRepository.h"
@@ -35,8 +36,7 @@ QPushButton *actionButton(const QIcon &icon = {})
 
 QString shown(const QString &place)
 {
-    return (place.size() <= longestLocation ? place : place.left(longestLocation) + QChar(0x2026))
-        .toHtmlEscaped();
+    return RVText::shown(RVText::shortened(place, longestLocation)).toHtmlEscaped();
 }
 
 QLabel *richLabel()

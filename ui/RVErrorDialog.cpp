@@ -3,6 +3,7 @@
 #include "ui/RVErrorDialog.h"
 
 #include "core/RVLogger.h"
+#include "core/RVText.h"
 #include "core/RVUrl.h"
 #include "network/XNetworkError.h"
 
@@ -14,6 +15,7 @@
 namespace
 {
 
+constexpr int longestUrl = 500;
 constexpr int maximumWaiting = 20;
 
 } // namespace
@@ -30,7 +32,10 @@ RVErrorDialog::~RVErrorDialog() = default;
 
 void RVErrorDialog::showNetworkError(const QNetworkReply *reply)
 {
-    const QString text = messageFor(qt4Error(reply->error()), RVUrl::shown(reply->url()));
+    // A page may link a name of any length, which a label takes minutes to lay out.
+    const QString text =
+        messageFor(qt4Error(reply->error()),
+                   RVText::shown(RVText::shortened(RVUrl::shown(reply->url()), longestUrl)));
     if (text.isEmpty()) {
         return;
     }

@@ -4,6 +4,7 @@
 
 #include "core/OSInfoBaseClass.h"
 #include "core/RVLogger.h"
+#include "core/RVText.h"
 #include "descriptor/DataXML.h"
 #include "install/RVInstallProc.h"
 #include "ui/BusyDialog.h"
@@ -33,7 +34,7 @@ constexpr int referenceLine = 22;
 // Names, titles and versions come from a server: what is shown of them is bounded.
 QString shown(const QString &text)
 {
-    return text.size() <= longestText ? text : text.left(longestText) + QChar(0x2026);
+    return RVText::shown(RVText::shortened(text, longestText));
 }
 
 // Tells a screen reader what is chosen or not; its own text is empty.

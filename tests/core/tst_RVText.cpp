@@ -12,6 +12,8 @@ private Q_SLOTS:
     void safe_data();
     void safe();
     void linesStayLines();
+    void shown_data();
+    void shown();
     void shortened();
 };
 
@@ -54,6 +56,46 @@ void tst_RVText::safe()
 void tst_RVText::linesStayLines()
 {
     QCOMPARE(RVText::safeLines(QStringLiteral("a\nb\rc")), QStringLiteral("a\nb\\u000dc"));
+}
+
+void tst_RVText::shown_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char *title, const char *text, const char *expected) {
+        QTest::newRow(title) << QString::fromUtf8(text) << QString::fromUtf8(expected);
+    };
+    row("plain", "tc-browser 1.0", "tc-browser 1.0");
+    row("its twin by an override", "tc-\xe2\x80\xaeresworb", "tc-resworb");
+    row("isolates and marks",
+        "a\xe2\x81\xa6"
+        "b\xe2\x81\xa9"
+        "c\xe2\x80\x8f"
+        "d\xd8\x9c",
+        "abcd");
+    row("no width",
+        "a\xe2\x80\x8b"
+        "b\xc2\xad"
+        "c\xef\xbb\xbf",
+        "abc");
+    row("tag character",
+        "a\xf3\xa0\x81\x81"
+        "b",
+        "ab");
+    row("what joins letters", "\xd9\x85\xe2\x80\x8c\xd9\x86\xe2\x80\x8d",
+        "\xd9\x85\xe2\x80\x8c\xd9\x86\xe2\x80\x8d");
+    row("right to left", "\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d", "\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d");
+    row("controls and separators",
+        "a\nb\tc\xe2\x80\xa8"
+        "d",
+        "a b\tc d");
+}
+
+void tst_RVText::shown()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, expected);
+    QCOMPARE(RVText::shown(text), expected);
 }
 
 void tst_RVText::shortened()
