@@ -31,12 +31,18 @@ bool isRemote(const QUrl &url)
     return !url.isRelative() && !url.isLocalFile();
 }
 
-/// NAME, or NAME=VERSION.
+/// NAME, or NAME=VERSION, where NAME is the one that is shown or, in every language, the English
+/// one.
 bool isNamed(const RVCtlOffers::Entry &entry, const QString &argument)
 {
-    return entry.description
-        && (entry.name() == argument
-            || entry.name() + QLatin1Char('=') + entry.version() == argument);
+    if (!entry.description) {
+        return false;
+    }
+    const QString english = DataXML::plainText(entry.description->name(QStringLiteral("en")));
+    const QStringList names{entry.name(), english};
+    return std::any_of(names.cbegin(), names.cend(), [&](const QString &name) {
+        return argument == name || argument == name + QLatin1Char('=') + entry.version();
+    });
 }
 
 } // namespace

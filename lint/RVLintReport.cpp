@@ -132,7 +132,7 @@ const QVector<RVLintRule> &RVLintRule::all()
          "It never counts as installed, and nothing can refer to it."},
         {K::NamePerLanguage, "name-per-language", warning,
          "The name of the update differs between languages",
-         "Whether it is installed is asked for the name in the running language."},
+         "The English name decides whether it counts as installed."},
         {K::NoUpdateTitle, "descriptor-no-title", warning, "The update has no title",
          "Its row shows the name alone."},
         {K::NoVersion, "descriptor-no-version", error, "The update has no version",

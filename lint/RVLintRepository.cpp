@@ -63,9 +63,11 @@ QRegExp compiled(const QString &pattern)
     return QRegExp(pattern, Qt::CaseSensitive, QRegExp::RegExp);
 }
 
+/// The one that decides whether the update is installed.
 QString nameOf(const RVData &entry)
 {
-    return entry.descriptor() ? DataXML::plainText(entry.descriptor()->name({})) : QString();
+    return entry.descriptor() ? DataXML::plainText(entry.descriptor()->name(QStringLiteral("en")))
+                              : QString();
 }
 
 QString versionOf(const RVData &entry)

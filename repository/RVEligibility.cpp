@@ -46,8 +46,12 @@ bool holds(const QStringList &list, const QString &installed)
     return list.contains(all()) || list.contains(installed);
 }
 
-bool isInstalled(const QString &name, const QList<VersionString> &servicePacks)
+/// What a pack is called in the files of the system: its English name, whatever language is running
+/// (ADR 46), and any other only where there is none.
+bool isInstalled(const DescriptorGeneric &descriptor, const QList<VersionString> &servicePacks)
 {
+    const QString english = descriptor.name(QStringLiteral("en"));
+    const QString name = english.isEmpty() ? descriptor.name(QString()) : english;
     return std::any_of(servicePacks.rbegin(), servicePacks.rend(), [&](const VersionString &pack) {
         return pack.toString() == name;
     });
@@ -67,7 +71,7 @@ RVEligibility eligibilityByFields(const RVData &entry, const OSInfoBaseClass &sy
     if (!holds(descriptor->thinClientList(), system.thinClient())) {
         return RVEligibility::OtherThinClient;
     }
-    if (filterSps && isInstalled(descriptor->name(QString()), system.servicePackList())) {
+    if (filterSps && isInstalled(*descriptor, system.servicePackList())) {
         return RVEligibility::ServicePackInstalled;
     }
     return RVEligibility::Offered;

@@ -80,6 +80,16 @@ mkdir -p -- "$work/hostile"
 printf '<update_data><name>bad%sname</name><title>t\xe2\x80\xaeegral\xc2\x9b1m&#27;[31m\nsecond line</title><version>1</version><thin_client>all</thin_client><notes>n &#7; \xe2\x80\xae</notes></update_data>' \
   '&#27;]0;owned&#7;' > "$work/hostile/a.xml"
 define k_hostile "file://$work/hostile"
+# Names in two languages, the English one that of an installed pack and of a package.
+mkdir -p -- "$work/named"
+cp -- "$work/world/repos/packages/"tc-audio_* "$work/named"
+sed -i 's,<name>tc-audio</name>,&<name xml:lang="de">Ton</name>,' "$work/named/"*.xml
+: > "$work/named/pack.xar"
+printf '<update_data><name>SP-6.1.2-1</name><name xml:lang="de">Paket 1</name><version>1</version><thin_client>all</thin_client></update_data>' \
+  > "$work/named/pack.xml"
+define m_named "file://$work/named"
+define n_packs "file://$work/named"
+sed -i 's,\.deb,.xar,; s,<filter_pattern>,<filter_sps>yes</filter_sps>&,' "$definitions/n_packs.xml"
 define l_ftp "ftp://127.0.0.1:$(port ftp)/packages/"
 printf 'secret\n' > "$work/password"
 printf 'wrong\n' > "$work/wrong"
@@ -93,12 +103,13 @@ failures=0
 wrong=0
 
 # run EXIT_CODE FILTER ARGUMENT...: the program has to end so, and its only output has to be one
-# document that the filter accepts.
+# document that the filter accepts. With language=LOCALE before it, in that language.
 run()
 {
   local expected=$1 filter=$2 status=0 verdict=ok
   shift 2
-  timeout --kill-after=5 30 "$ravelctl" --json "$@" >"$work/out" 2>"$work/err" || status=$?
+  timeout --kill-after=5 30 env LC_ALL="${language:-$LC_ALL}" \
+    "$ravelctl" --json "$@" >"$work/out" 2>"$work/err" || status=$?
   [ "$status" -eq "$expected" ] || verdict="exit code $status, not $expected"
   if ! jq -es 'length == 1 and (.[0] | has("error"))' "$work/out" >/dev/null; then
     verdict="not one document"
@@ -147,7 +158,7 @@ state()
 {
   (
     cd "$work"
-    find world home definitions hostile pipes -printf '%p %y %m %s %T@ %l\n' | sort
+    find world home definitions hostile named pipes -printf '%p %y %m %s %T@ %l\n' | sort
     # Packages that describe themselves pass through it.
     find tmp -mindepth 1
     find world home -type f -print0 | sort -z | xargs -0 sha256sum
@@ -239,6 +250,12 @@ remote_run 8 '[.repositories[].error == null] == [true, false, true]' list a_pla
 remote_run 0 '[.repositories[].entries | length] == [5, 5]' list a_plain i_local
 remote_run 0 '.repositories[0].archives | length == 1 and .[0].reason == "no-descriptor"' explain j_pipes
 remote_run 0 '.repositories[0].entries[0].name | contains("\u001b")' list k_hostile
+language=de_DE.UTF-8 remote_run 0 '[.repositories[].entries[].name] == ["Ton"]' list m_named n_packs
+language=de_DE.UTF-8 remote_run 0 '.repositories[0].archives[0].reason == "service-pack-installed"' explain n_packs
+language=de_DE.UTF-8 remote_run 0 '.name == "Ton"' details m_named Ton
+language=de_DE.UTF-8 remote_run 0 '.name == "Ton"' details m_named tc-audio
+language=de_DE.UTF-8 remote_run 1 '[.findings[].kind] | index("name-per-language") != null and index("package-name-differs") == null' lint m_named
+remote_run 2 '.error.code == 2' details m_named Ton
 remote_run 1 '[.findings[] | select(.line == 2) | .kind] == ["descriptor-no-thin-client"]' lint a_plain
 remote_run 3 '.repositories[0].error.code == 203' lint f_missing
 remote_run 3 '.error.code == 3' plan f_missing

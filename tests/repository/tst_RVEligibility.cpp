@@ -37,11 +37,22 @@ public:
     void refresh() override { }
 };
 
+RVData entryOfXml(const QString &elements)
+{
+    const RVData entry(QUrl(QStringLiteral("http://h/a.deb")),
+                       QUrl(QStringLiteral("http://h/a.xml")));
+    QBuffer document;
+    document.setData("<update_data>" + elements.toUtf8() + "</update_data>");
+    document.open(QIODevice::ReadOnly);
+    entry.descriptor()->read(&document);
+    return entry;
+}
+
 /// An entry whose descriptor holds these elements, each text as it stands in XML.
 RVData entryOf(const QStringList &bases, const QStringList &architectures,
                const QStringList &models, const QString &name = QStringLiteral("SP1"))
 {
-    QString xml = QStringLiteral("<update_data><name>%1</name>").arg(name);
+    QString xml = QStringLiteral("<name>%1</name>").arg(name);
     const auto add = [&](const QString &tag, const QStringList &texts) {
         for (const QString &text : texts) {
             xml += QStringLiteral("<%1>%2</%1>").arg(tag, text);
@@ -50,14 +61,7 @@ RVData entryOf(const QStringList &bases, const QStringList &architectures,
     add(QStringLiteral("base_releases"), bases);
     add(QStringLiteral("architecture"), architectures);
     add(QStringLiteral("thin_client"), models);
-    xml += QStringLiteral("</update_data>");
-    const RVData entry(QUrl(QStringLiteral("http://h/a.deb")),
-                       QUrl(QStringLiteral("http://h/a.xml")));
-    QBuffer document;
-    document.setData(xml.toUtf8());
-    document.open(QIODevice::ReadOnly);
-    entry.descriptor()->read(&document);
-    return entry;
+    return entryOfXml(xml);
 }
 
 /// An entry whose descriptor was never read: every list is empty.
@@ -87,6 +91,8 @@ private Q_SLOTS:
     void thinClients();
     void servicePacks_data();
     void servicePacks();
+    void servicePackNames_data();
+    void servicePackNames();
     void firstFailureCounts();
     void entryWithoutDescriptorIsNeverOffered();
     void unreadEntryIsNeverOffered();
@@ -269,6 +275,42 @@ void tst_RVEligibility::servicePacks()
     system.packs = packs;
     QCOMPARE(eligibility(entryOf({}, anything, anything), system, filterSps),
              fits ? RVEligibility::Offered : RVEligibility::ServicePackInstalled);
+}
+
+void tst_RVEligibility::servicePackNames_data()
+{
+    QTest::addColumn<QString>("names");
+    QTest::addColumn<QString>("pack");
+    QTest::addColumn<bool>("fits");
+    const auto row = [](const char *title, const char *names, const char *pack, bool fits) {
+        QTest::newRow(title) << QString::fromLatin1(names) << QString::fromLatin1(pack) << fits;
+    };
+    const char both[] = "<name>SP1</name><name xml:lang='de'>Paket 1</name>";
+    row("English one installed", both, "SP1", false);
+    row("German one installed", both, "Paket 1", true);
+    row("German one first", "<name xml:lang='de'>Paket 1</name><name>SP1</name>", "SP1", false);
+    row("another language", "<name>SP1</name><name xml:lang='fr'>Paquet 1</name>", "SP1", false);
+    row("no English one", "<name xml:lang='de'>Paket 1</name>", "Paket 1", false);
+    row("no name", "", "SP1", true);
+}
+
+// The system's files know one name, whatever the window's language.
+void tst_RVEligibility::servicePackNames()
+{
+    QFETCH(QString, names);
+    QFETCH(QString, pack);
+    QFETCH(bool, fits);
+    TestSystem system;
+    system.packs = QStringList(pack);
+    const RVData entry = entryOfXml(
+        names + QStringLiteral("<architecture>all</architecture><thin_client>all</thin_client>"));
+    const QLocale before;
+    for (const QLocale &running : {QLocale(QLocale::German), QLocale(QLocale::English)}) {
+        QLocale::setDefault(running);
+        const RVEligibility reason = eligibility(entry, system, true);
+        QLocale::setDefault(before);
+        QCOMPARE(reason, fits ? RVEligibility::Offered : RVEligibility::ServicePackInstalled);
+    }
 }
 
 void tst_RVEligibility::firstFailureCounts()
