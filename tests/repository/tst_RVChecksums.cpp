@@ -230,7 +230,8 @@ void tst_RVChecksums::fitsSha256sum()
     list.serial = 1;
     QProcess process;
     process.setWorkingDirectory(directory.path());
-    for (const char *name : {"plain", "a b", " blank", "back\\slash", "line\nfeed", "\xc3\xa4", "*"}) {
+    for (const char *name :
+         {"plain", "a b", " blank", "back\\slash", "line\nfeed", "\xc3\xa4", "*"}) {
         QFile file(directory.path() + QLatin1Char('/') + QFile::decodeName(name));
         QVERIFY(file.open(QIODevice::WriteOnly));
         QVERIFY(file.write(name) > 0);
