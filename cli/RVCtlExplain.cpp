@@ -40,6 +40,10 @@ QString sentence(RVEligibility reason, const DescriptorGeneric &descriptor,
         return QStringLiteral("no descriptor of the same core name");
     case RVEligibility::ForeignLink:
         return QStringLiteral("the listing links it where it must not lead");
+    case RVEligibility::NotListed:
+        return QStringLiteral("not in the section's list of sums, or not in its folder");
+    case RVEligibility::OtherDescriptor:
+        return QStringLiteral("its descriptor is not the file that the list of sums has");
     case RVEligibility::UnreadableDescriptor:
         return QStringLiteral("its descriptor cannot be read");
     case RVEligibility::OtherBaseRelease:

@@ -325,6 +325,10 @@ QString reasonWord(RVEligibility reason)
         return QStringLiteral("no-descriptor");
     case RVEligibility::ForeignLink:
         return QStringLiteral("foreign-link");
+    case RVEligibility::NotListed:
+        return QStringLiteral("not-listed");
+    case RVEligibility::OtherDescriptor:
+        return QStringLiteral("other-descriptor");
     case RVEligibility::UnreadableDescriptor:
         return QStringLiteral("unreadable-descriptor");
     case RVEligibility::OtherBaseRelease:

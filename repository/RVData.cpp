@@ -3,6 +3,7 @@
 #include "repository/RVData.h"
 
 #include "core/RVLogger.h"
+#include "repository/RVTrust.h"
 
 namespace
 {
@@ -34,6 +35,7 @@ RVData::RVData(const QUrl &archive, const QUrl &descriptor, QObject *parent, con
 // A copy has no parent: it lives in a list, which deletes it.
 RVData::RVData(const RVData &other)
     : QObject(nullptr)
+    , trust(other.trust)
     , m_archiveUrl(other.m_archiveUrl)
     , m_descriptorUrl(other.m_descriptorUrl)
     , m_descriptor(other.m_descriptor)
@@ -43,6 +45,7 @@ RVData::RVData(const RVData &other)
 
 RVData &RVData::operator=(const RVData &other)
 {
+    trust = other.trust;
     m_archiveUrl = other.m_archiveUrl;
     m_descriptorUrl = other.m_descriptorUrl;
     m_descriptor = other.m_descriptor;

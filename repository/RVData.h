@@ -10,6 +10,8 @@
 #include <QSharedPointer>
 #include <QUrl>
 
+class RVTrust;
+
 /// One update entry: where its archive and its descriptor are, and the objects that handle them.
 /// A value: copies share both objects.
 class RVData : public QObject
@@ -30,6 +32,10 @@ public:
     const QSharedPointer<ArchiveGeneric> &archive() const { return m_archive; }
     /// For entries whose descriptor was lost; every reader has to cope with a null one.
     void clearDescriptor() { m_descriptor.clear(); }
+
+    /// What both files are held against before they are used; null where the definition asks for
+    /// nothing. Written by the repository.
+    QSharedPointer<RVTrust> trust;
 
     /// Equal URLs; the shared objects take no part.
     bool operator==(const RVData &other) const;

@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "repository/RVDescFetch.h"
 
+#include "core/LocalCopy.h"
 #include "core/RVLogger.h"
 #include "descriptor/DescriptorXML.h"
 #include "descriptor/XmlCheck.h"
 #include "network/XHttpReply.h"
 #include "network/XNetworkAccessManager.h"
+#include "repository/RVTrust.h"
 
 #include <QAuthenticator>
+#include <QBuffer>
 
 #include <algorithm>
 #include <utility>
@@ -109,8 +112,15 @@ void RVDescFetch::start(const RVData &entry)
     auto *manager = new XNetworkAccessManager(this);
     access.configure(manager, url);
     connect(manager, &QNetworkAccessManager::finished, this, &RVDescFetch::descriptorArrived);
-    connect(manager, &QNetworkAccessManager::finished, descriptor,
-            qOverload<QNetworkReply *>(&DescriptorGeneric::read));
+    if (entry.trust) {
+        connect(manager, &QNetworkAccessManager::finished, descriptor,
+                [this, entry](QNetworkReply *reply) {
+                    readListed(entry, reply);
+                });
+    } else {
+        connect(manager, &QNetworkAccessManager::finished, descriptor,
+                qOverload<QNetworkReply *>(&DescriptorGeneric::read));
+    }
     connect(descriptor, &DescriptorGeneric::readFinished, this, &RVDescFetch::readFinished);
     connect(manager, &QNetworkAccessManager::finished, this, &RVDescFetch::deleteSenderLater);
     connect(manager, &QNetworkAccessManager::authenticationRequired, this,
@@ -119,7 +129,7 @@ void RVDescFetch::start(const RVData &entry)
             &RVDescFetch::relayProxyAuthenticationRequired);
     connect(manager, &QNetworkAccessManager::sslErrors, this, &RVDescFetch::relaySslErrors);
 
-    QNetworkReply *reply = manager->get(QNetworkRequest(access.withLogin(url)));
+    QNetworkReply *reply = manager->get(RVTrust::request(access.withLogin(url), isFresh));
     if (reply->error() == QNetworkReply::NoError) {
         m_fetches.insert(descriptor, reply);
         connect(reply, &QNetworkReply::errorOccurred, this, &RVDescFetch::relayNetworkError);
@@ -140,6 +150,23 @@ void RVDescFetch::start(const RVData &entry)
         manager->deleteLater();
         reply->deleteLater();
     }
+}
+
+// The file that is hashed is the one that is read.
+void RVDescFetch::readListed(const RVData &entry, QNetworkReply *reply)
+{
+    LocalCopy copy;
+    if (reply->error() == QNetworkReply::NoError && copy.take(reply)) {
+        const RVTrustFault fault = entry.trust->judge(entry.descriptorUrl(), copy.file());
+        if (!fault.isSet()) {
+            entry.descriptor()->read(copy.file());
+            return;
+        }
+        RVLogger().log(3, "%s", RVLogger::oneLine(fault.text).constData());
+        m_unfit.append(entry.descriptorUrl());
+    }
+    QBuffer nothing;
+    entry.descriptor()->read(&nothing);
 }
 
 void RVDescFetch::endFetch(DescriptorGeneric *descriptor)

@@ -31,10 +31,14 @@ public:
     RVAccess access;
     QString &proxyHost = access.proxyHost;
     int &proxyPort = access.proxyPort;
+    /// Whether caches on the way are passed over.
+    bool isFresh = false;
 
     /// True between fetchAll() and finished(). False right after fetchAll() means that finished()
     /// has been emitted, or, where every entry failed at once, that it will not be.
     bool isActive() const { return m_active; }
+    /// Descriptors that came and were not read, since they are not the ones that their list has.
+    const QList<QUrl> &unfit() const { return m_unfit; }
 
 public Q_SLOTS:
     /// Starts the downloads in order, each through a manager of its own,
@@ -69,12 +73,14 @@ private:
 
     bool startWaiting();
     void start(const RVData &entry);
+    void readListed(const RVData &entry, QNetworkReply *reply);
     void endFetch(DescriptorGeneric *descriptor);
     Replies takeFetches();
 
     QList<RVData> m_entries;
     /// What is in flight. Entries from m_next on wait.
     QMap<DescriptorGeneric *, QNetworkReply *> m_fetches;
+    QList<QUrl> m_unfit;
     int m_next = 0;
     bool m_active = false;
 };

@@ -4,6 +4,7 @@
 
 #include "core/RVLogger.h"
 #include "core/RVPattern.h"
+#include "repository/RVTrust.h"
 
 #include <algorithm>
 
@@ -84,6 +85,9 @@ RVEligibility eligibility(const RVData &entry, const OSInfoBaseClass &system, bo
     const auto &descriptor = entry.descriptor();
     if (!descriptor) {
         return RVEligibility::NoDescriptor;
+    }
+    if (entry.trust && entry.trust->isRefused(entry.descriptorUrl())) {
+        return RVEligibility::OtherDescriptor;
     }
     const RVEligibility reason = eligibilityByFields(entry, system, filterSps);
     // Fields that were never filled fail one of the tests; that is not what is wrong.

@@ -10,11 +10,15 @@
 /// Why an archive is offered on a system, or the first reason why it is not.
 enum class RVEligibility {
     Offered,
-    // Only for archives of which no entry was made.
+    // The next four only for archives of which no entry was made.
     NoFilter,
     NoDescriptor,
     /// The listing leads where it must not; see mayLeadTo().
     ForeignLink,
+    /// Not in the repository's list of sums, or not in its own folder.
+    NotListed,
+    /// The descriptor is not the file that the list has.
+    OtherDescriptor,
     /// What could not be read says nothing that fits.
     UnreadableDescriptor,
     OtherBaseRelease,

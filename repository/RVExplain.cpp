@@ -6,8 +6,24 @@
 #include "core/RVOrigin.h"
 #include "repository/RVFilter.h"
 #include "repository/RVRepository.h"
+#include "repository/RVTrust.h"
 
 #include <QMap>
+
+namespace
+{
+
+/// Of an archive that a filter picks.
+RVEligibility reasonWithoutEntry(const RVRepository &repository, const QUrl &archive)
+{
+    if (!mayLeadTo(repository.url(), archive)) {
+        return RVEligibility::ForeignLink;
+    }
+    const bool isListed = !repository.trust() || repository.trust()->isListed(archive);
+    return isListed ? RVEligibility::NoDescriptor : RVEligibility::NotListed;
+}
+
+} // namespace
 
 QList<RVVerdict> explain(const RVRepository &repository, const OSInfoBaseClass &system,
                          bool filterSps)
@@ -36,10 +52,7 @@ QList<RVVerdict> explain(const RVRepository &repository, const OSInfoBaseClass &
             // A page may link the same file twice.
             byArchive.erase(known);
         } else if (repository.selects(item)) {
-            verdicts.append({url,
-                             mayLeadTo(repository.url(), url) ? RVEligibility::NoDescriptor
-                                                              : RVEligibility::ForeignLink,
-                             -1});
+            verdicts.append({url, reasonWithoutEntry(repository, url), -1});
         } else if (!item.isDir() && ArchiveGeneric::isHandled(url)) {
             verdicts.append({url, RVEligibility::NoFilter, -1});
         }

@@ -10,6 +10,7 @@
 #include "repository/RVDescFetch.h"
 #include "repository/RVFilter.h"
 #include "repository/RVRepDesc.h"
+#include "repository/RVTrust.h"
 
 #include <QSettings>
 
@@ -54,6 +55,7 @@ RVRepository *RVRepository::fromDefinition(const RVRepDesc &definition, QObject 
             QRegExp(definition.archivePatterns.at(i), Qt::CaseSensitive, QRegExp::RegExp),
             QRegExp(definition.descriptorPatterns.at(i), Qt::CaseSensitive, QRegExp::RegExp));
     }
+    repository->setTrustPolicy(definition.trust);
     return repository;
 }
 
@@ -148,6 +150,16 @@ void RVRepository::dropRefresh()
         dropDescFetch();
         descFetch->cancel();
     }
+    if (m_trust) {
+        m_trust->disconnect(this);
+        // Otherwise an installation may be at it.
+        if (std::exchange(m_isLoadingTrust, false)) {
+            m_trust->cancel();
+        }
+        m_trust.clear();
+    }
+    m_trustFault = {};
+    m_isFresh = false;
 }
 
 void RVRepository::dropDescFetch()
@@ -190,6 +202,13 @@ void RVRepository::refresh()
         if (generation == m_generation) {
             endRefresh();
         }
+        return;
+    }
+
+    const RVTrustFault fault = RVTrust(m_trustPolicy, m_url, m_paths).judgePolicy();
+    if (fault.isSet()) {
+        m_listing.clear();
+        failTrust(fault);
         return;
     }
 
@@ -279,15 +298,69 @@ void RVRepository::takeListing(XNetworkReply *reply)
         return;
     }
     m_listing = reply->entries;
+    if (m_trustPolicy.kind != RVTrustPolicy::None) {
+        loadTrust();
+        return;
+    }
     filter();
     fetchDescriptors();
 }
 
+void RVRepository::loadTrust()
+{
+    m_trust = QSharedPointer<RVTrust>::create(m_trustPolicy, m_url, m_paths);
+    m_trust->access = m_access;
+    m_trust->isRemembering = m_isRememberingTrust;
+    connect(m_trust.data(), &RVTrust::finished, this, &RVRepository::trustLoaded);
+    connect(m_trust.data(), &RVTrust::authenticationRequired, this,
+            &RVRepository::authenticationRequired);
+    connect(m_trust.data(), &RVTrust::proxyAuthenticationRequired, this,
+            &RVRepository::proxyAuthenticationRequired);
+    connect(m_trust.data(), &RVTrust::sslErrors, this, &RVRepository::relaySslErrors);
+    connect(this, &RVRepository::cancelRefresh, m_trust.data(), [this] {
+        if (m_isLoadingTrust) {
+            m_trust->cancel();
+        }
+    });
+    m_isLoadingTrust = true;
+    m_trust->load();
+}
+
+void RVRepository::trustLoaded()
+{
+    if (!std::exchange(m_isLoadingTrust, false)) {
+        return; // an installation has loaded it anew
+    }
+    if (m_trust->fault().isSet()) {
+        const RVTrustFault fault = m_trust->fault();
+        m_trust.clear();
+        failTrust(fault);
+        return;
+    }
+    filter();
+    fetchDescriptors();
+}
+
+void RVRepository::failTrust(const RVTrustFault &fault)
+{
+    const int generation = m_generation;
+    m_entries.clear();
+    m_trustFault = fault;
+    Q_EMIT trustFailed();
+    if (generation == m_generation) {
+        endRefresh();
+    }
+}
+
 void RVRepository::filter()
 {
-    const auto append = [this](const RVFilter &filter) {
+    const QList<XUrlInfo> listing = m_trust ? m_trust->listed(m_listing) : m_listing;
+    const auto append = [&](const RVFilter &filter) {
         QList<RVData> found;
-        filter.filterList(m_listing, found, m_paths, m_url);
+        filter.filterList(listing, found, m_paths, m_url);
+        for (RVData &entry : found) {
+            entry.trust = m_trust;
+        }
         m_entries.append(found);
     };
     m_entries.clear();
@@ -312,6 +385,7 @@ void RVRepository::fetchDescriptors()
     RVLogger().log(5, "Beginning descriptor fetch for '%s'", RVLogger::oneLine(m_url).constData());
     m_descFetch = new RVDescFetch(m_entries, user(), password(), this);
     m_descFetch->access = m_access;
+    m_descFetch->isFresh = m_isFresh;
     connect(m_descFetch, &RVDescFetch::finished, this, &RVRepository::descFetchFinished);
     connect(m_descFetch, &RVDescFetch::descriptorArrived, this, &RVRepository::descriptorArrived);
     connect(m_descFetch, &RVDescFetch::authenticationRequired, this,
@@ -333,7 +407,18 @@ void RVRepository::fetchDescriptors()
 void RVRepository::descFetchFinished()
 {
     const int generation = m_generation;
+    const QList<QUrl> unfit = m_descFetch->unfit();
     dropDescFetch();
+    if (!unfit.isEmpty() && !std::exchange(m_isFresh, true)) {
+        // The publisher may have been at work, or a cache holds something back: everything once
+        // more, since what was read belongs to the list of then.
+        m_isLoadingTrust = true;
+        m_trust->load(true);
+        return;
+    }
+    for (const QUrl &url : unfit) {
+        m_trust->refuse(url);
+    }
     reportDone();
     if (generation == m_generation) {
         endRefresh();

@@ -7,6 +7,7 @@
 #include "network/XUrlInfo.h"
 #include "repository/RVData.h"
 #include "repository/RVSort.h"
+#include "repository/RVTrustPolicy.h"
 
 #include <QAuthenticator>
 #include <QList>
@@ -21,13 +22,15 @@ class QSettings;
 class RVDescFetch;
 class RVFilter;
 class RVRepDesc;
+class RVTrust;
 class XNetworkAccessManager;
 class XNetworkReply;
 
 /// One update repository at run time: where it is, what it lists, and its current entries.
 /// What a refresh() finds it tells by refreshDone(): twice when the location lists no entry, after
 /// networkError() when the listing could not start, and not at all, but for networkError(), when
-/// the listing failed later or no descriptor could be asked for. Its final signal is
+/// the listing failed later, no descriptor could be asked for, or the repository is not trusted,
+/// which trustFailed() tells. Its final signal is
 /// refreshEnded(), once for each refresh(), whatever became of it; a deleted repository gives none.
 /// In slots of its own signals use deleteLater().
 class RVRepository : public QObject
@@ -44,6 +47,16 @@ public:
     static RVRepository *fromDefinition(const RVRepDesc &definition, QObject *parent = nullptr,
                                         const RVPaths &paths = {});
     ~RVRepository() override;
+
+    /// What the definition asks for; nothing unless set.
+    void setTrustPolicy(const RVTrustPolicy &policy) { m_trustPolicy = policy; }
+    const RVTrustPolicy &trustPolicy() const { return m_trustPolicy; }
+    /// Whether refreshes write down which list they have seen; so unless told otherwise.
+    void setRememberingTrust(bool isRemembering) { m_isRememberingTrust = isRemembering; }
+    /// The list of the last refresh; null where the definition asks for none, or nothing came.
+    const QSharedPointer<RVTrust> &trust() const { return m_trust; }
+    /// Why nothing of the last refresh is used.
+    const RVTrustFault &trustFault() const { return m_trustFault; }
 
     void addFilter(const QRegExp &archive, const QRegExp &descriptor);
 
@@ -82,6 +95,9 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void refreshDone(QNetworkReply::NetworkError error);
+    /// The repository is not what the definition asks for, trustFault() says why. No refreshDone()
+    /// then.
+    void trustFailed();
     /// The refresh has given every other signal that it gives.
     void refreshEnded();
     /// Each descriptor's download that has ended, failed ones too, before it is read: receivers
@@ -115,6 +131,9 @@ private:
     void follow(XNetworkAccessManager *manager, XNetworkReply *reply);
     void filter();
     void fetchDescriptors();
+    void loadTrust();
+    void trustLoaded();
+    void failTrust(const RVTrustFault &fault);
 
     const RVPaths m_paths;
     QSettings *m_settings;
@@ -136,4 +155,12 @@ private:
     SortKey m_sortKey;
     RVAccess m_access;
     bool m_isRefreshing = false;
+    RVTrustPolicy m_trustPolicy;
+    bool m_isRememberingTrust = true;
+    /// Shared with the entries.
+    QSharedPointer<RVTrust> m_trust;
+    RVTrustFault m_trustFault;
+    bool m_isLoadingTrust = false;
+    /// Past every cache, because something did not fit its sum.
+    bool m_isFresh = false;
 };

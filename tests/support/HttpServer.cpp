@@ -136,6 +136,9 @@ void HttpServer::receive(QTcpSocket *socket)
 void HttpServer::answer(QTcpSocket *socket, const QByteArray &head)
 {
     const QByteArray path = head.split(' ').value(1);
+    if (beforeAnswer) {
+        beforeAnswer(path);
+    }
     if (!m_credentials.isEmpty() && !head.contains("Authorization: Basic " + m_credentials)) {
         socket->write(response(401, "WWW-Authenticate: Basic realm=\"test\"\r\n", "who?"));
     } else {

@@ -7,6 +7,8 @@
 #include <QTcpServer>
 #include <QUrl>
 
+#include <functional>
+
 class QTcpSocket;
 
 /// A small HTTP/1.1 server on the loopback interface, in the test's own thread: one request a
@@ -36,6 +38,8 @@ public:
     void serveRaw(const QString &path, const QByteArray &answer, After after = After::Close);
     /// Asks for these credentials, by the basic scheme, before it answers anything.
     void protect(const QString &user, const QString &password);
+    /// Called with the path of each request before it is answered, so that the answers can change.
+    std::function<void(const QByteArray &path)> beforeAnswer;
     /// Keeps requests unanswered until release().
     void hold() { m_held = true; }
     void release();
