@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "install/RVInstallProc.h"
 
+#include "core/LocalCopy.h"
 #include "core/RVLimits.h"
 #include "core/RVLogger.h"
 #include "core/RVSum.h"
@@ -9,10 +10,12 @@
 #include "descriptor/DescriptorGeneric.h"
 #include "network/XHttpReply.h"
 #include "network/XNetworkAccessManager.h"
+#include "repository/RVTrust.h"
 
 #include <plume/TemporaryDir.h>
 
 #include <QAuthenticator>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QNetworkRequest>
 #include <QPointer>
@@ -26,6 +29,9 @@
 
 namespace
 {
+
+constexpr int pieceSize = 64 * 1024;
+constexpr qint64 largestImage = qint64(64) << 30;
 
 QList<RVData> withArchiveOnce(const QList<RVData> &entries)
 {
@@ -165,8 +171,22 @@ void RVInstallProc::start()
     m_replies.clear();
     m_received.clear();
     m_expectedTotal = 0;
+    m_unfit.clear();
+    m_isFresh = false;
+    for (const RVData &entry : m_entries) {
+        // It may be long since the list was read.
+        const RVTrustFault fault = entry.trust ? entry.trust->judgeTime() : RVTrustFault();
+        if (fault.isSet()) {
+            failTrust(fault);
+            return;
+        }
+    }
     if (!m_entries.first().archive()->useExtract()) {
-        Q_EMIT extractFinished();
+        if (m_entries.first().trust) {
+            startImageCheck();
+        } else {
+            Q_EMIT extractFinished();
+        }
         return;
     }
     m_replies.fill(nullptr, m_entries.size());
@@ -237,7 +257,7 @@ void RVInstallProc::startDownload(int index)
             &RVInstallProc::relayProxyAuthenticationRequired);
     connect(manager, &QNetworkAccessManager::sslErrors, this, &RVInstallProc::relaySslErrors);
 
-    QNetworkReply *reply = manager->get(QNetworkRequest(access.withLogin(url)));
+    QNetworkReply *reply = manager->get(RVTrust::request(access.withLogin(url), m_isFresh));
     if (reply->error() != QNetworkReply::NoError) {
         Q_EMIT networkError(reply);
         reply->abort();
@@ -268,11 +288,153 @@ void RVInstallProc::downloadFinished(ArchiveGeneric *archive, QNetworkReply *rep
     }
     // Another procedure may have changed the directory since this one started.
     if (m_temporaryDir->cdTo()) {
-        archive->extract(reply);
+        const int index = indexOf(archive);
+        if (m_entries.at(index).trust && reply->error() == QNetworkReply::NoError) {
+            extractListed(index, reply);
+        } else {
+            archive->extract(reply);
+        }
     } else {
         RVLogger().log(3, "Could not enter '%s'", qUtf8Printable(m_temporaryDir->path()));
         endDownload(archive);
     }
+}
+
+int RVInstallProc::indexOf(const ArchiveGeneric *archive) const
+{
+    const auto isOf = [archive](const RVData &entry) {
+        return entry.archive() == archive;
+    };
+    return static_cast<int>(std::find_if(m_entries.cbegin(), m_entries.cend(), isOf)
+                            - m_entries.cbegin());
+}
+
+// The file that is hashed is the one that is unpacked.
+void RVInstallProc::extractListed(int index, QNetworkReply *reply)
+{
+    const RVData &entry = m_entries.at(index);
+    LocalCopy copy;
+    if (!copy.take(reply)) {
+        RVLogger().log(3, "Could not store '%s'",
+                       RVLogger::oneLine(entry.archiveUrl()).constData());
+        endDownload(entry.archive().data());
+        return;
+    }
+    const RVTrustFault fault = entry.trust->judge(entry.archiveUrl(), copy.file());
+    if (!fault.isSet()) {
+        entry.archive()->extract(copy.file());
+        return;
+    }
+    RVLogger().log(3, "%s", RVLogger::oneLine(fault.text).constData());
+    if (m_isFresh) {
+        failTrust(fault);
+        return;
+    }
+    m_unfit.append(index);
+    endDownload(entry.archive().data());
+}
+
+// The publisher may have been at work since the refresh, or a cache holds something back.
+void RVInstallProc::renewList()
+{
+    m_isFresh = true;
+    const QSharedPointer<RVTrust> trust = m_entries.at(m_unfit.constFirst()).trust;
+    connect(trust.data(), &RVTrust::finished, this, [this, trust] {
+        disconnect(trust.data(), nullptr, this, nullptr);
+        if (m_state != State::Downloading) {
+            return;
+        }
+        if (trust->fault().isSet()) {
+            failTrust(trust->fault());
+            return;
+        }
+        const QList<int> unfit = std::exchange(m_unfit, {});
+        if (!m_entries.first().archive()->useExtract()) {
+            startImageCheck();
+            return;
+        }
+        for (const int index : unfit) {
+            startDownload(index);
+        }
+        continueDownloads();
+    });
+    connect(trust.data(), &RVTrust::authenticationRequired, this,
+            &RVInstallProc::authenticationRequired);
+    connect(trust.data(), &RVTrust::proxyAuthenticationRequired, this,
+            &RVInstallProc::proxyAuthenticationRequired);
+    connect(trust.data(), &RVTrust::sslErrors, this, &RVInstallProc::sslErrors);
+    trust->access = access;
+    trust->load(true);
+}
+
+// Which finds damage: the device fetches the image again, from a server that may give another one
+// then.
+void RVInstallProc::startImageCheck()
+{
+    const RVData &entry = m_entries.first();
+    const QUrl &url = entry.archiveUrl();
+    ArchiveGeneric *archive = entry.archive().data();
+    m_expectedTotal = entry.descriptor() ? entry.descriptor()->size() : -1;
+    m_replies.fill(nullptr, 1);
+    m_received.fill(0, 1);
+    m_imageSum = std::make_unique<QCryptographicHash>(QCryptographicHash::Sha256);
+    auto *manager = new XNetworkAccessManager(this);
+    access.configure(manager, url);
+    // Nothing of it is kept.
+    manager->bodyLimit = largestImage;
+    connect(manager, &QNetworkAccessManager::authenticationRequired, this,
+            &RVInstallProc::relayAuthenticationRequired);
+    connect(manager, &QNetworkAccessManager::proxyAuthenticationRequired, this,
+            &RVInstallProc::relayProxyAuthenticationRequired);
+    connect(manager, &QNetworkAccessManager::sslErrors, this, &RVInstallProc::relaySslErrors);
+    QNetworkReply *reply = manager->get(RVTrust::request(access.withLogin(url), m_isFresh));
+    m_pending.insert(archive, reply);
+    m_replies[0] = reply;
+    connect(reply, &QNetworkReply::downloadProgress, this, &RVInstallProc::progress);
+    connect(reply, &QNetworkReply::errorOccurred, this, &RVInstallProc::relayNetworkError);
+    connect(reply, &QIODevice::readyRead, this, [this, reply] {
+        readImage(reply);
+    });
+    connect(reply, &QNetworkReply::finished, this, [this, archive, reply] {
+        reply->deleteLater();
+        reply->manager()->deleteLater();
+        m_replies[0] = nullptr;
+        if (m_pending.take(archive) != reply) {
+            return;
+        }
+        const RVData &entry = m_entries.first();
+        if (reply->error() != QNetworkReply::NoError) {
+            fail(QStringLiteral("The image cannot be read: %1").arg(reply->errorString()));
+            return;
+        }
+        readImage(reply);
+        const RVTrustFault fault = entry.trust->judge(entry.archiveUrl(), m_imageSum->result());
+        if (!fault.isSet()) {
+            Q_EMIT extractFinished();
+        } else if (m_isFresh) {
+            failTrust(fault);
+        } else {
+            m_unfit = {0};
+            renewList();
+        }
+    });
+}
+
+void RVInstallProc::readImage(QNetworkReply *reply)
+{
+    QByteArray piece(pieceSize, Qt::Uninitialized);
+    qint64 length = 0;
+    while ((length = reply->read(piece.data(), piece.size())) > 0) {
+        m_imageSum->addData(piece.constData(), static_cast<int>(length));
+    }
+}
+
+void RVInstallProc::failTrust(const RVTrustFault &fault)
+{
+    m_trustFault = fault;
+    RVLogger().log(3, "Not trusted: %s", RVLogger::oneLine(fault.text).constData());
+    Q_EMIT trustFailed();
+    cancel();
 }
 
 void RVInstallProc::incExtractFinished()
@@ -292,8 +454,13 @@ void RVInstallProc::endDownload(ArchiveGeneric *archive)
 void RVInstallProc::continueDownloads()
 {
     startDownloads();
-    if (m_state == State::Downloading && m_pending.isEmpty()) {
+    if (m_state != State::Downloading || !m_pending.isEmpty()) {
+        return;
+    }
+    if (m_unfit.isEmpty()) {
         Q_EMIT extractFinished();
+    } else {
+        renewList();
     }
 }
 

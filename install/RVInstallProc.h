@@ -6,6 +6,7 @@
 #include "core/RVPaths.h"
 #include "network/RVAccess.h"
 #include "repository/RVData.h"
+#include "repository/RVTrustFault.h"
 
 #include <QList>
 #include <QMap>
@@ -18,6 +19,7 @@
 #include <memory>
 
 class ImageQuestion;
+class QCryptographicHash;
 class TemporaryDir;
 
 /// Downloads and unpacks a batch of updates and is itself the process in which their installer
@@ -56,6 +58,9 @@ public:
     /// full image is never installed.
     ImageQuestion *imageQuestion = nullptr;
 
+    /// Why nothing was installed, where an archive is not the one that its repository lists.
+    const RVTrustFault &trustFault() const { return m_trustFault; }
+
 public Q_SLOTS:
     /// Starts the downloads, or the installation at once when the first archive is not extracted.
     /// Makes a temporary directory the process's current one. Nothing while an earlier start() is
@@ -75,6 +80,9 @@ Q_SIGNALS:
     void proxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *auth);
     void sslErrors(QNetworkReply *reply, const QList<QSslError> &errors);
     void installStarted();
+    /// An archive is not the one that its repository lists, or the list does not hold any more:
+    /// trustFault() says so. The final signal follows, and nothing is installed of the batch.
+    void trustFailed();
     /// Bytes of the whole batch, measured against what the descriptors announce; never above it.
     void downloadProgress(qint64 bytesReceived, qint64 bytesTotal);
 
@@ -107,7 +115,13 @@ private:
     void leaveTemporaryDir();
     void startDownloads();
     void startDownload(int index);
+    void startImageCheck();
+    void readImage(QNetworkReply *reply);
     void downloadFinished(ArchiveGeneric *archive, QNetworkReply *reply);
+    void extractListed(int index, QNetworkReply *reply);
+    void renewList();
+    void failTrust(const RVTrustFault &fault);
+    int indexOf(const ArchiveGeneric *archive) const;
     void endDownload(ArchiveGeneric *archive);
     void continueDownloads();
     void fail(const QString &reason);
@@ -125,4 +139,9 @@ private:
     QVector<QNetworkReply *> m_replies;
     QVector<qint64> m_received;
     qint64 m_expectedTotal = 0;
+    /// Entries that did not fit their sum, to be fetched once more with a new list.
+    QList<int> m_unfit;
+    bool m_isFresh = false;
+    RVTrustFault m_trustFault;
+    std::unique_ptr<QCryptographicHash> m_imageSum;
 };
