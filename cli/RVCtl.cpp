@@ -54,8 +54,8 @@ QString exitCodes()
         "  0 done, 1 the system or its settings cannot be used, or lint found defects,\n"
         "  2 usage, 3 network,\n"
         "  4 a damaged or short archive, 5 space, 6 the package database is locked,\n"
-        "  7 the installer failed, 8 done in part, 10 something is new (list --exit-code),\n"
-        "  124 timeout\n");
+        "  7 the installer failed, 8 done in part, 9 a signature or a sum is wrong,\n"
+        "  10 something is new (list --exit-code), 124 timeout\n");
 }
 
 QString optionsText(const QList<QCommandLineOption> &options)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlBatch.h"
 
+#include "cli/RVCtlTrust.h"
 #include "core/RVSum.h"
 #include "core/RVUrl.h"
 #include "install/RVInstallProc.h"
@@ -23,6 +24,7 @@ RVCtlBatch RVCtlBatch::of(const RVCtlOffers &section, const QVector<RVCtlOffers:
 {
     RVCtlBatch batch;
     batch.updates = chosen;
+    batch.trust = RVCtlTrust::toJson(*section.section().repository);
     for (const RVCtlOffers::Entry &entry : chosen) {
         batch.entries.append(section.data(entry));
     }
@@ -85,6 +87,7 @@ QJsonObject RVCtlBatch::toJson() const
         });
     }
     return {
+        {QStringLiteral("trust"), trust},
         {QStringLiteral("updates"), updateObjects},
         {QStringLiteral("downloads"), downloadObjects},
         {QStringLiteral("downloadSize"),

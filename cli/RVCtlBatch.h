@@ -21,6 +21,8 @@ struct RVCtlBatch {
     qint64 downloadSize = 0;
     /// The first archive's, which runs over all of them.
     InstallCommand installer;
+    /// What is known of the section's list of sums.
+    QJsonObject trust;
 
     /// A full image, which the device fetches itself after a yes.
     bool isImage() const;
@@ -32,6 +34,6 @@ struct RVCtlBatch {
 
     /// The arguments of the installer, with a name for what is not known yet.
     QStringList installerArguments() const;
-    /// "updates", "downloads", "downloadSize".
+    /// "trust", "updates", "downloads", "downloadSize".
     QJsonObject toJson() const;
 };

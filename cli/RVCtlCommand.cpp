@@ -31,6 +31,10 @@ const std::vector<RVCtlCommand> &RVCtlCommand::all()
          "Show or store the location of a section."},
         {"proxy", "[none | TYPE HOST:PORT | TYPE none]", 0, 2, 1, none, proxy,
          "Show or store the proxies; TYPE is http, https, ftp or all."},
+        {"trust", "reset SECTION", 2, 2, 0, none, trust,
+         "Forget the newest list of a signed section, for a wanted step back."},
+        {"sums", "FOLDER --id ID --valid-for DAYS", 1, 1, never, sumsOptions(), sums,
+         "Write the list of sums of a folder that is to be a signed repository."},
     };
     return commands;
 }

@@ -65,10 +65,13 @@ RVCtlResult download(const RVCtlCall &call);
 RVCtlResult lint(const RVCtlCall &call);
 RVCtlResult location(const RVCtlCall &call);
 RVCtlResult proxy(const RVCtlCall &call);
+RVCtlResult trust(const RVCtlCall &call);
+RVCtlResult sums(const RVCtlCall &call);
 
 QList<QCommandLineOption> listOptions();
 QList<QCommandLineOption> installOptions();
 QList<QCommandLineOption> downloadOptions();
 QList<QCommandLineOption> lintOptions();
+QList<QCommandLineOption> sumsOptions();
 
 } // namespace RVCtlCommands

@@ -10,14 +10,18 @@
 #include "cli/RVCtlProgress.h"
 #include "cli/RVCtlSpace.h"
 #include "cli/RVCtlText.h"
+#include "cli/RVCtlTrust.h"
 #include "core/RVSum.h"
 #include "core/RVUrl.h"
 #include "repository/RVRepDesc.h"
+#include "repository/RVRepository.h"
+#include "repository/RVTrust.h"
 
 #include <QCommandLineParser>
 #include <QJsonArray>
 
 #include <algorithm>
+#include <cerrno>
 
 namespace
 {
@@ -34,6 +38,8 @@ struct File {
     qint64 size = -1;
     bool isArchive = false;
     bool isPresent = false;
+    /// Known already, and not fetched once more.
+    QByteArray content;
     RVCtlFault fault;
 };
 
@@ -101,6 +107,44 @@ QVector<File> filesOf(const QVector<RVCtlOffers::Entry> &chosen)
         add(entry.archive, entry.description ? entry.description->size() : -1, true, &files);
     }
     return files;
+}
+
+/// A copy of a signed repository stays one.
+void addList(const RVTrust &trust, QVector<File> *files)
+{
+    const auto add = [files](const QUrl &url, const QByteArray &content) {
+        File file;
+        file.url = url;
+        file.name = RVCtlFolder::nameOf(url);
+        file.size = content.size();
+        file.content = content;
+        files->append(file);
+    };
+    add(trust.listUrl(), trust.listText());
+    if (trust.policy().kind == RVTrustPolicy::Signed) {
+        add(trust.signatureUrl(), trust.signature());
+    }
+}
+
+RVCtlFault store(const File &file, const RVCtlFolder &folder)
+{
+    QFile part;
+    if (folder.begin(file.name, &part) && part.write(file.content) == file.content.size()
+        && folder.complete(file.name, &part)) {
+        return {};
+    }
+    const RVCtlFault fault =
+        targetFault(QStringLiteral("The file cannot be stored: %1").arg(qt_error_string(errno)));
+    folder.drop(file.name);
+    return fault;
+}
+
+/// What is there already, and still the listed file.
+bool isListed(const File &file, const RVTrust *trust, const RVCtlFolder &folder)
+{
+    QFile present(folder.path() + QLatin1Char('/') + QFile::decodeName(file.name));
+    return !trust
+        || (present.open(QIODevice::ReadOnly) && !trust->judge(file.url, &present).isSet());
 }
 
 QJsonObject toJson(const QVector<File> &files, const RVCtlFolder &folder)
@@ -171,17 +215,25 @@ void fetchAll(const RVCtlCall &call, const RVCtlOffers &section, RVCtlAccess *ac
     RVCtlProgress progress(&call.messages, QStringLiteral("Retrieving updates"));
     RVCtlFetch fetch(*section.section().repository, access, &call.deadline);
     qint64 before = 0;
+    bool isRenewed = false;
     for (File &file : *files) {
         if (file.isPresent || file.fault.isSet()) {
             continue;
         }
         // A descriptor's is not announced.
         const qint64 size = qMax<qint64>(0, file.size);
-        file.fault = fetch.fetch(file.url, file.name, folder, [&](qint64 received) {
+        const auto show = [&](qint64 received) {
             if (total > 0) {
                 progress.show(saturatingSum(before, qBound<qint64>(0, received, size)), total);
             }
-        });
+        };
+        file.fault = fetch.fetch(file.url, file.name, folder, show);
+        if (file.fault.kind == RVCtlFault::Refused && !isRenewed) {
+            // The publisher may have been at work since the refresh.
+            isRenewed = true;
+            fetch.renewList();
+            file.fault = fetch.fetch(file.url, file.name, folder, show);
+        }
         if (call.deadline.isOver()) {
             return;
         }
@@ -227,6 +279,8 @@ RVCtlResult RVCtlCommands::download(const RVCtlCall &call)
     const RVCtlOffers &section = sections.constFirst();
     RVCtlOffers::judge(sections, &result);
     if (section.failure().isSet()) {
+        result.json.insert(QStringLiteral("trust"),
+                           RVCtlTrust::toJson(*section.section().repository));
         return result;
     }
     QString error;
@@ -239,11 +293,13 @@ RVCtlResult RVCtlCommands::download(const RVCtlCall &call)
         return RVCtlResult::failed(RVCtlExit::Failed, error);
     }
 
+    const QSharedPointer<RVTrust> trust = section.section().repository->trust();
     QVector<File> files = filesOf(chosen);
     for (File &file : files) {
         const RVCtlFolder::State state =
             file.fault.isSet() ? RVCtlFolder::Missing : folder.state(file.name);
-        file.isPresent = state == RVCtlFolder::Present && !call.parser.isSet(againOption);
+        file.isPresent = state == RVCtlFolder::Present && !call.parser.isSet(againOption)
+            && isListed(file, trust.data(), folder);
         if (state == RVCtlFolder::Foreign) {
             file.fault =
                 targetFault(QStringLiteral("What has its name in the folder is no regular file."));
@@ -260,7 +316,15 @@ RVCtlResult RVCtlCommands::download(const RVCtlCall &call)
     if (call.deadline.isOver()) {
         return result;
     }
+    if (trust && !trust->fault().isSet() && !files.isEmpty()) {
+        const int first = files.size();
+        addList(*trust, &files);
+        for (int i = first; i < files.size(); ++i) {
+            files[i].fault = store(files.at(i), folder);
+        }
+    }
     result.json = toJson(files, folder);
+    result.json.insert(QStringLiteral("trust"), RVCtlTrust::toJson(*section.section().repository));
     result.text = files.isEmpty() ? QStringLiteral("Nothing is new.\n") : toText(files);
     judge(files, &result);
     return result;

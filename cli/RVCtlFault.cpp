@@ -28,8 +28,12 @@ RVCtlFault RVCtlFault::ofReply(const QNetworkReply &reply)
 
 QJsonValue RVCtlFault::toJson() const
 {
-    static const QStringList kinds{QString(), QStringLiteral("network"), QStringLiteral("damaged"),
-                                   QStringLiteral("space"), QStringLiteral("target")};
+    static const QStringList kinds{QString(),
+                                   QStringLiteral("network"),
+                                   QStringLiteral("damaged"),
+                                   QStringLiteral("space"),
+                                   QStringLiteral("target"),
+                                   QStringLiteral("trust")};
     if (!isSet()) {
         return {};
     }
@@ -47,6 +51,9 @@ RVCtlExit RVCtlFault::exitFor(const QVector<RVCtlFault> &faults)
             return fault.kind == kind;
         });
     };
+    if (has(Refused)) {
+        return RVCtlExit::NotTrusted;
+    }
     if (has(Space)) {
         return RVCtlExit::NoSpace;
     }

@@ -20,6 +20,8 @@ struct RVCtlFault {
         Space,
         /// The place for it cannot be used.
         Target,
+        /// It is not the file that the repository's list has.
+        Refused,
     };
 
     static RVCtlFault ofReply(const QNetworkReply &reply);

@@ -8,6 +8,7 @@
 #include "cli/RVCtlFolder.h"
 #include "network/XNetworkAccessManager.h"
 #include "repository/RVRepository.h"
+#include "repository/RVTrust.h"
 
 #include <QEventLoop>
 #include <QNetworkRequest>
@@ -61,6 +62,7 @@ RVCtlFetch::RVCtlFetch(const RVRepository &repository, RVCtlAccess *access, RVCt
     , m_manager(std::make_unique<XNetworkAccessManager>())
 {
     m_source.bodyLimit = largestFile;
+    trust = repository.trust();
     connect(m_manager.get(), &QNetworkAccessManager::authenticationRequired, this,
             [this](QNetworkReply *reply, QAuthenticator *auth) {
                 m_source.answer(reply, auth);
@@ -85,6 +87,13 @@ RVCtlFault RVCtlFetch::fetch(const QUrl &url, const QByteArray &name, const RVCt
         return ofDisk(errno);
     }
     RVCtlFault fault = transfer(url, &part, progress);
+    if (!fault.isSet() && !m_deadline->isOver() && trust) {
+        const RVTrustFault refusal = trust->judge(url, &part);
+        if (refusal.isSet()) {
+            fault.kind = RVCtlFault::Refused;
+            fault.text = refusal.text;
+        }
+    }
     if (!fault.isSet() && !m_deadline->isOver() && !isSound(folder.partPath(name), name)) {
         fault.kind = RVCtlFault::Damaged;
         fault.text = QStringLiteral("The archive is damaged or not complete.");
@@ -98,12 +107,27 @@ RVCtlFault RVCtlFetch::fetch(const QUrl &url, const QByteArray &name, const RVCt
     return fault;
 }
 
+void RVCtlFetch::renewList()
+{
+    m_isFresh = true;
+    trust->access = m_source;
+    QEventLoop loop;
+    connect(trust.data(), &RVTrust::finished, &loop, &QEventLoop::quit);
+    connect(trust.data(), &RVTrust::sslErrors, &loop,
+            [this](QNetworkReply *reply, const QList<QSslError> &errors) {
+                m_access->judge(reply, errors);
+            });
+    connect(m_deadline, &RVCtlDeadline::over, &loop, &QEventLoop::quit);
+    trust->load(true);
+    loop.exec();
+}
+
 RVCtlFault RVCtlFetch::transfer(const QUrl &url, QFile *part,
                                 const std::function<void(qint64)> &progress)
 {
     m_source.configure(m_manager.get(), url);
     const std::unique_ptr<QNetworkReply> reply(
-        m_manager->get(QNetworkRequest(m_source.withLogin(url))));
+        m_manager->get(RVTrust::request(m_source.withLogin(url), m_isFresh)));
     RVCtlFault fault;
     QEventLoop loop;
     const auto take = [&] {

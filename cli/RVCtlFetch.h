@@ -7,6 +7,7 @@
 
 #include <QFile>
 #include <QObject>
+#include <QSharedPointer>
 
 #include <functional>
 #include <memory>
@@ -16,6 +17,7 @@ class RVCtlAccess;
 class RVCtlDeadline;
 class RVCtlFolder;
 class RVRepository;
+class RVTrust;
 class XNetworkAccessManager;
 
 /// Downloads files of one repository into a folder, one after the other, as the window would fetch
@@ -29,6 +31,12 @@ public:
     RVCtlFetch(const RVRepository &repository, RVCtlAccess *access, RVCtlDeadline *deadline);
     ~RVCtlFetch() override;
 
+    /// What the files are held against before they get their names; null for nothing.
+    QSharedPointer<RVTrust> trust;
+    /// Fetches the list of sums once more, past every cache, and from here on files as well. Runs
+    /// an event loop.
+    void renewList();
+
     /// Runs an event loop until the file is complete, or cannot be had, or the deadline is over.
     /// `progress` gets the bytes so far.
     RVCtlFault fetch(const QUrl &url, const QByteArray &name, const RVCtlFolder &folder,
@@ -41,4 +49,5 @@ private:
     RVCtlAccess *m_access;
     RVCtlDeadline *m_deadline;
     std::unique_ptr<XNetworkAccessManager> m_manager;
+    bool m_isFresh = false;
 };

@@ -8,6 +8,7 @@
 #include "cli/RVCtlMessages.h"
 #include "cli/RVCtlOffers.h"
 #include "cli/RVCtlSpace.h"
+#include "cli/RVCtlTrust.h"
 #include "core/RVLogger.h"
 
 #include <QCommandLineParser>
@@ -66,6 +67,12 @@ bool isConfirmed(const RVCtlCall &call, const RVCtlBatch &batch, QString *error)
     const RVCtlOffers::Entry &image = batch.updates.constFirst();
     call.messages.error(QStringLiteral("%1 %2 replaces everything on the device and restarts it.")
                             .arg(image.name(), image.version()));
+    if (batch.entries.first().trust) {
+        call.messages.error(
+            QStringLiteral("It is read once now and compared with its sum, which finds damage. The "
+                           "device fetches it again after the restart and checks nothing: a "
+                           "hostile server can give it another one then."));
+    }
     std::fputs("Install it? [y/N] ", stderr);
     std::fflush(stderr);
     const QByteArray answer = readAnswer(&call.deadline);
@@ -106,6 +113,7 @@ RVCtlResult RVCtlCommands::install(const RVCtlCall &call)
     std::signal(SIGPIPE, SIG_IGN);
 
     RVCtlResult result;
+    call.world.setRememberingTrust(true);
     RVCtlAccess access(call.messages);
     QList<RVCtlOffers> sections;
     if (!RVCtlOffers::read(call, call.arguments.mid(0, 1), &access, &sections, &result)) {
@@ -114,6 +122,8 @@ RVCtlResult RVCtlCommands::install(const RVCtlCall &call)
     const RVCtlOffers &section = sections.constFirst();
     RVCtlOffers::judge(sections, &result);
     if (section.failure().isSet()) {
+        result.json.insert(QStringLiteral("trust"),
+                           RVCtlTrust::toJson(*section.section().repository));
         return result;
     }
     QString error;

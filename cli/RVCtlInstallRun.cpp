@@ -10,6 +10,7 @@
 #include "cli/RVCtlMessages.h"
 #include "cli/RVCtlSpace.h"
 #include "cli/RVCtlText.h"
+#include "cli/RVCtlTrust.h"
 #include "core/RVUrl.h"
 #include "install/RVInstallProc.h"
 #include "repository/RVRepository.h"
@@ -139,8 +140,13 @@ void RVCtlInstallRun::run()
             });
     connect(m_process.get(), &RVInstallProc::downloadProgress, this,
             [this](qint64 received, qint64 total) {
-                m_progress->show(received, total);
+                if (m_progress) {
+                    m_progress->show(received, total);
+                }
             });
+    connect(m_process.get(), &RVInstallProc::trustFailed, this, [this] {
+        m_call.messages.error(m_process->trustFault().text);
+    });
     // Before the procedure's own, which starts the installer.
     connect(m_process.get(), &RVInstallProc::extractFinished, this,
             &RVCtlInstallRun::beforeInstaller);
@@ -165,7 +171,8 @@ void RVCtlInstallRun::run()
             QStringLiteral("The installer runs and cannot be interrupted; waiting for its end."));
     });
 
-    if (!m_batch.downloads.isEmpty()) {
+    // An image of a list of sums is read, and not kept.
+    if (!m_batch.downloads.isEmpty() || m_batch.entries.first().trust) {
         m_progress =
             std::make_unique<RVCtlProgress>(&m_call.messages, QStringLiteral("Retrieving updates"));
     }
@@ -193,6 +200,10 @@ int RVCtlInstallRun::faults() const
 void RVCtlInstallRun::networkError(const QNetworkReply *reply)
 {
     if (!reply || m_stage != Stage::Downloading || m_call.deadline.isOver()) {
+        return;
+    }
+    if (m_faults.isEmpty()) {
+        m_imageFault = RVCtlFault::ofReply(*reply);
         return;
     }
     // What was asked for, wherever a login stood in it.
@@ -285,6 +296,11 @@ QJsonObject RVCtlInstallRun::toJson() const
         downloads.replace(i, download);
     }
     object.insert(QStringLiteral("downloads"), downloads);
+    if (m_process && m_process->trustFault().isSet()) {
+        QJsonObject trust = m_batch.trust;
+        trust.insert(QStringLiteral("error"), RVCtlTrust::toJson(m_process->trustFault()));
+        object.insert(QStringLiteral("trust"), trust);
+    }
     QJsonValue installer;
     if (m_isInstallerRun) {
         installer = QJsonObject{
@@ -306,6 +322,16 @@ void RVCtlInstallRun::judge(RVCtlResult *result) const
         result->exit = exit;
         result->error = error;
     };
+    if (m_process->trustFault().isSet()) {
+        fail(RVCtlExit::NotTrusted,
+             QStringLiteral("Nothing was installed: %1").arg(m_process->trustFault().text));
+        return;
+    }
+    if (m_imageFault.isSet()) {
+        fail(RVCtlFault::exitFor({m_imageFault}),
+             QStringLiteral("Nothing was installed: %1").arg(m_imageFault.text));
+        return;
+    }
     if (!m_refusal.isEmpty()) {
         fail(RVCtlExit::DatabaseLocked, m_refusal);
         return;

@@ -67,6 +67,8 @@ private:
     std::unique_ptr<RVCtlProgress> m_progress;
     RVCtlOutput m_output;
     Stage m_stage = Stage::Downloading;
+    /// Of an image that could not be read.
+    RVCtlFault m_imageFault;
     /// One for each download.
     QVector<RVCtlFault> m_faults;
     /// Why the installer was not started in the last moment.

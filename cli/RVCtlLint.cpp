@@ -174,7 +174,8 @@ void Lint::checkSection(const RVCtlWorld::Section &section, const OSInfoBaseClas
                          });
         RVCtlRefresh refresh(&repository, &m_access, &m_call.deadline);
         refresh.run();
-        if (refresh.failure().isSet() && repository.listing().isEmpty()) {
+        if (refresh.failure().isSet() && !refresh.failure().isTrust
+            && repository.listing().isEmpty()) {
             object.insert(QStringLiteral("error"), refresh.failure().toJson());
             m_unreachable.append(QStringLiteral("%1: %2").arg(
                 RVLintRepository::fileOf(repository.url()), refresh.failure().text));

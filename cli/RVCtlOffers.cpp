@@ -5,6 +5,7 @@
 #include "cli/RVCtlAccess.h"
 #include "cli/RVCtlDeadline.h"
 #include "cli/RVCtlMessages.h"
+#include "cli/RVCtlTrust.h"
 #include "core/RVOrigin.h"
 #include "core/RVText.h"
 #include "core/RVUrl.h"
@@ -223,6 +224,7 @@ QJsonObject RVCtlOffers::toJson() const
          m_section.definition->picksOne() ? QStringLiteral("PickOne") : QStringLiteral("PickAny")},
         {QStringLiteral("error"),
          m_failure.isSet() ? QJsonValue(m_failure.toJson()) : QJsonValue()},
+        {QStringLiteral("trust"), RVCtlTrust::toJson(*m_section.repository)},
     };
     QJsonArray failures;
     for (const RVCtlRefresh::Failure &failure : m_descriptorFailures) {
@@ -239,7 +241,14 @@ QString RVCtlOffers::heading() const
                                     .arg(m_section.index)
                                     .arg(title, RVUrl::shown(m_section.repository->url())))
         + QLatin1Char('\n');
-    if (m_failure.isSet()) {
+    const QString trust = RVCtlTrust::line(*m_section.repository);
+    if (!trust.isEmpty()) {
+        text += QLatin1String("   ") + trust + QLatin1Char('\n');
+    }
+    if (m_failure.isTrust) {
+        text += RVText::safe(QStringLiteral("   Not trusted: %1").arg(m_failure.text))
+            + QLatin1Char('\n');
+    } else if (m_failure.isSet()) {
         text +=
             RVText::safe(QStringLiteral("   Error %1: %2").arg(m_failure.code).arg(m_failure.text))
             + QLatin1Char('\n');
@@ -250,26 +259,34 @@ QString RVCtlOffers::heading() const
 void RVCtlOffers::judge(const QList<RVCtlOffers> &sections, RVCtlResult *result)
 {
     int failed = 0;
+    bool isTrusted = true;
     bool isPartial = false;
     QString first;
     for (const RVCtlOffers &section : sections) {
         if (section.failure().isSet()) {
             ++failed;
+            isTrusted = isTrusted && !section.failure().isTrust;
             if (first.isEmpty()) {
                 first = section.failure().text;
             }
         }
-        isPartial = isPartial || !section.descriptorFailures().isEmpty();
+        isPartial = isPartial || !section.descriptorFailures().isEmpty()
+            || std::any_of(section.m_entries.cbegin(), section.m_entries.cend(),
+                           [](const Entry &entry) {
+                               return entry.reason == RVEligibility::OtherDescriptor;
+                           });
     }
     if (failed > 0) {
-        result->exit = failed == sections.size() ? RVCtlExit::Network : RVCtlExit::DoneInPart;
+        result->exit = failed < sections.size() ? RVCtlExit::DoneInPart
+            : isTrusted                         ? RVCtlExit::Network
+                                                : RVCtlExit::NotTrusted;
         result->error = QStringLiteral("%1 of %2 sections could not be read: %3")
                             .arg(failed)
                             .arg(sections.size())
                             .arg(first);
     } else if (isPartial) {
         result->exit = RVCtlExit::DoneInPart;
-        result->error = QStringLiteral("Some descriptors could not be fetched.");
+        result->error = QStringLiteral("Some descriptors could not be fetched, or are refused.");
     }
 }
 

@@ -5,6 +5,7 @@
 #include "cli/RVCtlCommand.h"
 #include "cli/RVCtlOffers.h"
 #include "cli/RVCtlText.h"
+#include "cli/RVCtlTrust.h"
 #include "core/RVText.h"
 #include "core/RVUrl.h"
 
@@ -78,6 +79,8 @@ RVCtlResult RVCtlCommands::plan(const RVCtlCall &call)
     const RVCtlOffers &section = sections.constFirst();
     if (section.failure().isSet()) {
         RVCtlOffers::judge(sections, &result);
+        result.json.insert(QStringLiteral("trust"),
+                           RVCtlTrust::toJson(*section.section().repository));
         return result;
     }
     QString error;

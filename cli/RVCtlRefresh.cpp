@@ -63,6 +63,13 @@ void RVCtlRefresh::run()
     if (!m_ended) {
         m_repository->cancel();
     }
+    const RVTrustFault &fault = m_repository->trustFault();
+    if (m_ended && fault.isSet()) {
+        m_failure = Failure();
+        m_failure.text = fault.text;
+        m_failure.url = m_repository->url();
+        m_failure.isTrust = true;
+    }
     if (m_ended && !m_done && !m_failure.isSet()) {
         m_failure = m_descriptorFailures.isEmpty()
             ? Failure{QNetworkReply::UnknownContentError,

@@ -27,8 +27,10 @@ public:
         QUrl url;
         /// Of a server that was refused for its certificate.
         QJsonObject certificate;
+        /// What came is refused; there is no code then.
+        bool isTrust = false;
 
-        bool isSet() const { return code != 0; }
+        bool isSet() const { return code != 0 || isTrust; }
         QJsonObject toJson() const;
     };
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlCommand.h"
 #include "cli/RVCtlText.h"
+#include "cli/RVCtlTrust.h"
 #include "cli/RVCtlWorld.h"
 #include "core/RVText.h"
 #include "core/RVUrl.h"
@@ -41,6 +42,7 @@ QJsonObject toJson(const RVCtlWorld::Section &section)
         {QStringLiteral("filters"), filters},
         {QStringLiteral("icon"), definition.icon},
         {QStringLiteral("filterServicePacks"), definition.filterSps},
+        {QStringLiteral("trust"), RVCtlTrust::toJson(*section.repository)},
     };
 }
 
@@ -61,6 +63,10 @@ QString toText(const RVCtlWorld::Section &section)
                            + definition.descriptorPatterns.at(i)});
     }
     fields.append({QStringLiteral("   Icon"), definition.icon});
+    fields.append({QStringLiteral("   Signed by"), definition.trust.keyring});
+    if (definition.trust.fault.isSet()) {
+        fields.append({QStringLiteral("   Error"), definition.trust.fault.text});
+    }
     return RVText::safe(QStringLiteral("%1. %2")
                             .arg(section.index)
                             .arg(DataXML::plainText(definition.title.value({}))))

@@ -17,6 +17,7 @@ enum class RVCtlExit : int {
     DatabaseLocked = 6,
     InstallerFailed = 7,
     DoneInPart = 8,
+    NotTrusted = 9, ///< a signature or a sum is wrong
     News = 10, ///< something is new, and the caller asked to be told so
     Interrupted = 128, ///< plus the signal's number
     Timeout = 124,

@@ -54,6 +54,7 @@ bool RVCtlWorld::readSections(QString *error)
             RVRepository::fromDefinition(*definition, nullptr, m_paths));
         const RVProxySettings::Proxy proxy = proxies.forScheme(repository->url().scheme());
         repository->setProxy(proxy.host, proxy.port);
+        repository->setRememberingTrust(m_isRememberingTrust);
         m_sections.push_back(
             {static_cast<int>(m_sections.size()), definition.get(), repository.get()});
         m_repositories.push_back(std::move(repository));

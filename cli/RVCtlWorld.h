@@ -30,6 +30,9 @@ public:
     };
 
     const RVPaths &paths() const { return m_paths; }
+    /// Before readSections(): whether refreshes write down which signed lists they have seen. Only
+    /// for commands that change something.
+    void setRememberingTrust(bool isRemembering) { m_isRememberingTrust = isRemembering; }
     /// False, and why, when the system cannot be used.
     bool readSystem(QString *error);
     bool readSections(QString *error);
@@ -44,6 +47,7 @@ private:
     Q_DISABLE_COPY_MOVE(RVCtlWorld)
 
     const RVPaths m_paths;
+    bool m_isRememberingTrust = false;
     std::unique_ptr<OSInfo> m_system;
     RVDefinitions::List m_definitions;
     std::vector<std::unique_ptr<RVRepository>> m_repositories;

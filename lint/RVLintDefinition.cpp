@@ -6,6 +6,7 @@
 #include "lint/RVLintDocument.h"
 #include "network/XNetworkAccessManager.h"
 #include "repository/RVDefinitions.h"
+#include "repository/RVKeyringFile.h"
 #include "repository/RVRepDesc.h"
 
 #include <QDir>
@@ -29,6 +30,9 @@ const QString uriTag = QStringLiteral("default_uri");
 const QString selectorTag = QStringLiteral("selector_type");
 const QString iconTag = QStringLiteral("icon");
 const QString filterSpsTag = QStringLiteral("filter_sps");
+const QString signedByTag = QStringLiteral("signed_by");
+const QString repositoryIdTag = QStringLiteral("repository_id");
+const QString checksumsTag = QStringLiteral("checksums");
 const QString filterTag = QStringLiteral("filter_pattern");
 const QString archiveTag = QStringLiteral("archive_pattern");
 const QString descriptorTag = QStringLiteral("descriptor_pattern");
@@ -80,6 +84,7 @@ QStringList RVLintDefinition::iconNames()
 
 void RVLintDefinition::checkDirectory(const RVPaths &paths)
 {
+    m_paths = &paths;
     if (QFileInfo(paths.definitionDir).permission(QFile::WriteOther)) {
         m_report->add(RVLintKind::FileWritable, paths.definitionDir);
     }
@@ -179,7 +184,8 @@ void RVLintDefinition::checkSection(RVLintDocument *document, QDomElement elemen
 
     RVLintFields fields;
     fields.texts = QStringList{titleTag, descriptionTag, labelTag};
-    fields.values = QStringList{keyTag, uriTag, selectorTag, iconTag, filterSpsTag};
+    fields.values = QStringList{keyTag,       uriTag,      selectorTag,     iconTag,
+                                filterSpsTag, signedByTag, repositoryIdTag, checksumsTag};
     fields.parts = QStringList{filterTag};
     fields.onlyInParts = QStringList{archiveTag, descriptorTag};
     const RVLintDocument::Elements elements = document->check(element, fields);
@@ -187,6 +193,7 @@ void RVLintDefinition::checkSection(RVLintDocument *document, QDomElement elemen
     checkKey(document, last(elements, keyTag), element);
     checkLocation(document, last(elements, uriTag), element);
     checkChoices(document, element, elements);
+    checkTrust(document, element, *section.definition);
     checkFilters(document, element, elements.value(filterTag), &section);
     m_sections.append(section);
 }
@@ -282,6 +289,21 @@ void RVLintDefinition::checkChoices(RVLintDocument *document, const QDomElement 
     bool value = false;
     if (!filterSps.isNull() && raw == raw.trimmed() && !document->boolOf(filterSps, &value)) {
         document->add(RVLintKind::FilterSps, filterSps, raw);
+    }
+}
+
+void RVLintDefinition::checkTrust(RVLintDocument *document, const QDomElement &element,
+                                  const RVRepDesc &section)
+{
+    const RVTrustPolicy &policy = section.trust;
+    QString reason;
+    if (policy.fault.isSet()) {
+        document->add(RVLintKind::TrustUnclear, element, policy.fault.text);
+    } else if (policy.kind == RVTrustPolicy::Checksums) {
+        document->add(RVLintKind::SumsNotSigned, element);
+    } else if (policy.kind == RVTrustPolicy::Signed && m_paths
+               && !RVKeyringFile::read(*m_paths, policy.keyring, &reason)) {
+        document->add(RVLintKind::KeyringUnusable, element, reason);
     }
 }
 

@@ -54,11 +54,14 @@ private:
                        const QDomElement &section);
     void checkChoices(RVLintDocument *document, const QDomElement &element,
                       const QHash<QString, QVector<QDomElement>> &fields);
+    void checkTrust(RVLintDocument *document, const QDomElement &element, const RVRepDesc &section);
     void checkFilters(RVLintDocument *document, const QDomElement &element,
                       const QVector<QDomElement> &filters, Section *section);
     void checkPattern(RVLintDocument *document, const QDomElement &element);
 
     RVLintReport *m_report;
+    /// Where keyrings are; those of files alone are not looked at.
+    const RVPaths *m_paths = nullptr;
     QVector<Section> m_sections;
     /// Where a settings key was first used.
     QHash<QString, QString> m_keys;

@@ -57,6 +57,9 @@ enum class RVLintKind {
     PatternInvalid,
     PatternCostly,
     PatternMatchesNothing,
+    TrustUnclear,
+    KeyringUnusable,
+    SumsNotSigned,
     // Descriptors
     DescriptorRoot,
     NoSubdocument,
@@ -79,6 +82,10 @@ enum class RVLintKind {
     ArchiveUnreadable,
     // Repositories
     RepositoryEmpty,
+    ListRefused,
+    SumMissing,
+    SumDiffers,
+    SumWithoutFile,
     ArchiveWithoutDescriptor,
     DescriptorWithoutArchive,
     ArchiveNotSelected,

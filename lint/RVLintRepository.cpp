@@ -14,6 +14,7 @@
 #include "repository/RVFilter.h"
 #include "repository/RVRepDesc.h"
 #include "repository/RVRepository.h"
+#include "repository/RVTrust.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -134,6 +135,9 @@ void RVLintRepository::use(const QList<RVData> &entries)
 void RVLintRepository::check(const QHash<QUrl, QString> &notFetched, const OSInfoBaseClass *system,
                              const std::function<bool()> &isOver)
 {
+    if (!checkTrust()) {
+        return;
+    }
     const QList<XUrlInfo> &listing = m_repository.listing();
     const bool isEmpty = std::all_of(listing.cbegin(), listing.cend(), [](const XUrlInfo &item) {
         return item.isDir();
@@ -144,11 +148,53 @@ void RVLintRepository::check(const QHash<QUrl, QString> &notFetched, const OSInf
     }
     use(m_repository.entries());
     checkPatterns();
+    checkSums();
     checkListing();
     checkEntries(notFetched, system, isOver);
     checkTogether();
     checkVersions();
     checkInstallers();
+}
+
+// False where nothing of it is used.
+bool RVLintRepository::checkTrust()
+{
+    const RVTrustFault &fault = m_repository.trustFault();
+    if (fault.isSet() && fault.kind != RVTrustFault::Definition
+        && fault.kind != RVTrustFault::Keyring) {
+        m_report->add(RVLintKind::ListRefused, fileOf(m_repository.url()), 0, fault.text);
+    }
+    return !fault.isSet();
+}
+
+void RVLintRepository::checkSums()
+{
+    const RVTrust *trust = m_repository.trust().data();
+    if (!trust) {
+        return;
+    }
+    QSet<QByteArray> missing;
+    for (auto sum = trust->list().sums.keyBegin(); sum != trust->list().sums.keyEnd(); ++sum) {
+        missing.insert(*sum);
+    }
+    for (const XUrlInfo &item : m_repository.listing()) {
+        const QUrl url = RVFilter::urlOf(item);
+        if (item.isDir() || !trust->isOwn(url)) {
+            continue;
+        }
+        const QByteArray name = RVChecksums::nameOf(url);
+        missing.remove(name);
+        if (!trust->isListed(url) && url != trust->listUrl() && url != trust->signatureUrl()
+            && (m_repository.selects(item) || isDescriptor(item))) {
+            m_report->add(RVLintKind::SumMissing, fileOf(url));
+        }
+    }
+    QList<QByteArray> names = missing.values();
+    std::sort(names.begin(), names.end());
+    for (const QByteArray &name : qAsConst(names)) {
+        m_report->add(RVLintKind::SumWithoutFile, fileOf(trust->listUrl()), 0,
+                      QFile::decodeName(name));
+    }
 }
 
 void RVLintRepository::checkPattern(const QString &pattern, int line)
@@ -187,7 +233,8 @@ void RVLintRepository::checkListing()
     }
     for (const XUrlInfo &item : m_repository.listing()) {
         const QUrl url = RVFilter::urlOf(item);
-        if (item.isDir() || m_used.contains(url) || paired.contains(url)) {
+        const bool isMissed = m_repository.trust() && !m_repository.trust()->isListed(url);
+        if (item.isDir() || m_used.contains(url) || paired.contains(url) || isMissed) {
             continue;
         }
         if (m_repository.selects(item)) {
@@ -271,6 +318,10 @@ void RVLintRepository::checkDescriptor(const RVData &entry, const QHash<QUrl, QS
         m_report->add(RVLintKind::DescriptorFormat, file);
         return;
     }
+    if (entry.trust && entry.trust->isRefused(url)) {
+        m_report->add(RVLintKind::SumDiffers, file);
+        return;
+    }
     if (m_checked.contains(withoutLogin(url))) {
         return;
     }
@@ -301,6 +352,12 @@ void RVLintRepository::checkArchive(const RVData &entry)
     }
     const QString path = localFile(url);
     if (path.isEmpty() || entry.descriptorUrl() == url || !entry.descriptor()) {
+        return;
+    }
+    QFile listed(path);
+    if (entry.trust && listed.open(QIODevice::ReadOnly)
+        && entry.trust->judge(url, &listed).isSet()) {
+        m_report->add(RVLintKind::SumDiffers, file);
         return;
     }
     const qint64 size = QFileInfo(path).size();

@@ -41,6 +41,8 @@ private:
     void use(const QList<RVData> &entries);
     void checkPatterns();
     void checkPattern(const QString &pattern, int line);
+    bool checkTrust();
+    void checkSums();
     void checkListing();
     bool isDescriptor(const XUrlInfo &item) const;
     /// Adds what stands behind the descriptor that an archive takes.

@@ -4,6 +4,7 @@
 #include "lint/RVLintDefinition.h"
 #include "lint/RVLintDescriptor.h"
 #include "lint/RVLintReport.h"
+#include "repository/RVChecksums.h"
 #include "tests/support/DpkgRoot.h"
 #include "tests/support/FakeRoot.h"
 #include "tests/support/HttpServer.h"
@@ -13,6 +14,7 @@
 #include "ui/NotesDocument.h"
 #include "ui/RVStyle.h"
 
+#include <QCryptographicHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -185,6 +187,19 @@ void makePacks(World &world, const QByteArray &archive)
     world.files.remove(package);
     world.files.remove(descriptor);
     world.files[QStringLiteral("repo/SP1.xar")] = archive;
+}
+
+const QString sums = QStringLiteral("repo/SHA256SUMS");
+
+void requireSums(World &world)
+{
+    world.edit(definition, "<filter_sps>", "<checksums>required</checksums><filter_sps>");
+    RVChecksums list;
+    for (const QString &file : {descriptor, package}) {
+        list.sums.insert(file.mid(5).toUtf8(),
+                         QCryptographicHash::hash(world.files[file], QCryptographicHash::Sha256));
+    }
+    world.files[sums] = list.toText();
 }
 
 } // namespace
@@ -407,6 +422,60 @@ QVector<Row> tst_RVCtlLint::rows() const
                  QVERIFY(QFile::rename(path, directory + QStringLiteral("/moved")));
                  QVERIFY(QFile::link(directory + QStringLiteral("/moved"), path));
              };
+         }},
+        {"signed by nobody",
+         {{"trust-unclear", definition, 2}},
+         replace(definition, "<filter_sps>",
+                 "<signed_by/><repository_id>a</repository_id><filter_sps>")},
+        {"an id alone",
+         {{"trust-unclear", definition, 2}},
+         replace(definition, "<filter_sps>", "<repository_id>a</repository_id><filter_sps>")},
+        {"a keyring that is not there",
+         {{"keyring-unusable", definition, 2}},
+         replace(definition, "<filter_sps>",
+                 "<signed_by>v.gpg</signed_by><repository_id>a</repository_id><filter_sps>")},
+        {"sums without a signature",
+         {{"sums-not-signed", definition, 2}},
+         [](World &world) {
+             requireSums(world);
+         }},
+        {"sums that are not there",
+         {{"sums-not-signed", definition, 2}, {"list-refused", QStringLiteral("repo"), 0}},
+         [](World &world) {
+             requireSums(world);
+             world.files.remove(sums);
+         }},
+        {"sums that are no list",
+         {{"sums-not-signed", definition, 2}, {"list-refused", QStringLiteral("repo"), 0}},
+         [](World &world) {
+             requireSums(world);
+             world.files[sums] = "<html>\n";
+         }},
+        {"an archive without its sum",
+         {{"sums-not-signed", definition, 2},
+          {"sum-missing", QStringLiteral("repo/other.deb"), 0},
+          {"sum-missing", QStringLiteral("repo/other.xml"), 0}},
+         [](World &world) {
+             requireSums(world);
+             world.copy(QStringLiteral("other"));
+         }},
+        {"a descriptor that has changed",
+         {{"sums-not-signed", definition, 2}, {"sum-differs", descriptor, 0}},
+         [](World &world) {
+             requireSums(world);
+             world.edit(descriptor, "Sound", "Noise");
+         }},
+        {"an archive that has changed",
+         {{"sums-not-signed", definition, 2}, {"sum-differs", package, 0}},
+         [](World &world) {
+             requireSums(world);
+             world.files[package] += ' ';
+         }},
+        {"a sum without its file",
+         {{"sums-not-signed", definition, 2}, {"sum-without-file", sums, 0}},
+         [](World &world) {
+             requireSums(world);
+             world.files[sums] += QByteArray(64, 'a') + "  gone.deb\n";
          }},
         {"definition file that everybody can write",
          {{"file-writable", definition, 0}},

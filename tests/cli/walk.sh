@@ -204,15 +204,15 @@ keys()
   local_run 0 "[$filter | keys_unsorted | sort | join(\" \")] | unique == [\"$expected\"]" "$@"
 }
 entry='archive descriptor installed installedSize name offered preselected reason size state title unpackedSize version'
-section='descriptorErrors error index location selector title'
+section='descriptorErrors error index location selector title trust'
 keys . 'architecture baseSystem error model packages servicePacks' status
-keys '.repositories[]' 'default description filterServicePacks filters icon index location locationLabel selector settingsKey title' repos
+keys '.repositories[]' 'default description filterServicePacks filters icon index location locationLabel selector settingsKey title trust' repos
 keys '.repositories[]' "descriptorErrors entries ${section#* }" list
 keys '.repositories[].entries[]' "$entry" list --all
 keys '.repositories[]' "archives $section" explain
 keys '.repositories[].archives[]' 'archive offered reason text' explain
 keys . 'architectures archive baseReleases contents descriptor error installed installedSize models name notes notesText offered preselected reason size state title unpackedSize version' details 2 tc-audio
-keys . 'downloadSize downloads error installer updates' plan 2
+keys . 'downloadSize downloads error installer trust updates' plan 2
 keys '.installer' 'arguments program script' plan 2
 keys '.downloads[]' 'size url' plan 2
 keys . 'default error index isDefault location settingsKey' location 2
