@@ -3,9 +3,11 @@
 #include "ui/BusyDialog.h"
 
 #include "core/RVLogger.h"
+#include "core/RVText.h"
 #include "install/RVInstallProc.h"
 #include "ui/RVDetailsBox.h"
 #include "ui/RVStyle.h"
+#include "ui/RVTrustTexts.h"
 
 #include <QDialogButtonBox>
 #include <QEvent>
@@ -341,6 +343,10 @@ void BusyDialog::follow(RVInstallProc *procedure)
     connect(procedure, &RVInstallProc::extractFinished, this, &BusyDialog::disableCancel);
     connect(procedure, &RVInstallProc::installStarted, this, &BusyDialog::enterInstallPhase);
     connect(procedure, &QProcess::errorOccurred, this, &BusyDialog::processError);
+    connect(procedure, &RVInstallProc::trustFailed, this, [this, procedure] {
+        const RVTrustFault &fault = procedure->trustFault();
+        showFault(RVTrustTexts::sentence(fault) + QLatin1Char('\n') + RVText::safe(fault.text));
+    });
     connect(this, &BusyDialog::canceled, procedure, &RVInstallProc::cancel);
     connect(this, &BusyDialog::canceled, this, &QWidget::hide);
     connect(this, &BusyDialog::canceled, this, &QObject::deleteLater);
@@ -508,10 +514,15 @@ void BusyDialog::processError(QProcess::ProcessError err)
     default:
         message = tr("Unknown process error.");
     }
-    const bool insideLine = m_document->lastBlock().length() > 1;
-    appendText(insideLine ? QLatin1Char('\n') + message : message, true);
-    scrollToEnd();
+    showFault(message);
     RVLogger().log(4, "%s", qUtf8Printable(message));
+}
+
+void BusyDialog::showFault(const QString &text)
+{
+    const bool insideLine = m_document->lastBlock().length() > 1;
+    appendText(insideLine ? QLatin1Char('\n') + text : text, true);
+    scrollToEnd();
 }
 
 void BusyDialog::logContents()

@@ -64,6 +64,8 @@ public Q_SLOTS:
     void retranslateUi();
     void enterInstallPhase();
     void processError(QProcess::ProcessError err);
+    /// Why nothing is installed, in the details.
+    void showFault(const QString &text);
     void logContents();
     /// Bytes; shown as whole KiB.
     void progress(qint64 bytesReceived, qint64 bytesTotal);

@@ -3,6 +3,7 @@
 #include "ui/ImageInstallBox.h"
 
 #include "ui/RVStyle.h"
+#include "ui/RVTrustTexts.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>
@@ -16,7 +17,8 @@ namespace
 class Question : public QMessageBox
 {
 public:
-    Question()
+    explicit Question(bool isChecked)
+        : m_isChecked(isChecked)
     {
         setIcon(Warning);
         setStandardButtons(Abort | Apply);
@@ -37,11 +39,15 @@ private:
     {
         // The catalogues have the texts under the archive that asks.
         setText(QCoreApplication::translate("ArchiveDDImage", "Full-Image install pending."));
-        setInformativeText(QCoreApplication::translate(
+        const QString text = QCoreApplication::translate(
             "ArchiveDDImage",
             "Installation of a new image will force a reboot and completely wipe out the existing "
-            "disk image on the thin client, including all settings.  Do you want to continue?"));
+            "disk image on the thin client, including all settings.  Do you want to continue?");
+        setInformativeText(m_isChecked ? RVTrustTexts::imageNote() + QLatin1String("\n\n") + text
+                                       : text);
     }
+
+    const bool m_isChecked;
 };
 
 } // namespace
@@ -53,7 +59,7 @@ ImageInstallBox::ImageInstallBox(const RVPaths &paths)
 
 bool ImageInstallBox::confirmImageInstall()
 {
-    Question box;
+    Question box(m_isChecked);
     const RVStyle style(m_paths);
     box.button(QMessageBox::Abort)->setIcon(style.StdIcon(RVStyle::Abort));
     box.button(QMessageBox::Apply)->setIcon(style.StdIcon(RVStyle::Apply));

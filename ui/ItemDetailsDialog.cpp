@@ -9,6 +9,7 @@
 #include "descriptor/DescriptorGeneric.h"
 #include "ui/NotesDocument.h"
 #include "ui/RVStyle.h"
+#include "ui/RVTrustTexts.h"
 
 #include <QDialogButtonBox>
 #include <QEvent>
@@ -157,6 +158,12 @@ void ItemDetailsDialog::changeEvent(QEvent *event)
     QDialog::changeEvent(event);
 }
 
+void ItemDetailsDialog::explainImageCheck()
+{
+    m_isImageChecked = true;
+    retranslateUi();
+}
+
 void ItemDetailsDialog::retranslateUi()
 {
     setWindowTitle(shortened(DataXML::plainText(m_descriptor->name(QString())), maximumUnbroken));
@@ -218,6 +225,9 @@ QString ItemDetailsDialog::information() const
     }
     if (m_descriptor->installedSize() >= 0) {
         addLine(tr("Installed Size:  <b>%1</b>"), sizeStr(m_descriptor->installedSize()));
+    }
+    if (m_isImageChecked) {
+        text += RVTrustTexts::imageNote().toHtmlEscaped() + separator;
     }
     if (!m_descriptor->contentFiles().isEmpty()) {
         text += tr("Service Pack Contents: ") + separator;

@@ -29,6 +29,8 @@ public:
                                QWidget *parent = nullptr, Qt::WindowFlags flags = {});
     ~ItemDetailsDialog() override;
 
+    /// For an image whose repository lists its sum: what that means is said.
+    void explainImageCheck();
     void retranslateUi();
     /// A byte count in KiB, MiB or GiB.
     QString sizeStr(qint64 bytes) const;
@@ -45,6 +47,7 @@ private:
 
     QSharedPointer<const DescriptorGeneric> m_keptDescriptor;
     const DescriptorGeneric *m_descriptor;
+    bool m_isImageChecked = false;
     QLabel *m_informationLabel = nullptr;
     NotesDocument *m_notes = nullptr;
     QTextEdit *m_notesView = nullptr;

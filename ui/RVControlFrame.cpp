@@ -9,6 +9,7 @@
 #include "repository/RVEligibility.h"
 #include "repository/RVRepository.h"
 #include "ui/RVStyle.h"
+#include "ui/RVTrustTexts.h"
 
 #include <QAuthenticator>
 #include <QDialogButtonBox>
@@ -25,6 +26,7 @@ namespace
 {
 
 constexpr int longestLocation = 300;
+constexpr int longestFault = 600;
 
 QPushButton *actionButton(const QIcon &icon = {})
 {
@@ -232,6 +234,7 @@ void RVControlFrame::retranslateUi()
     m_passwordLabel->setText(tr("Password: "));
     m_retryButton->setText(tr("&Retry"));
     showLocation();
+    showTrust();
 }
 
 void RVControlFrame::incInstallFinished()
@@ -263,6 +266,16 @@ void RVControlFrame::refreshFailed(const QNetworkReply *reply)
     enterErrorState();
 }
 
+void RVControlFrame::refuseRepository()
+{
+    // Nothing that an earlier retrieval has shown can be installed from here on.
+    m_retrieved = false;
+    replaceTable({});
+    if (currentPage() != AuthenticationPage && !m_canceled) {
+        enterErrorState();
+    }
+}
+
 void RVControlFrame::relayNetworkError(const QNetworkReply *reply)
 {
     Q_EMIT networkError(reply);
@@ -290,6 +303,12 @@ QWidget *RVControlFrame::makeSelectionPage(const RVStyle &style)
     m_noUpdates = richLabel();
     m_noUpdates->setAlignment(Qt::AlignCenter);
     m_selectionLayout->addWidget(m_noUpdates, 1);
+
+    m_trustLabel = new QLabel;
+    m_trustLabel->setObjectName(QStringLiteral("trust"));
+    m_trustLabel->setTextFormat(Qt::PlainText);
+    m_trustLabel->setWordWrap(true);
+    m_selectionLayout->addWidget(m_trustLabel);
 
     m_installButton = actionButton(style.StdIcon(RVStyle::Install));
     m_detailsButton = actionButton(style.StdIcon(RVStyle::Info));
@@ -390,6 +409,7 @@ void RVControlFrame::connectRepository()
     connect(m_repository, &RVRepository::proxyAuthenticationRequired, this,
             &RVControlFrame::relayProxyAuthenticationRequired);
     connect(m_repository, &RVRepository::networkError, this, &RVControlFrame::refreshFailed);
+    connect(m_repository, &RVRepository::trustFailed, this, &RVControlFrame::refuseRepository);
     connect(m_repository, &RVRepository::refreshEnded, this, &RVControlFrame::leaveRetrievalState);
 }
 
@@ -462,6 +482,7 @@ void RVControlFrame::showEntries()
     for (QPushButton *button : {m_installButton, m_detailsButton, m_allButton, m_noneButton}) {
         button->setEnabled(any);
     }
+    showTrust();
     m_allButton->setVisible(m_type != SelectionTable::RadioButtons);
     m_noneButton->setVisible(m_type != SelectionTable::RadioButtons);
 }
@@ -524,6 +545,22 @@ void RVControlFrame::showLocation()
         m_asking == Asking::Proxy
             ? tr("Authentication is required to use the proxy <br /><i>%1</i>").arg(asking)
             : tr("Authentication is required to access <br /><i>%1</i>").arg(asking));
+    const QString failed =
+        tr("Could not retrieve data from repository<br /> <i>%1</i>").arg(location);
+    const RVTrustFault &fault = m_repository->trustFault();
     m_errorLabel->setText(
-        tr("Could not retrieve data from repository<br /> <i>%1</i>").arg(location));
+        fault.isSet() ? failed
+                + QStringLiteral("<p>%1<br /><small>%2</small></p>")
+                      .arg(
+                          RVTrustTexts::sentence(fault).toHtmlEscaped(),
+                          RVText::safe(RVText::shortened(fault.text, longestFault)).toHtmlEscaped())
+                      : failed);
+}
+
+void RVControlFrame::showTrust()
+{
+    const QString line = m_retrieved ? RVTrustTexts::line(*m_repository) : QString();
+    m_trustLabel->setText(line);
+    m_trustLabel->setToolTip(line.isEmpty() ? QString() : RVTrustTexts::explanation(*m_repository));
+    m_trustLabel->setVisible(!line.isEmpty());
 }

@@ -97,6 +97,7 @@ private Q_SLOTS:
     void cancelFromRetrieval();
     void leaveRetrievalState();
     void refreshFailed(const QNetworkReply *reply);
+    void refuseRepository();
     void relayNetworkError(const QNetworkReply *reply);
     void relayProxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *auth);
     void relaySslErrors(QNetworkReply *reply, const QList<QSslError> &errors);
@@ -117,6 +118,7 @@ private:
     bool hasFocusInside() const;
     void focusPage();
     void showLocation();
+    void showTrust();
 
     enum class Asking { Repository, Server, Proxy };
     void ask(Asking who, const QString &place, QAuthenticator *auth);
@@ -138,6 +140,8 @@ private:
     QVBoxLayout *m_selectionLayout = nullptr;
     SelectionTable *m_table = nullptr;
     QLabel *m_noUpdates = nullptr;
+    /// Who has signed what is offered.
+    QLabel *m_trustLabel = nullptr;
     QPushButton *m_installButton = nullptr;
     QPushButton *m_detailsButton = nullptr;
     QPushButton *m_refreshButton = nullptr;

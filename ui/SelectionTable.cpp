@@ -224,7 +224,11 @@ void SelectionTable::showDetails()
         return;
     }
     // On the window: the table may be replaced while the user still reads.
-    auto *dialog = new ItemDetailsDialog(m_entries.at(row).descriptor(), window());
+    const RVData &entry = m_entries.at(row);
+    auto *dialog = new ItemDetailsDialog(entry.descriptor(), window());
+    if (entry.trust && entry.archive()->urlIsHandled() && !entry.archive()->useExtract()) {
+        dialog->explainImageCheck();
+    }
     // Where the user goes on when the dialog is closed.
     setFocus();
     dialog->show();
@@ -249,6 +253,7 @@ void SelectionTable::install()
     m_procedure =
         new RVInstallProc(batch, m_access.login.user, m_access.login.password, this, m_paths);
     m_procedure->access = m_access;
+    m_imageQuestion.setChecked(!batch.first().trust.isNull());
     m_procedure->imageQuestion = &m_imageQuestion;
     connect(m_procedure, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
             &SelectionTable::incInstallFinished);

@@ -17,9 +17,10 @@ namespace
 {
 
 /// Asks, and does `act` with the box as soon as it is open.
-bool ask(const std::function<void(QMessageBox *)> &act)
+bool ask(const std::function<void(QMessageBox *)> &act, bool isChecked = false)
 {
     ImageInstallBox question;
+    question.setChecked(isChecked);
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
@@ -45,6 +46,7 @@ class tst_ImageInstallBox : public QObject
 
 private Q_SLOTS:
     void saysWhatWillHappen();
+    void saysWhatACheckFinds();
     void answers_data();
     void answers();
 };
@@ -73,6 +75,24 @@ void tst_ImageInstallBox::saysWhatWillHappen()
         QVERIFY(!box->button(QMessageBox::Apply)->icon().isNull());
         box->reject();
     });
+    QVERIFY2(warnings.isClean(), warnings.report());
+}
+
+void tst_ImageInstallBox::saysWhatACheckFinds()
+{
+    const LogFile log;
+    WarningGuard warnings;
+    warnings.allow(QStringLiteral("^This plugin does not support propagateSizeHints"));
+    for (const bool isChecked : {false, true}) {
+        ask(
+            [isChecked](QMessageBox *box) {
+                QCOMPARE(box->informativeText().contains(QStringLiteral("hostile server")),
+                         isChecked);
+                QVERIFY(box->informativeText().contains(QStringLiteral("wipe out")));
+                box->button(QMessageBox::Abort)->click();
+            },
+            isChecked);
+    }
     QVERIFY2(warnings.isClean(), warnings.report());
 }
 
