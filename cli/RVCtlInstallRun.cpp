@@ -144,6 +144,8 @@ void RVCtlInstallRun::run()
                     m_progress->show(received, total);
                 }
             });
+    connect(m_process.get(), &RVInstallProc::archiveRefused, this,
+            &RVCtlInstallRun::archiveRefused);
     connect(m_process.get(), &RVInstallProc::trustFailed, this, [this] {
         m_call.messages.error(m_process->trustFault().text);
     });
@@ -216,6 +218,17 @@ void RVCtlInstallRun::networkError(const QNetworkReply *reply)
             return;
         }
     }
+}
+
+void RVCtlInstallRun::archiveRefused(const QUrl &archive, const QString &reason)
+{
+    for (int i = 0; i < m_faults.size(); ++i) {
+        if (m_batch.downloads.at(i).archiveUrl() == archive) {
+            m_faults[i].kind = RVCtlFault::Damaged;
+            m_faults[i].text = reason;
+        }
+    }
+    m_call.messages.error(QStringLiteral("%1: %2").arg(RVUrl::shown(archive), reason));
 }
 
 void RVCtlInstallRun::beforeInstaller()

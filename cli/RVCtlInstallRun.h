@@ -48,6 +48,7 @@ private:
     };
 
     void networkError(const QNetworkReply *reply);
+    void archiveRefused(const QUrl &archive, const QString &reason);
     /// Everything is downloaded that can be: the last moment at which nothing is changed yet.
     void beforeInstaller();
     void judgeArchive(int index);

@@ -8,6 +8,7 @@
 #include "core/RVSum.h"
 #include "core/RVUrl.h"
 #include "descriptor/DescriptorGeneric.h"
+#include "install/RVShown.h"
 #include "network/XHttpReply.h"
 #include "network/XNetworkAccessManager.h"
 #include "repository/RVTrust.h"
@@ -17,6 +18,8 @@
 #include <QAuthenticator>
 #include <QCryptographicHash>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QNetworkRequest>
 #include <QPointer>
 #include <QProcessEnvironment>
@@ -32,6 +35,11 @@ namespace
 
 constexpr int pieceSize = 64 * 1024;
 constexpr qint64 largestImage = qint64(64) << 30;
+
+bool isPackage(const QUrl &url)
+{
+    return QFileInfo(url.path()).suffix().compare(QLatin1String("deb"), Qt::CaseInsensitive) == 0;
+}
 
 QList<RVData> withArchiveOnce(const QList<RVData> &entries)
 {
@@ -173,6 +181,7 @@ void RVInstallProc::start()
     m_expectedTotal = 0;
     m_unfit.clear();
     m_isFresh = false;
+    m_hasRefused = false;
     for (const RVData &entry : m_entries) {
         // It may be long since the list was read.
         const RVTrustFault fault = entry.trust ? entry.trust->judgeTime() : RVTrustFault();
@@ -289,8 +298,10 @@ void RVInstallProc::downloadFinished(ArchiveGeneric *archive, QNetworkReply *rep
     // Another procedure may have changed the directory since this one started.
     if (m_temporaryDir->cdTo()) {
         const int index = indexOf(archive);
-        if (m_entries.at(index).trust && reply->error() == QNetworkReply::NoError) {
-            extractListed(index, reply);
+        const RVData &entry = m_entries.at(index);
+        const bool isLookedAt = entry.trust || !isPackage(entry.archiveUrl());
+        if (isLookedAt && reply->error() == QNetworkReply::NoError) {
+            extractCopy(index, reply);
         } else {
             archive->extract(reply);
         }
@@ -309,8 +320,8 @@ int RVInstallProc::indexOf(const ArchiveGeneric *archive) const
                             - m_entries.cbegin());
 }
 
-// The file that is hashed is the one that is unpacked.
-void RVInstallProc::extractListed(int index, QNetworkReply *reply)
+// The file that is looked at is the one that is unpacked. A package is looked at once it is there.
+void RVInstallProc::extractCopy(int index, QNetworkReply *reply)
 {
     const RVData &entry = m_entries.at(index);
     LocalCopy copy;
@@ -320,9 +331,14 @@ void RVInstallProc::extractListed(int index, QNetworkReply *reply)
         endDownload(entry.archive().data());
         return;
     }
-    const RVTrustFault fault = entry.trust->judge(entry.archiveUrl(), copy.file());
+    const RVTrustFault fault =
+        entry.trust ? entry.trust->judge(entry.archiveUrl(), copy.file()) : RVTrustFault();
     if (!fault.isSet()) {
-        entry.archive()->extract(copy.file());
+        if (isPackage(entry.archiveUrl()) || isAsShown(entry, copy.file())) {
+            entry.archive()->extract(copy.file());
+        } else {
+            endDownload(entry.archive().data());
+        }
         return;
     }
     RVLogger().log(3, "%s", RVLogger::oneLine(fault.text).constData());
@@ -440,8 +456,27 @@ void RVInstallProc::failTrust(const RVTrustFault &fault)
 void RVInstallProc::incExtractFinished()
 {
     if (auto *archive = qobject_cast<ArchiveGeneric *>(sender())) {
+        const RVData &entry = m_entries.at(indexOf(archive));
+        QFile package(QDir(m_temporaryDir->path()).filePath(RVUrl::fileName(entry.archiveUrl())));
+        if (isPackage(entry.archiveUrl()) && package.exists() && !isAsShown(entry, &package)) {
+            // The installer takes every package of the directory.
+            package.remove();
+        }
         endDownload(archive);
     }
+}
+
+bool RVInstallProc::isAsShown(const RVData &entry, QFile *file)
+{
+    const QString difference = RVShown::difference(entry, file);
+    if (difference.isEmpty()) {
+        return true;
+    }
+    RVLogger().log(3, "%s: %s", RVLogger::oneLine(entry.archiveUrl()).constData(),
+                   RVLogger::oneLine(difference).constData());
+    m_hasRefused = true;
+    Q_EMIT archiveRefused(entry.archiveUrl(), difference);
+    return false;
 }
 
 void RVInstallProc::endDownload(ArchiveGeneric *archive)
@@ -457,10 +492,12 @@ void RVInstallProc::continueDownloads()
     if (m_state != State::Downloading || !m_pending.isEmpty()) {
         return;
     }
-    if (m_unfit.isEmpty()) {
-        Q_EMIT extractFinished();
-    } else {
+    if (!m_unfit.isEmpty()) {
         renewList();
+    } else if (m_hasRefused && QDir(m_temporaryDir->path()).isEmpty()) {
+        fail(QStringLiteral("Nothing is left to install"));
+    } else {
+        Q_EMIT extractFinished();
     }
 }
 

@@ -19,6 +19,7 @@
 #include <memory>
 
 class ImageQuestion;
+class QFile;
 class QCryptographicHash;
 class TemporaryDir;
 
@@ -61,6 +62,10 @@ public:
     /// Why nothing was installed, where an archive is not the one that its repository lists.
     const RVTrustFault &trustFault() const { return m_trustFault; }
 
+    /// Whether archiveRefused() was given: the batch is not installed whole, whatever its
+    /// installer says.
+    bool hasRefused() const { return m_hasRefused; }
+
 public Q_SLOTS:
     /// Starts the downloads, or the installation at once when the first archive is not extracted.
     /// Makes a temporary directory the process's current one. Nothing while an earlier start() is
@@ -76,6 +81,8 @@ Q_SIGNALS:
     void extractFinished();
     /// One download failed; the others go on.
     void networkError(const QNetworkReply *reply);
+    /// One archive is not what was shown of it, and is not installed; the others go on.
+    void archiveRefused(const QUrl &archive, const QString &reason);
     void authenticationRequired(QNetworkReply *reply, QAuthenticator *auth);
     void proxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *auth);
     void sslErrors(QNetworkReply *reply, const QList<QSslError> &errors);
@@ -118,7 +125,8 @@ private:
     void startImageCheck();
     void readImage(QNetworkReply *reply);
     void downloadFinished(ArchiveGeneric *archive, QNetworkReply *reply);
-    void extractListed(int index, QNetworkReply *reply);
+    void extractCopy(int index, QNetworkReply *reply);
+    bool isAsShown(const RVData &entry, QFile *file);
     void renewList();
     void failTrust(const RVTrustFault &fault);
     int indexOf(const ArchiveGeneric *archive) const;
@@ -143,5 +151,6 @@ private:
     QList<int> m_unfit;
     bool m_isFresh = false;
     RVTrustFault m_trustFault;
+    bool m_hasRefused = false;
     std::unique_ptr<QCryptographicHash> m_imageSum;
 };

@@ -4,6 +4,7 @@
 
 #include "core/RVLogger.h"
 #include "core/RVText.h"
+#include "core/RVUrl.h"
 #include "install/RVInstallProc.h"
 #include "ui/RVDetailsBox.h"
 #include "ui/RVStyle.h"
@@ -28,6 +29,7 @@
 namespace
 {
 
+constexpr int longestUrl = 300;
 constexpr int narrowest = 500;
 constexpr int maximumLines = 20000;
 constexpr int maximumCharacters = 2 * 1024 * 1024;
@@ -347,6 +349,11 @@ void BusyDialog::follow(RVInstallProc *procedure)
         const RVTrustFault &fault = procedure->trustFault();
         showFault(RVTrustTexts::sentence(fault) + QLatin1Char('\n') + RVText::safe(fault.text));
     });
+    connect(procedure, &RVInstallProc::archiveRefused, this,
+            [this](const QUrl &archive, const QString &reason) {
+                showFault(RVText::shown(RVText::shortened(RVUrl::shown(archive), longestUrl))
+                          + QLatin1Char('\n') + reason);
+            });
     connect(this, &BusyDialog::canceled, procedure, &RVInstallProc::cancel);
     connect(this, &BusyDialog::canceled, this, &QWidget::hide);
     connect(this, &BusyDialog::canceled, this, &QObject::deleteLater);

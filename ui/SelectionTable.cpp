@@ -321,6 +321,8 @@ void SelectionTable::incInstallFinished(int exitCode, QProcess::ExitStatus)
     }
     if (exitCode != 0) {
         RVLogger().log(3, "Install process returned non-zero status code %d", exitCode);
+    }
+    if (exitCode != 0 || (m_procedure && m_procedure->hasRefused())) {
         Q_EMIT installError();
     }
     endInstallation();

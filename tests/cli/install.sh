@@ -101,7 +101,11 @@ odd odd/huge tc-huge '<size>4000000000000000</size>'
 cp -- "$repos/packages/tc-audio_1.0-1_all.deb" "$work/odd/bloated.deb"
 odd odd/bloated tc-bloated '<installed_size>4000000000000000</installed_size>'
 cp -- "$repos/packages/tc-audio_1.0-1_all.deb" "$work/odd/whole.deb"
-odd odd/whole tc-whole ''
+printf '<update_data><name>tc-audio</name><version>1.0-1</version><thin_client>all</thin_client></update_data>' \
+  > "$work/odd/whole.xml"
+# The descriptor speaks of another package.
+cp -- "$repos/packages/tc-audio_1.0-1_all.deb" "$work/odd/other.deb"
+odd odd/other tc-other ''
 # Whole from outside, and nothing that the package tool takes.
 /usr/bin/python3 - "$repos/packages/tc-audio_1.0-1_all.deb" "$work/odd/rotten.deb" <<'PYTHON'
 import sys
@@ -301,7 +305,9 @@ for name in cut empty page; do
   run 4 '.installer == null and .downloads[0].error.kind == "damaged"' install odd "tc-$name"
   check "  and nothing was started" nothing_ran
 done
-run 8 '.installer.exitCode == 0 and ([.downloads[] | select(.error) | .url | sub(".*/"; "")] == ["cut.deb"])' install odd tc-cut tc-whole
+run 4 '.installer == null and (.downloads[0].error.text | contains("its name is '"'"'tc-audio'"'"', not '"'"'tc-other'"'"'"))' install odd tc-other
+check "  and nothing was started" nothing_ran
+run 8 '.installer.exitCode == 0 and ([.downloads[] | select(.error) | .url | sub(".*/"; "")] == ["cut.deb"])' install odd tc-cut tc-audio
 check "  a damaged package keeps nothing from the others" test "$(version tc-audio)" = 1.0-1
 fresh
 run 3 '.installer == null and (.downloads | length) == 1' install lost
@@ -343,7 +349,7 @@ if unshare --user --map-root-user --mount true 2>/dev/null; then
   check "a small disk is seen beforehand" test "$status" -eq 5
   check "  and nothing was started" nothing_ran
   status=0
-  in_small install odd tc-whole || status=$?
+  in_small install odd tc-audio || status=$?
   check "a full disk ends a download of unknown size" test "$status" -eq 5
   check "  and nothing was started" nothing_ran
 else
@@ -621,7 +627,7 @@ if [ -d "$work/small" ]; then
   status=0
   timeout --kill-after=5 60 unshare --user --map-root-user --mount sh -c \
     'mount -t tmpfs -o size=600k none "$0" && exec "$@"' "$mirror" "$ravelctl" --json --root "$root" \
-    --definitions "$definitions" download odd tc-whole --to "$mirror" >"$work/out" 2>"$work/err" || status=$?
+    --definitions "$definitions" download odd tc-audio --to "$mirror" >"$work/out" 2>"$work/err" || status=$?
   check "a full disk ends a download" test "$status" -eq 5
 fi
 run 124 '.error.code == 124' --timeout 2 download slow --to "$mirror"

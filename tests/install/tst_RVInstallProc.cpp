@@ -15,6 +15,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
+#include <QSignalSpy>
 #include <QSslCertificate>
 #include <QSslKey>
 #include <QSslSocket>
@@ -248,6 +249,8 @@ private Q_SLOTS:
     void entriesMayGo();
     void destructorWaitsForTheInstaller();
     void destructorDuringDownloads();
+    void swappedArchive_data();
+    void swappedArchive();
     void passesEnvironment();
     void environmentIsClean();
     void hasNoTerminalAndNothingToRead();
@@ -1491,6 +1494,64 @@ void tst_RVInstallProc::hasNoTerminalAndNothingToRead()
     Report report(&procedure);
     run(&procedure, &report);
     QCOMPARE(procedure.readAllStandardOutput(), QByteArray("own session\n"));
+}
+
+// The server gives another file for the installation than for the description.
+void tst_RVInstallProc::swappedArchive_data()
+{
+    QTest::addColumn<bool>("isAlone");
+    QTest::newRow("alone") << true;
+    QTest::newRow("beside another") << false;
+}
+
+void tst_RVInstallProc::swappedArchive()
+{
+    QFETCH(bool, isAlone);
+    HttpServer server;
+    const auto publish = [&](const QString &file, const QString &name, const QString &version) {
+        const QString package = m_dir->filePath(QStringLiteral("package.deb"));
+        QFile::remove(package);
+        const QString problem = DpkgRoot::build({name, version}, package);
+        QFile built(package);
+        built.open(QIODevice::ReadOnly);
+        const QByteArray bytes = built.readAll();
+        server.serve(QLatin1Char('/') + file, bytes);
+        return problem.isEmpty() ? bytes : QByteArray();
+    };
+    const RVPaths paths = installer("/bin/ls");
+    const auto described = [&](const QString &file, QByteArray bytes) {
+        RVData entry(server.url(QLatin1Char('/') + file), QUrl(), nullptr, paths);
+        QBuffer buffer(&bytes);
+        entry.descriptor()->read(&buffer);
+        return entry;
+    };
+    const QString swapped = QStringLiteral("swapped.deb");
+    const QString good = QStringLiteral("good.deb");
+    QList<RVData> batch{
+        described(swapped, publish(swapped, QStringLiteral("tool"), QStringLiteral("1.0")))};
+    if (!isAlone) {
+        batch.append(described(good, publish(good, QStringLiteral("good"), QStringLiteral("1.0"))));
+    }
+    QVERIFY(!publish(swapped, QStringLiteral("evil"), QStringLiteral("1.0")).isEmpty());
+
+    RVInstallProc procedure(batch, QString(), QString(), nullptr, paths);
+    QSignalSpy refused(&procedure, &RVInstallProc::archiveRefused);
+    Report report(&procedure);
+    run(&procedure, &report);
+    QCOMPARE(refused.size(), 1);
+    QCOMPARE(refused.first().at(0).toUrl(), batch.first().archiveUrl());
+    const QString reason = refused.first().at(1).toString();
+    QVERIFY2(reason.contains(QStringLiteral("'evil'")) && reason.contains(QStringLiteral("'tool'")),
+             qPrintable(reason));
+    QVERIFY(procedure.hasRefused());
+    if (isAlone) {
+        // Nothing was started.
+        QCOMPARE(report.events.last(), QStringLiteral("finished 1 crash"));
+        QVERIFY(procedure.program().isEmpty());
+    } else {
+        QCOMPARE(procedure.readAllStandardOutput(), QByteArray("RVinstall.sh\ngood.deb\n"));
+        QCOMPARE(procedure.exitCode(), 0);
+    }
 }
 
 void tst_RVInstallProc::namesOfTheMetaObject()
