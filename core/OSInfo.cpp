@@ -158,11 +158,17 @@ QString OSInfo::versionInstalled(const QString &packageName) const
         return QString();
     }
     const AptErrors errors;
-    pkgCache::PkgIterator package = m_packages->cache.FindPkg(packageName.toLatin1().toStdString());
-    if (package.end() || package.CurrentVer().end()) {
-        return QString();
+    const std::string name = packageName.toLatin1().toStdString();
+    // Below another root the device's packages are foreign to the library, which looks among the
+    // native ones; packages for all architectures count as native.
+    pkgCache &cache = m_packages->cache;
+    for (const pkgCache::PkgIterator &package :
+         {cache.FindPkg(name, m_arch.toStdString()), cache.FindPkg(name)}) {
+        if (!package.end() && !package.CurrentVer().end()) {
+            return QString::fromUtf8(package.CurrentVer().VerStr());
+        }
     }
-    return QString::fromUtf8(package.CurrentVer().VerStr());
+    return QString();
 }
 
 int OSInfo::installedPackageCount() const

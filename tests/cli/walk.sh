@@ -80,6 +80,9 @@ mkdir -p -- "$work/hostile"
 printf '<update_data><name>bad%sname</name><title>t\xe2\x80\xaeegral\xc2\x9b1m&#27;[31m\nsecond line</title><version>1</version><thin_client>all</thin_client><notes>n &#7; \xe2\x80\xae</notes></update_data>' \
   '&#27;]0;owned&#7;' > "$work/hostile/a.xml"
 define k_hostile "file://$work/hostile"
+# A device's image, mounted on a machine of another architecture.
+cp -a -- "$root" "$work/mounted"
+sed -i 's/^Architecture: .*/Architecture: armel/' "$work/mounted/var/lib/dpkg/status"
 # Names in two languages, the English one that of an installed pack and of a package.
 mkdir -p -- "$work/named"
 cp -- "$work/world/repos/packages/"tc-audio_* "$work/named"
@@ -158,7 +161,7 @@ state()
 {
   (
     cd "$work"
-    find world home definitions hostile named pipes -printf '%p %y %m %s %T@ %l\n' | sort
+    find world home definitions hostile mounted named pipes -printf '%p %y %m %s %T@ %l\n' | sort
     # Packages that describe themselves pass through it.
     find tmp -mindepth 1
     find world home -type f -print0 | sort -z | xargs -0 sha256sum
@@ -195,6 +198,11 @@ local_run 0 '.style == "none" and (.proxies | length) == 3 and .proxies[0].used 
 run 0 '.help | contains("Commands:")' --help
 run 0 '.help | contains("--exit-code")' list --help
 run 0 '.version | startswith("ravelctl ")' --version
+
+local_run 0 '.repositories[0].entries[] | select(.name == "tc-printing") | .state == "current" and (.preselected | not)' list 2
+cp -- "$work/out" "$work/here"
+run 0 '.error == null' --root "$work/mounted" list 2
+check "its packages count as installed" cmp "$work/here" "$work/out"
 
 ### The keys that docs/ravelctl-json.md promises, and no others
 keys()

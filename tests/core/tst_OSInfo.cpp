@@ -45,6 +45,8 @@ private Q_SLOTS:
 
     void packages_data();
     void packages();
+    void packagesOfAnotherArchitecture_data();
+    void packagesOfAnotherArchitecture();
     void packageNamesFromAnyone();
     void brokenDatabase_data();
     void brokenDatabase();
@@ -345,6 +347,37 @@ void tst_OSInfo::packages()
     m_root->addPackage("viewer", "1:3.4~rc1-5\nDepends: needed");
     m_root->addPackage("half", "1.1", "install ok half-configured");
     m_root->addPackage("removed", "0.9", "deinstall ok config-files");
+    const OSInfo info(nullptr, m_root->paths());
+    QCOMPARE(info.versionInstalled(name), version);
+}
+
+void tst_OSInfo::packagesOfAnotherArchitecture_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("version");
+    QTest::newRow("of the device") << QStringLiteral("editor") << QStringLiteral("1");
+    QTest::newRow("of all") << QStringLiteral("viewer") << QStringLiteral("2");
+    QTest::newRow("of both") << QStringLiteral("player") << QStringLiteral("4");
+    QTest::newRow("removed of the device") << QStringLiteral("clock") << QStringLiteral("5");
+    QTest::newRow("of no system here") << QStringLiteral("kernel") << QString();
+    QTest::newRow("only needed there") << QStringLiteral("needed") << QString();
+    QTest::newRow("a name with another architecture")
+        << QStringLiteral("editor:sparc64") << QString();
+}
+
+// A device's image that is mounted on a workstation.
+void tst_OSInfo::packagesOfAnotherArchitecture()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, version);
+    const QByteArray installed = "install ok installed";
+    m_root->addPackage("editor", "1\nDepends: needed", installed, "armel");
+    m_root->addPackage("viewer", "2", installed, "all");
+    m_root->addPackage("player", "3", installed, "all");
+    m_root->addPackage("player", "4", installed, "armel");
+    m_root->addPackage("clock", "5", installed, "all");
+    m_root->addPackage("clock", "6", "deinstall ok config-files", "armel");
+    m_root->addPackage("kernel", "7", installed, "sparc64");
     const OSInfo info(nullptr, m_root->paths());
     QCOMPARE(info.versionInstalled(name), version);
 }

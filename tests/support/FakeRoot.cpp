@@ -35,11 +35,11 @@ void FakeRoot::setHardwareTool(const QByteArray &script) const
 }
 
 void FakeRoot::addPackage(const QByteArray &name, const QByteArray &version,
-                          const QByteArray &status) const
+                          const QByteArray &status, const QByteArray &architecture) const
 {
     QFile database(m_paths.packageStatus);
     const QByteArray entry = "Package: " + name + "\nStatus: " + status
-        + "\nArchitecture: all\nVersion: " + version
+        + "\nArchitecture: " + architecture + "\nVersion: " + version
         + "\nMaintainer: Nobody <nobody@example.org>\nDescription: " + name + "\n\n";
     if (!database.open(QIODevice::Append) || database.write(entry) != entry.size()) {
         qFatal("Cannot write %s", qUtf8Printable(m_paths.packageStatus));

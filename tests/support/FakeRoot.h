@@ -24,7 +24,8 @@ public:
     void setHardwareTool(const QByteArray &script) const;
     /// Adds a package to the database. `status` is dpkg's: "install ok installed" and the like.
     void addPackage(const QByteArray &name, const QByteArray &version,
-                    const QByteArray &status = "install ok installed") const;
+                    const QByteArray &status = "install ok installed",
+                    const QByteArray &architecture = "all") const;
 
 private:
     Q_DISABLE_COPY_MOVE(FakeRoot)
