@@ -7,8 +7,8 @@
 
 #include <memory>
 
-/// The reply for a file of this system, which it reads where it lies. It is finished, with its error
-/// or its size, as soon as it is made; its signals come from the event loop, finished() last.
+/// The reply for a file of this system, which it reads where it lies. It is finished, with its
+/// error or its size, as soon as it is made; its signals come from the event loop, finished() last.
 /// Released with deleteLater() by whoever receives that.
 class XFileReply : public QNetworkReply
 {

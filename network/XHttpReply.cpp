@@ -212,7 +212,7 @@ void XHttpReply::ask(const QList<QSslError> &errors)
                 this,
                 [this] {
                     end(QNetworkReply::SslHandshakeFailedError,
-                        QCoreApplication::translate("QHttp", "SSL handshake failed"));
+                        QStringLiteral("SSL handshake failed"));
                 },
                 Qt::QueuedConnection);
         }
