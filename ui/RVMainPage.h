@@ -72,11 +72,6 @@ public:
     /// date.
     QList<repositoryStatsType *> repositoryStats() const;
 
-Q_SIGNALS:
-    void refreshDone();
-    void helpChanged(const QString &newHelp);
-    void retranslateDone();
-
 public Q_SLOTS:
     void changeEvent(QEvent *event) override;
     void retranslateUi();
@@ -87,6 +82,11 @@ public Q_SLOTS:
     void relayModified();
     void networkError(const QNetworkReply *reply);
     void shareCredentials(const QString &userName, const QString &password);
+
+Q_SIGNALS:
+    void refreshDone();
+    void helpChanged(const QString &newHelp);
+    void retranslateDone();
 
 private:
     void parseRepositoryDir(const RVPaths &paths);
