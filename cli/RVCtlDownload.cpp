@@ -133,7 +133,7 @@ RVCtlFault store(const File &file, const RVCtlFolder &folder)
         && folder.complete(file.name, &part)) {
         return {};
     }
-    const RVCtlFault fault =
+    RVCtlFault fault =
         targetFault(QStringLiteral("The file cannot be stored: %1").arg(qt_error_string(errno)));
     folder.drop(file.name);
     return fault;
