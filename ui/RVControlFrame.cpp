@@ -549,12 +549,12 @@ void RVControlFrame::showLocation()
         tr("Could not retrieve data from repository<br /> <i>%1</i>").arg(location);
     const RVTrustFault &fault = m_repository->trustFault();
     m_errorLabel->setText(
-        fault.isSet() ? failed
+        fault.isSet() && !m_canceled ? failed
                 + QStringLiteral("<p>%1<br /><small>%2</small></p>")
                       .arg(
                           RVTrustTexts::sentence(fault).toHtmlEscaped(),
                           RVText::safe(RVText::shortened(fault.text, longestFault)).toHtmlEscaped())
-                      : failed);
+                                     : failed);
 }
 
 void RVControlFrame::showTrust()

@@ -65,6 +65,8 @@ public:
         case RVTrustFault::NoVerifier:
         case RVTrustFault::State:
             return tr("This device cannot check the signature of the repository.");
+        case RVTrustFault::NoList:
+            return tr("The list of the repository's files, or its signature, is missing.");
         case RVTrustFault::Expired:
         case RVTrustFault::FutureTime:
             return tr("The signature of the repository is not valid now, or the clock of this "

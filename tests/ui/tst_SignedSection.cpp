@@ -34,6 +34,7 @@ private Q_SLOTS:
     void tellsThatNobodyHas();
     void hostileNames();
     void refusal();
+    void cancelIsNoRefusal();
     void refusalAfterATable();
     void sentences();
 
@@ -158,10 +159,34 @@ void tst_SignedSection::refusal()
             buttons.append(button->text());
         }
     }
-    QVERIFY2(shown.contains(QStringLiteral("is not what its publisher signed")),
-             qUtf8Printable(shown));
+    QVERIFY2(shown.contains(QStringLiteral("or its signature, is missing")), qUtf8Printable(shown));
     QVERIFY2(shown.contains(QStringLiteral("SHA256SUMS.gpg")), qUtf8Printable(shown));
     QCOMPARE(buttons, QStringList{QStringLiteral("&Retry")});
+}
+
+void tst_SignedSection::cancelIsNoRefusal()
+{
+    bool isCanceled = false;
+    m_world->server.beforeAnswer = [&](const QByteArray &path) {
+        if (path == "/r/SHA256SUMS.gpg" && !isCanceled) {
+            isCanceled = true;
+            for (QAbstractButton *button : m_frame->findChildren<QAbstractButton *>()) {
+                if (button->isVisible()) {
+                    button->click();
+                }
+            }
+        }
+    };
+    retrieve(m_world->policy());
+    QTRY_VERIFY_WITH_TIMEOUT(isCanceled, limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(m_frame->currentPage(), RVControlFrame::ErrorPage, limitMs);
+    for (const QLabel *label : m_frame->findChildren<QLabel *>()) {
+        QVERIFY2(!label->isVisible() || !label->text().contains(QStringLiteral("signature")),
+                 qUtf8Printable(label->text()));
+    }
+    m_world->server.beforeAnswer = nullptr;
+    m_frame->enterRetrievalState();
+    QTRY_COMPARE_WITH_TIMEOUT(m_frame->currentPage(), RVControlFrame::SelectionPage, limitMs);
 }
 
 void tst_SignedSection::refusalAfterATable()
