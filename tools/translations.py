@@ -21,7 +21,7 @@ import xml.etree.ElementTree as ElementTree
 # Name of the catalogues, their folder, and the folders of the sources that they are for.
 CATALOGUES = (
     ("ravel", "resources/translations",
-     ("archive", "core", "descriptor", "network", "repository", "ui")),
+     ("archive", "core", "descriptor", "install", "network", "repository", "ui")),
     ("ravel-host", "host/translations", ("host",)),
 )
 # Texts that Qt's own catalogues may bring.

@@ -568,6 +568,58 @@
     </message>
 </context>
 <context>
+    <name>RVTrustTexts</name>
+    <message>
+        <source>Signed by %1, valid until %2</source>
+        <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
+        <translation>موقَّع من ⁨%1⁩، صالح حتى ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
+        <translation>لا يمكن تخزين أي شيء هنا: لن تُلاحَظ حالة قديمة للمستودع.</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server controls what is installed</source>
+        <translation>غير موقَّع: من يتحكم في الخادم يتحكم في ما يُثبَّت</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server or the network controls what is installed</source>
+        <translation>غير موقَّع: من يتحكم في الخادم أو الشبكة يتحكم في ما يُثبَّت</translation>
+    </message>
+    <message>
+        <source>Checked for damage, but not signed: whoever controls the server controls what is installed</source>
+        <translation>جرى التحقق من عدم التلف، لكنه غير موقَّع: من يتحكم في الخادم يتحكم في ما يُثبَّت</translation>
+    </message>
+    <message>
+        <source>Only files that the publisher has listed and signed are offered and installed.</source>
+        <translation>لا تُعرَض ولا تُثبَّت إلا الملفات التي أدرجها الناشر في قائمته ووقّعها.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
+        <translation>لا يطلب تعريف هذا القسم توقيعًا. يستطيع ناشر المستودع توقيعه.</translation>
+    </message>
+    <message>
+        <source>This device cannot check the signature of the repository.</source>
+        <translation>لا يستطيع هذا الجهاز التحقق من توقيع المستودع.</translation>
+    </message>
+    <message>
+        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
+        <translation>توقيع المستودع غير صالح الآن، أو أن ساعة هذا الجهاز غير صحيحة.</translation>
+    </message>
+    <message>
+        <source>The repository is not what its publisher signed.</source>
+        <translation>المستودع ليس ما وقّعه ناشره.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
+        <translation>تُقرأ الصورة مرة واحدة وتُقارَن بقائمة المستودع. يكشف ذلك التلف. يجلب الجهاز الصورة مجددًا بعد إعادة التشغيل ولا يتحقق من شيء: يمكن لخادم خبيث أن يعطيه حينها صورة أخرى.</translation>
+    </message>
+    <message>
+        <source>The list of the repository&apos;s files, or its signature, is missing.</source>
+        <translation>قائمة ملفات المستودع أو توقيعها غير موجود.</translation>
+    </message>
+</context>
+<context>
     <name>RepURLFrame</name>
     <message>
         <source>Repository URIs</source>

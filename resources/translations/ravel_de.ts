@@ -564,6 +564,58 @@
     </message>
 </context>
 <context>
+    <name>RVTrustTexts</name>
+    <message>
+        <source>Signed by %1, valid until %2</source>
+        <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
+        <translation>Signiert von %1, gültig bis %2</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
+        <translation>Hier kann nichts gespeichert werden: Ein alter Stand des Repositorys wird nicht bemerkt.</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server controls what is installed</source>
+        <translation>Nicht signiert: Wer den Server kontrolliert, bestimmt, was installiert wird</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server or the network controls what is installed</source>
+        <translation>Nicht signiert: Wer den Server oder das Netzwerk kontrolliert, bestimmt, was installiert wird</translation>
+    </message>
+    <message>
+        <source>Checked for damage, but not signed: whoever controls the server controls what is installed</source>
+        <translation>Auf Beschädigung geprüft, aber nicht signiert: Wer den Server kontrolliert, bestimmt, was installiert wird</translation>
+    </message>
+    <message>
+        <source>Only files that the publisher has listed and signed are offered and installed.</source>
+        <translation>Nur Dateien, die der Herausgeber aufgelistet und signiert hat, werden angeboten und installiert.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
+        <translation>Die Definition dieses Abschnitts verlangt keine Signatur. Der Herausgeber des Repositorys kann es signieren.</translation>
+    </message>
+    <message>
+        <source>This device cannot check the signature of the repository.</source>
+        <translation>Dieses Gerät kann die Signatur des Repositorys nicht prüfen.</translation>
+    </message>
+    <message>
+        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
+        <translation>Die Signatur des Repositorys ist derzeit nicht gültig oder die Uhr dieses Geräts geht falsch.</translation>
+    </message>
+    <message>
+        <source>The repository is not what its publisher signed.</source>
+        <translation>Das Repository ist nicht das, was sein Herausgeber signiert hat.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
+        <translation>Das Abbild wird einmal gelesen und mit der Liste des Repositorys verglichen. Beschädigungen werden so erkannt. Nach dem Neustart ruft das Gerät das Abbild erneut ab und prüft nichts: Ein böswilliger Server kann ihm dann ein anderes liefern.</translation>
+    </message>
+    <message>
+        <source>The list of the repository&apos;s files, or its signature, is missing.</source>
+        <translation>Die Liste der Dateien des Repositorys oder ihre Signatur fehlt.</translation>
+    </message>
+</context>
+<context>
     <name>RepURLFrame</name>
     <message>
         <source>Repository URIs</source>

@@ -564,6 +564,58 @@
     </message>
 </context>
 <context>
+    <name>RVTrustTexts</name>
+    <message>
+        <source>Signed by %1, valid until %2</source>
+        <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
+        <translation>Firmado por %1, válido hasta %2</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
+        <translation>Aquí no se puede guardar nada: no se detecta un estado antiguo del repositorio.</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server controls what is installed</source>
+        <translation>Sin firmar: quien controla el servidor controla lo que se instala</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server or the network controls what is installed</source>
+        <translation>Sin firmar: quien controla el servidor o la red controla lo que se instala</translation>
+    </message>
+    <message>
+        <source>Checked for damage, but not signed: whoever controls the server controls what is installed</source>
+        <translation>Se comprueban los daños, pero no está firmado: quien controla el servidor controla lo que se instala</translation>
+    </message>
+    <message>
+        <source>Only files that the publisher has listed and signed are offered and installed.</source>
+        <translation>Solo se ofrecen e instalan los archivos que el editor ha incluido en su lista y firmado.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
+        <translation>La definición de esta sección no exige una firma. El editor del repositorio puede firmarlo.</translation>
+    </message>
+    <message>
+        <source>This device cannot check the signature of the repository.</source>
+        <translation>Este dispositivo no puede comprobar la firma del repositorio.</translation>
+    </message>
+    <message>
+        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
+        <translation>La firma del repositorio no es válida en este momento o el reloj de este dispositivo no está en hora.</translation>
+    </message>
+    <message>
+        <source>The repository is not what its publisher signed.</source>
+        <translation>El repositorio no es el que firmó su editor.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
+        <translation>La imagen se lee una vez y se compara con la lista del repositorio. Así se detectan los daños. Tras el reinicio, el dispositivo vuelve a obtener la imagen y no comprueba nada: un servidor malintencionado puede darle entonces otra.</translation>
+    </message>
+    <message>
+        <source>The list of the repository&apos;s files, or its signature, is missing.</source>
+        <translation>Falta la lista de archivos del repositorio o su firma.</translation>
+    </message>
+</context>
+<context>
     <name>RepURLFrame</name>
     <message>
         <source>Repository URIs</source>

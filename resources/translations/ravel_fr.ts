@@ -564,6 +564,58 @@
     </message>
 </context>
 <context>
+    <name>RVTrustTexts</name>
+    <message>
+        <source>Signed by %1, valid until %2</source>
+        <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
+        <translation>Signé par %1, valable jusqu’au %2</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
+        <translation>Rien ne peut être enregistré ici&#xa0;: un ancien état du dépôt n’est pas détecté.</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server controls what is installed</source>
+        <translation>Non signé&#xa0;: quiconque contrôle le serveur contrôle ce qui est installé</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server or the network controls what is installed</source>
+        <translation>Non signé&#xa0;: quiconque contrôle le serveur ou le réseau contrôle ce qui est installé</translation>
+    </message>
+    <message>
+        <source>Checked for damage, but not signed: whoever controls the server controls what is installed</source>
+        <translation>Intégrité vérifiée, mais non signé&#xa0;: quiconque contrôle le serveur contrôle ce qui est installé</translation>
+    </message>
+    <message>
+        <source>Only files that the publisher has listed and signed are offered and installed.</source>
+        <translation>Seuls les fichiers que l’éditeur a répertoriés et signés sont proposés et installés.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
+        <translation>La définition de cette section n’exige pas de signature. L’éditeur du dépôt peut signer celui-ci.</translation>
+    </message>
+    <message>
+        <source>This device cannot check the signature of the repository.</source>
+        <translation>Cet appareil ne peut pas vérifier la signature du dépôt.</translation>
+    </message>
+    <message>
+        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
+        <translation>La signature du dépôt n’est pas valable actuellement, ou l’horloge de cet appareil n’est pas à l’heure.</translation>
+    </message>
+    <message>
+        <source>The repository is not what its publisher signed.</source>
+        <translation>Le dépôt n’est pas celui que son éditeur a signé.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
+        <translation>L’image est lue une fois et comparée à la liste du dépôt. Les dommages sont ainsi détectés. Après le redémarrage, l’appareil récupère de nouveau l’image et ne vérifie rien&#xa0;: un serveur malveillant peut alors lui en donner une autre.</translation>
+    </message>
+    <message>
+        <source>The list of the repository&apos;s files, or its signature, is missing.</source>
+        <translation>La liste des fichiers du dépôt ou sa signature est absente.</translation>
+    </message>
+</context>
+<context>
     <name>RepURLFrame</name>
     <message>
         <source>Repository URIs</source>

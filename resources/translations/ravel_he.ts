@@ -564,6 +564,58 @@
     </message>
 </context>
 <context>
+    <name>RVTrustTexts</name>
+    <message>
+        <source>Signed by %1, valid until %2</source>
+        <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
+        <translation>נחתם על ידי ⁨%1⁩, בתוקף עד ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
+        <translation>לא ניתן לאחסן כאן דבר: מצב ישן של המאגר לא יתגלה.</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server controls what is installed</source>
+        <translation>לא חתום: מי ששולט בשרת שולט במה שמותקן</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server or the network controls what is installed</source>
+        <translation>לא חתום: מי ששולט בשרת או ברשת שולט במה שמותקן</translation>
+    </message>
+    <message>
+        <source>Checked for damage, but not signed: whoever controls the server controls what is installed</source>
+        <translation>נבדק לאיתור נזקים, אך לא חתום: מי ששולט בשרת שולט במה שמותקן</translation>
+    </message>
+    <message>
+        <source>Only files that the publisher has listed and signed are offered and installed.</source>
+        <translation>רק קבצים שהמפרסם כלל ברשימה וחתם עליהם מוצעים ומותקנים.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
+        <translation>ההגדרה של מקטע זה אינה דורשת חתימה. מפרסם המאגר יכול לחתום עליו.</translation>
+    </message>
+    <message>
+        <source>This device cannot check the signature of the repository.</source>
+        <translation>מכשיר זה אינו יכול לבדוק את חתימת המאגר.</translation>
+    </message>
+    <message>
+        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
+        <translation>חתימת המאגר אינה תקפה כעת, או שהשעון של מכשיר זה שגוי.</translation>
+    </message>
+    <message>
+        <source>The repository is not what its publisher signed.</source>
+        <translation>המאגר אינו מה שהמפרסם שלו חתם עליו.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
+        <translation>תמונת המערכת נקראת פעם אחת ומושווית לרשימת המאגר. כך מתגלים נזקים. המכשיר מאחזר את תמונת המערכת שוב לאחר ההפעלה מחדש ואינו בודק דבר: שרת עוין יכול לתת לו אז תמונה אחרת.</translation>
+    </message>
+    <message>
+        <source>The list of the repository&apos;s files, or its signature, is missing.</source>
+        <translation>רשימת הקבצים של המאגר או החתימה שלה חסרה.</translation>
+    </message>
+</context>
+<context>
     <name>RepURLFrame</name>
     <message>
         <source>Repository URIs</source>

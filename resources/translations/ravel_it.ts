@@ -564,6 +564,58 @@
     </message>
 </context>
 <context>
+    <name>RVTrustTexts</name>
+    <message>
+        <source>Signed by %1, valid until %2</source>
+        <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
+        <translation>Firmato da %1, valido fino al %2</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
+        <translation>Qui non è possibile salvare nulla: uno stato precedente del repository non viene rilevato.</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server controls what is installed</source>
+        <translation>Non firmato: chi controlla il server controlla ciò che viene installato</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server or the network controls what is installed</source>
+        <translation>Non firmato: chi controlla il server o la rete controlla ciò che viene installato</translation>
+    </message>
+    <message>
+        <source>Checked for damage, but not signed: whoever controls the server controls what is installed</source>
+        <translation>Integrità verificata, ma non firmato: chi controlla il server controlla ciò che viene installato</translation>
+    </message>
+    <message>
+        <source>Only files that the publisher has listed and signed are offered and installed.</source>
+        <translation>Vengono proposti e installati solo i file che l’editore ha elencato e firmato.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
+        <translation>La definizione di questa sezione non richiede una firma. L’editore del repository può firmarlo.</translation>
+    </message>
+    <message>
+        <source>This device cannot check the signature of the repository.</source>
+        <translation>Questo dispositivo non può verificare la firma del repository.</translation>
+    </message>
+    <message>
+        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
+        <translation>La firma del repository non è valida in questo momento oppure l’orologio di questo dispositivo è errato.</translation>
+    </message>
+    <message>
+        <source>The repository is not what its publisher signed.</source>
+        <translation>Il repository non è quello firmato dal suo editore.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
+        <translation>L’immagine viene letta una volta e confrontata con l’elenco del repository. In questo modo si rilevano i danni. Dopo il riavvio il dispositivo recupera di nuovo l’immagine e non verifica nulla: un server ostile può allora fornirgliene un’altra.</translation>
+    </message>
+    <message>
+        <source>The list of the repository&apos;s files, or its signature, is missing.</source>
+        <translation>L’elenco dei file del repository o la sua firma non è presente.</translation>
+    </message>
+</context>
+<context>
     <name>RepURLFrame</name>
     <message>
         <source>Repository URIs</source>

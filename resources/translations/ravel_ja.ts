@@ -563,6 +563,58 @@
     </message>
 </context>
 <context>
+    <name>RVTrustTexts</name>
+    <message>
+        <source>Signed by %1, valid until %2</source>
+        <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
+        <translation>署名者: %1、有効期限: %2</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
+        <translation>ここには何も保存できないため、リポジトリが古い状態であっても検出されません。</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server controls what is installed</source>
+        <translation>署名なし: サーバーを制御する者が、インストールされる内容を左右できます</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server or the network controls what is installed</source>
+        <translation>署名なし: サーバーまたはネットワークを制御する者が、インストールされる内容を左右できます</translation>
+    </message>
+    <message>
+        <source>Checked for damage, but not signed: whoever controls the server controls what is installed</source>
+        <translation>破損は検査されますが、署名はありません: サーバーを制御する者が、インストールされる内容を左右できます</translation>
+    </message>
+    <message>
+        <source>Only files that the publisher has listed and signed are offered and installed.</source>
+        <translation>発行元が一覧に記載して署名したファイルだけが提供され、インストールされます。</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
+        <translation>このセクションの定義は署名を要求していません。リポジトリの発行元はリポジトリに署名できます。</translation>
+    </message>
+    <message>
+        <source>This device cannot check the signature of the repository.</source>
+        <translation>このデバイスではリポジトリの署名を確認できません。</translation>
+    </message>
+    <message>
+        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
+        <translation>リポジトリの署名が現在有効でないか、このデバイスの時計が正しくありません。</translation>
+    </message>
+    <message>
+        <source>The repository is not what its publisher signed.</source>
+        <translation>リポジトリの内容が、発行元の署名したものと異なります。</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
+        <translation>イメージは一度読み込まれ、リポジトリの一覧と照合されます。これにより破損を検出できます。再起動後、デバイスはイメージを再び取得しますが、何も検査しません。そのとき、悪意のあるサーバーは別のイメージを渡すことができます。</translation>
+    </message>
+    <message>
+        <source>The list of the repository&apos;s files, or its signature, is missing.</source>
+        <translation>リポジトリのファイルの一覧、またはその署名がありません。</translation>
+    </message>
+</context>
+<context>
     <name>RepURLFrame</name>
     <message>
         <source>Repository URIs</source>

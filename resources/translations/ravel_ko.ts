@@ -563,6 +563,58 @@
     </message>
 </context>
 <context>
+    <name>RVTrustTexts</name>
+    <message>
+        <source>Signed by %1, valid until %2</source>
+        <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
+        <translation>서명자: %1, 유효 기간: %2까지</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
+        <translation>여기에는 아무것도 저장할 수 없으므로 저장소가 이전 상태여도 감지되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server controls what is installed</source>
+        <translation>서명되지 않음: 서버를 제어하는 사람이 설치되는 내용을 제어합니다</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server or the network controls what is installed</source>
+        <translation>서명되지 않음: 서버나 네트워크를 제어하는 사람이 설치되는 내용을 제어합니다</translation>
+    </message>
+    <message>
+        <source>Checked for damage, but not signed: whoever controls the server controls what is installed</source>
+        <translation>손상 여부는 검사하지만 서명되지 않음: 서버를 제어하는 사람이 설치되는 내용을 제어합니다</translation>
+    </message>
+    <message>
+        <source>Only files that the publisher has listed and signed are offered and installed.</source>
+        <translation>게시자가 목록에 넣고 서명한 파일만 제공되고 설치됩니다.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
+        <translation>이 섹션의 정의는 서명을 요구하지 않습니다. 저장소의 게시자가 저장소에 서명할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>This device cannot check the signature of the repository.</source>
+        <translation>이 장치에서는 저장소의 서명을 확인할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
+        <translation>저장소의 서명이 현재 유효하지 않거나 이 장치의 시계가 잘못되었습니다.</translation>
+    </message>
+    <message>
+        <source>The repository is not what its publisher signed.</source>
+        <translation>저장소가 게시자가 서명한 것과 다릅니다.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
+        <translation>이미지를 한 번 읽어 저장소의 목록과 비교합니다. 이렇게 하면 손상을 발견할 수 있습니다. 다시 시작한 후 장치는 이미지를 다시 가져오며 아무것도 검사하지 않습니다. 이때 악의적인 서버가 다른 이미지를 줄 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The list of the repository&apos;s files, or its signature, is missing.</source>
+        <translation>저장소의 파일 목록 또는 그 서명이 없습니다.</translation>
+    </message>
+</context>
+<context>
     <name>RepURLFrame</name>
     <message>
         <source>Repository URIs</source>

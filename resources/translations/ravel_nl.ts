@@ -564,6 +564,58 @@
     </message>
 </context>
 <context>
+    <name>RVTrustTexts</name>
+    <message>
+        <source>Signed by %1, valid until %2</source>
+        <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
+        <translation>Ondertekend door %1, geldig tot en met %2</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
+        <translation>Hier kan niets worden opgeslagen: een oude staat van de repository wordt niet opgemerkt.</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server controls what is installed</source>
+        <translation>Niet ondertekend: wie de controle heeft over de server, bepaalt wat er wordt geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server or the network controls what is installed</source>
+        <translation>Niet ondertekend: wie de controle heeft over de server of het netwerk, bepaalt wat er wordt geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>Checked for damage, but not signed: whoever controls the server controls what is installed</source>
+        <translation>Gecontroleerd op beschadiging, maar niet ondertekend: wie de controle heeft over de server, bepaalt wat er wordt geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>Only files that the publisher has listed and signed are offered and installed.</source>
+        <translation>Alleen bestanden die de uitgever in de lijst heeft opgenomen en ondertekend, worden aangeboden en geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
+        <translation>De definitie van deze sectie vraagt niet om een ondertekening. De uitgever van de repository kan deze ondertekenen.</translation>
+    </message>
+    <message>
+        <source>This device cannot check the signature of the repository.</source>
+        <translation>Dit apparaat kan de ondertekening van de repository niet controleren.</translation>
+    </message>
+    <message>
+        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
+        <translation>De ondertekening van de repository is nu niet geldig, of de klok van dit apparaat loopt niet goed.</translation>
+    </message>
+    <message>
+        <source>The repository is not what its publisher signed.</source>
+        <translation>De repository is niet wat de uitgever heeft ondertekend.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
+        <translation>De image wordt één keer gelezen en vergeleken met de lijst van de repository. Zo wordt beschadiging gevonden. Na de herstart haalt het apparaat de image opnieuw op en controleert het niets: een kwaadwillende server kan dan een andere geven.</translation>
+    </message>
+    <message>
+        <source>The list of the repository&apos;s files, or its signature, is missing.</source>
+        <translation>De lijst met bestanden van de repository of de ondertekening ervan ontbreekt.</translation>
+    </message>
+</context>
+<context>
     <name>RepURLFrame</name>
     <message>
         <source>Repository URIs</source>

@@ -565,6 +565,58 @@
     </message>
 </context>
 <context>
+    <name>RVTrustTexts</name>
+    <message>
+        <source>Signed by %1, valid until %2</source>
+        <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
+        <translation>Podpis: %1, ważny do %2</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
+        <translation>Nie można tu niczego zapisać: starszy stan repozytorium nie zostanie zauważony.</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server controls what is installed</source>
+        <translation>Bez podpisu: kto kontroluje serwer, decyduje o tym, co zostanie zainstalowane</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server or the network controls what is installed</source>
+        <translation>Bez podpisu: kto kontroluje serwer lub sieć, decyduje o tym, co zostanie zainstalowane</translation>
+    </message>
+    <message>
+        <source>Checked for damage, but not signed: whoever controls the server controls what is installed</source>
+        <translation>Sprawdzane pod kątem uszkodzeń, ale bez podpisu: kto kontroluje serwer, decyduje o tym, co zostanie zainstalowane</translation>
+    </message>
+    <message>
+        <source>Only files that the publisher has listed and signed are offered and installed.</source>
+        <translation>Oferowane i instalowane są tylko pliki, które wydawca umieścił na liście i podpisał.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
+        <translation>Definicja tej sekcji nie wymaga podpisu. Wydawca repozytorium może je podpisać.</translation>
+    </message>
+    <message>
+        <source>This device cannot check the signature of the repository.</source>
+        <translation>To urządzenie nie może sprawdzić podpisu repozytorium.</translation>
+    </message>
+    <message>
+        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
+        <translation>Podpis repozytorium jest obecnie nieważny lub zegar tego urządzenia jest źle ustawiony.</translation>
+    </message>
+    <message>
+        <source>The repository is not what its publisher signed.</source>
+        <translation>Repozytorium nie jest tym, co podpisał jego wydawca.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
+        <translation>Obraz jest odczytywany raz i porównywany z listą repozytorium. Pozwala to wykryć uszkodzenia. Po ponownym uruchomieniu urządzenie pobiera obraz jeszcze raz i niczego nie sprawdza: wrogi serwer może mu wtedy podać inny.</translation>
+    </message>
+    <message>
+        <source>The list of the repository&apos;s files, or its signature, is missing.</source>
+        <translation>Brakuje listy plików repozytorium lub jej podpisu.</translation>
+    </message>
+</context>
+<context>
     <name>RepURLFrame</name>
     <message>
         <source>Repository URIs</source>

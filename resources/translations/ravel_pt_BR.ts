@@ -564,6 +564,58 @@
     </message>
 </context>
 <context>
+    <name>RVTrustTexts</name>
+    <message>
+        <source>Signed by %1, valid until %2</source>
+        <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
+        <translation>Assinado por %1, válido até %2</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
+        <translation>Nada pode ser armazenado aqui: um estado antigo do repositório não é percebido.</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server controls what is installed</source>
+        <translation>Não assinado: quem controla o servidor controla o que é instalado</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server or the network controls what is installed</source>
+        <translation>Não assinado: quem controla o servidor ou a rede controla o que é instalado</translation>
+    </message>
+    <message>
+        <source>Checked for damage, but not signed: whoever controls the server controls what is installed</source>
+        <translation>Verificado quanto a danos, mas não assinado: quem controla o servidor controla o que é instalado</translation>
+    </message>
+    <message>
+        <source>Only files that the publisher has listed and signed are offered and installed.</source>
+        <translation>Somente os arquivos que o editor listou e assinou são oferecidos e instalados.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
+        <translation>A definição desta seção não exige assinatura. O editor do repositório pode assiná-lo.</translation>
+    </message>
+    <message>
+        <source>This device cannot check the signature of the repository.</source>
+        <translation>Este dispositivo não pode verificar a assinatura do repositório.</translation>
+    </message>
+    <message>
+        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
+        <translation>A assinatura do repositório não é válida no momento ou o relógio deste dispositivo está errado.</translation>
+    </message>
+    <message>
+        <source>The repository is not what its publisher signed.</source>
+        <translation>O repositório não é o que seu editor assinou.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
+        <translation>A imagem é lida uma vez e comparada com a lista do repositório. Isso detecta danos. Após a reinicialização, o dispositivo obtém a imagem novamente e não verifica nada: um servidor mal-intencionado pode então fornecer outra.</translation>
+    </message>
+    <message>
+        <source>The list of the repository&apos;s files, or its signature, is missing.</source>
+        <translation>A lista de arquivos do repositório ou sua assinatura está ausente.</translation>
+    </message>
+</context>
+<context>
     <name>RepURLFrame</name>
     <message>
         <source>Repository URIs</source>

@@ -565,6 +565,58 @@
     </message>
 </context>
 <context>
+    <name>RVTrustTexts</name>
+    <message>
+        <source>Signed by %1, valid until %2</source>
+        <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
+        <translation>Подпись: %1, действительна до %2</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
+        <translation>Здесь ничего нельзя сохранить: устаревшее состояние репозитория не будет замечено.</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server controls what is installed</source>
+        <translation>Не подписано: кто контролирует сервер, тот определяет, что будет установлено</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server or the network controls what is installed</source>
+        <translation>Не подписано: кто контролирует сервер или сеть, тот определяет, что будет установлено</translation>
+    </message>
+    <message>
+        <source>Checked for damage, but not signed: whoever controls the server controls what is installed</source>
+        <translation>Проверяется на повреждения, но не подписано: кто контролирует сервер, тот определяет, что будет установлено</translation>
+    </message>
+    <message>
+        <source>Only files that the publisher has listed and signed are offered and installed.</source>
+        <translation>Предлагаются и устанавливаются только файлы, которые издатель внёс в список и подписал.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
+        <translation>Определение этого раздела не требует подписи. Издатель репозитория может его подписать.</translation>
+    </message>
+    <message>
+        <source>This device cannot check the signature of the repository.</source>
+        <translation>Это устройство не может проверить подпись репозитория.</translation>
+    </message>
+    <message>
+        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
+        <translation>Подпись репозитория сейчас недействительна, или часы этого устройства идут неверно.</translation>
+    </message>
+    <message>
+        <source>The repository is not what its publisher signed.</source>
+        <translation>Репозиторий не соответствует тому, что подписал его издатель.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
+        <translation>Образ считывается один раз и сравнивается со списком репозитория. Так обнаруживаются повреждения. После перезагрузки устройство снова получает образ и ничего не проверяет: враждебный сервер может передать ему другой.</translation>
+    </message>
+    <message>
+        <source>The list of the repository&apos;s files, or its signature, is missing.</source>
+        <translation>Отсутствует список файлов репозитория или подпись этого списка.</translation>
+    </message>
+</context>
+<context>
     <name>RepURLFrame</name>
     <message>
         <source>Repository URIs</source>

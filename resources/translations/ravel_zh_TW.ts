@@ -563,6 +563,58 @@
     </message>
 </context>
 <context>
+    <name>RVTrustTexts</name>
+    <message>
+        <source>Signed by %1, valid until %2</source>
+        <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
+        <translation>由 %1 簽署，有效期至 %2</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
+        <translation>此處無法儲存任何內容：軟體庫若為舊狀態將不會被察覺。</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server controls what is installed</source>
+        <translation>未簽署：控制伺服器的人即可控制所安裝的內容</translation>
+    </message>
+    <message>
+        <source>Not signed: whoever controls the server or the network controls what is installed</source>
+        <translation>未簽署：控制伺服器或網路的人即可控制所安裝的內容</translation>
+    </message>
+    <message>
+        <source>Checked for damage, but not signed: whoever controls the server controls what is installed</source>
+        <translation>會檢查是否損壞，但未簽署：控制伺服器的人即可控制所安裝的內容</translation>
+    </message>
+    <message>
+        <source>Only files that the publisher has listed and signed are offered and installed.</source>
+        <translation>僅提供並安裝發行者已列出並簽署的檔案。</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
+        <translation>此區段的定義不要求簽章。軟體庫的發行者可以簽署軟體庫。</translation>
+    </message>
+    <message>
+        <source>This device cannot check the signature of the repository.</source>
+        <translation>此裝置無法檢查軟體庫的簽章。</translation>
+    </message>
+    <message>
+        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
+        <translation>軟體庫的簽章目前無效，或此裝置的時鐘不正確。</translation>
+    </message>
+    <message>
+        <source>The repository is not what its publisher signed.</source>
+        <translation>軟體庫與其發行者所簽署的內容不符。</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
+        <translation>映像檔會讀取一次，並與軟體庫的清單比對。這樣可以發現損壞。重新開機後，裝置會再次取得映像檔，但不做任何檢查：此時惡意伺服器可以提供另一個映像檔。</translation>
+    </message>
+    <message>
+        <source>The list of the repository&apos;s files, or its signature, is missing.</source>
+        <translation>缺少軟體庫的檔案清單或其簽章。</translation>
+    </message>
+</context>
+<context>
     <name>RepURLFrame</name>
     <message>
         <source>Repository URIs</source>
