@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QTest>
 
 namespace
 {
@@ -30,6 +31,15 @@ SigningKeys::~SigningKeys()
                   {QStringLiteral("--homedir"), m_home.path(), QStringLiteral("--kill"),
                    QStringLiteral("gpg-agent")});
     process.waitForFinished(30000);
+    // The agent removes its sockets when it has heard of it.
+    const bool isRemoved = QTest::qWaitFor(
+        [this] {
+            return m_home.remove();
+        },
+        10000);
+    if (!isRemoved) {
+        qWarning("%s", qUtf8Printable(m_home.errorString()));
+    }
 }
 
 bool SigningKeys::make(const QString &name, Kind kind)
