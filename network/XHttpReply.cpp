@@ -3,6 +3,7 @@
 #include "network/XHttpReply.h"
 
 #include "core/RVUrl.h"
+#include "network/XNetworkAccessManager.h"
 #include "network/XNetworkError.h"
 
 #include <QCoreApplication>
@@ -103,6 +104,9 @@ void XHttpReply::ignoreSslErrorsImplementation(const QList<QSslError> &errors)
 {
     if (m_inner && m_asking) {
         m_isAnswered = true;
+        if (auto *own = qobject_cast<XNetworkAccessManager *>(manager())) {
+            own->hasIgnoredErrors = true;
+        }
         m_inner->ignoreSslErrors(errors);
     }
 }
@@ -204,9 +208,10 @@ void XHttpReply::ask(const QList<QSslError> &errors)
     Q_EMIT sslErrors(errors);
     if (self) {
         suspendInactivity(false);
-        if (!m_isAnswered && m_inner) {
+        const auto *own = qobject_cast<XNetworkAccessManager *>(manager());
+        if (!m_isAnswered && m_inner && (!own || own->hasIgnoredErrors)) {
             // Qt keeps what an earlier handshake of this connection was allowed, and would let the
-            // next certificate of the same authority pass.
+            // next certificate of the same authority pass. Otherwise it fails by itself.
             releaseInner();
             QMetaObject::invokeMethod(
                 this,

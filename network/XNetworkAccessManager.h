@@ -39,6 +39,9 @@ public:
     int inactivityLimit = XSpooledReply::defaultInactivityMs;
     /// As XSpooledReply::setBodyLimit().
     qint64 bodyLimit = XSpooledReply::defaultBodyLimit;
+    /// Whether a certificate that does not validate was accepted for a transfer of this manager;
+    /// its replies say so.
+    bool hasIgnoredErrors = false;
 
     /// Starts a listing; never null. A backend may finish inside the call, so connect to
     /// directoryFinished() before it.

@@ -85,10 +85,12 @@ bool write(const QString &file, const QByteArray &content)
                               | QFile::ReadOther);
 }
 
-QByteArray description(const QString &name, int number)
+/// Of the version "1.NUMBER" where none is given.
+QByteArray description(const QString &name, int number, const QString &version = {})
 {
     const QByteArray n = QByteArray::number(number);
-    return "<update_data><name>" + name.toHtmlEscaped().toUtf8() + "</name><version>1." + n
+    const QByteArray shown = version.isEmpty() ? "1." + n : version.toUtf8();
+    return "<update_data><name>" + name.toHtmlEscaped().toUtf8() + "</name><version>" + shown
         + "</version><size>" + n + "000</size><unpacked_size>" + n
         + "001</unpacked_size><installed_size>" + n + "002</installed_size><title>Title " + n
         + "</title></update_data>";
@@ -114,7 +116,7 @@ QString publish(const QString &directory)
     QString describedXml = describedFile;
     describedXml.replace(QLatin1String(".deb"), QLatin1String(".xml"));
     if (!write(directory + packFile, pack.archive())
-        || !write(directory + describedXml, description(described.name, 500))) {
+        || !write(directory + describedXml, description(described.name, 500, described.version))) {
         return QStringLiteral("cannot write the descriptions");
     }
     const QString problem = DpkgRoot::build(described, directory + describedFile);
