@@ -43,9 +43,9 @@ private Q_SLOTS:
     {
         XNetworkReply reply;
         reply.setUrl(QUrl(QStringLiteral("https://Name.Example/x")));
-        const QList<QSslError> errors{QSslError(QSslError::SelfSignedCertificateInChain,
-                                                m_authority.certificate()),
-                                      QSslError(QSslError::HostNameMismatch, m_one)};
+        const QList<QSslError> errors{
+            QSslError(QSslError::SelfSignedCertificateInChain, m_authority.certificate()),
+            QSslError(QSslError::HostNameMismatch, m_one)};
         // Where the connection tells none, the first that the errors carry.
         const RVCertificateFault unknown(&reply, errors);
         QCOMPARE(unknown.certificate, m_authority.certificate());
@@ -119,8 +119,8 @@ private Q_SLOTS:
             QTest::newRow(title) << QString::fromLatin1(names) << codes << accepted;
         };
         row("unknown authority", "", {unknownIssuer}, true);
-        row("unknown authority, as openssl tells it",
-            "", {unknownIssuer, QSslError::UnableToVerifyFirstCertificate}, true);
+        row("unknown authority, as openssl tells it", "",
+            {unknownIssuer, QSslError::UnableToVerifyFirstCertificate}, true);
         row("self-signed", "", {selfSigned}, true);
         row("private root", "", {QSslError::SelfSignedCertificateInChain}, true);
         row("expired", "", {selfSigned, expired}, false);
@@ -141,8 +141,8 @@ private Q_SLOTS:
         QFETCH(Codes, codes);
         QFETCH(bool, accepted);
         const RVCertificateFault found = fault(here, m_one, codes);
-        for (const QString &digits : {found.sha256(), found.sha256().toUpper(),
-                                      withColons(found.sha256()).toUpper()}) {
+        for (const QString &digits :
+             {found.sha256(), found.sha256().toUpper(), withColons(found.sha256()).toUpper()}) {
             RVCertificates certificates;
             QVERIFY(certificates.acceptFingerprint(digits + names));
             QVERIFY(!certificates.accepts(found));

@@ -119,9 +119,9 @@ private Q_SLOTS:
         Events events(reply.get());
         QCOMPARE(int(reply->error()), code);
         QVERIFY(!reply->errorString().isEmpty());
-        QTRY_COMPARE(events,
-                     QStringList({QStringLiteral("error %1").arg(code),
-                                  QStringLiteral("finished")}));
+        QTRY_COMPARE(
+            events,
+            QStringList({QStringLiteral("error %1").arg(code), QStringLiteral("finished")}));
         QCOMPARE(reply->readAll(), QByteArray());
     }
 
