@@ -65,6 +65,7 @@ QString searchPath()
                                      return !folder.startsWith(QLatin1Char('/'));
                                  }),
                   folders.end());
+    folders.removeDuplicates();
     for (const char *folder :
          {"/usr/local/sbin", "/usr/local/bin", "/usr/sbin", "/usr/bin", "/sbin", "/bin"}) {
         if (!folders.contains(QLatin1String(folder))) {
