@@ -48,34 +48,3 @@ function(ravel_bundle target)
   endforeach()
   target_link_libraries(${target} PUBLIC ${ARG_LINK} PRIVATE ravel_flags)
 endfunction()
-
-# ravel_add_test(<Class> LABELS <folder> <kind> [ENGINE] [LINK ...] [LOCK ...] [TIMEOUT s])
-# builds tst_<Class>.cpp and runs it as ctest "<folder>.<Class>" with a HOME of its own.
-# ENGINE links the engine alone: such a test cannot use a widget. HOST links the host's window and the
-# library as a host sees it.
-function(ravel_add_test name)
-  cmake_parse_arguments(ARG "ENGINE;HOST" "TIMEOUT" "SOURCES;LINK;LABELS;LOCK;ENVIRONMENT" ${ARGN})
-  cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
-  set(home ${CMAKE_CURRENT_BINARY_DIR}/home_${name})
-  # Qt closes the runtime directory to others, so it cannot be the home itself.
-  file(MAKE_DIRECTORY ${home}/run)
-  file(CHMOD ${home}/run PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
-  # Open to all: tests run parts of themselves as an ordinary user below it.
-  file(CHMOD ${home} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE
-    GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
-  add_executable(tst_${name} tst_${name}.cpp ${ARG_SOURCES})
-  set_target_properties(tst_${name} PROPERTIES AUTOMOC ON CXX_EXTENSIONS OFF)
-  target_include_directories(tst_${name} PRIVATE ${PROJECT_SOURCE_DIR})
-  if(ARG_ENGINE)
-    target_link_libraries(tst_${name} PRIVATE ravel_test_support Ravel::engine Qt5::Test ${ARG_LINK} ravel_flags)
-  elseif(ARG_HOST)
-    target_link_libraries(tst_${name} PRIVATE ravel_test_support ravel_host_window Qt5::Test ${ARG_LINK} ravel_flags)
-  else()
-    target_link_libraries(tst_${name} PRIVATE ravel_test_support Ravel::testable Qt5::Test Qt5::Widgets ${ARG_LINK} ravel_flags)
-  endif()
-  target_compile_definitions(tst_${name} PRIVATE QT_FORCE_ASSERTS RAVEL_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
-  add_test(NAME ${folder}.${name} COMMAND tst_${name})
-  set_tests_properties(${folder}.${name} PROPERTIES
-    LABELS "${ARG_LABELS}" RESOURCE_LOCK "${ARG_LOCK}" TIMEOUT "${ARG_TIMEOUT}"
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/.config;XDG_RUNTIME_DIR=${home}/run;TMPDIR=${home};http_proxy=;https_proxy=;ftp_proxy=;HTTP_PROXY=;HTTPS_PROXY=;no_proxy=;${ARG_ENVIRONMENT}")
-endfunction()

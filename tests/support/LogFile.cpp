@@ -4,20 +4,36 @@
 
 #include "core/RVLogger.h"
 
+#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 
-LogFile::LogFile()
+namespace
+{
+
+void sendTo(const QString &path)
 {
     RVPaths paths;
-    paths.rootLog = paths.userLog = path();
+    paths.rootLog = paths.userLog = path;
+    RVLogger::close();
     RVLogger::setPaths(paths);
+}
+
+} // namespace
+
+LogFile::LogFile()
+{
+    sendTo(path());
 }
 
 LogFile::~LogFile()
 {
-    RVLogger::close();
-    RVLogger::setPaths({});
+    sendToTestFolder();
+}
+
+void LogFile::sendToTestFolder()
+{
+    sendTo(QDir::temp().filePath(QStringLiteral("log-of-the-test")));
 }
 
 QString LogFile::path() const

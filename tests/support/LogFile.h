@@ -9,12 +9,15 @@
 
 #include <functional>
 
-/// Sends the process's log to a private place for as long as it lives, and reads it back.
+/// Sends the process's log to a private place for as long as it lives, and reads it back. Without
+/// one, a test program logs into its own folder.
 class LogFile
 {
 public:
     LogFile();
     ~LogFile();
+
+    static void sendToTestFolder();
 
     QString path() const;
     /// The file as it stands, header and time stamps included.
