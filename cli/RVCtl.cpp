@@ -33,15 +33,14 @@ const QString versionOption = QStringLiteral("version");
 QList<QCommandLineOption> programOptions()
 {
     return {
-        {rootOption,
-         QStringLiteral("Work on the system below the directory DIR instead of on this one."),
+        {rootOption, QStringLiteral("Work on the system below DIR instead of this one."),
          QStringLiteral("DIR")},
-        {definitionsOption, QStringLiteral("Read the definition files of DIR."),
+        {definitionsOption, QStringLiteral("Read the definition files in DIR."),
          QStringLiteral("DIR")},
         {jsonOption, QStringLiteral("Print one JSON document.")},
-        {timeoutOption, QStringLiteral("Give up after SECONDS, with exit code 124."),
+        {timeoutOption, QStringLiteral("Give up after SECONDS with exit code 124."),
          QStringLiteral("SECONDS")},
-        {quietOption, QStringLiteral("Say nothing but errors beside the result.")},
+        {quietOption, QStringLiteral("Print only errors on standard error.")},
         {{QStringLiteral("h"), helpOption}, QStringLiteral("Show this help.")},
         {{QStringLiteral("v"), versionOption}, QStringLiteral("Show the version.")},
     };
@@ -51,11 +50,10 @@ QString exitCodes()
 {
     return QStringLiteral(
         "Exit codes:\n"
-        "  0 done, 1 the system or its settings cannot be used, or lint found defects,\n"
-        "  2 usage, 3 network,\n"
-        "  4 a damaged or short archive, 5 space, 6 the package database is locked,\n"
-        "  7 the installer failed, 8 done in part, 9 a signature or a sum is wrong,\n"
-        "  10 something is new (list --exit-code), 124 timeout\n");
+        "  0 done, 1 unusable system or settings, or lint found defects, 2 usage,\n"
+        "  3 network, 4 damaged archive, 5 not enough space, 6 package database locked,\n"
+        "  7 installer failed, 8 done in part, 9 wrong or missing signature or sum,\n"
+        "  10 something is new (list --exit-code), 124 timeout, 128+N ended by signal N\n");
 }
 
 QString optionsText(const QList<QCommandLineOption> &options)
@@ -213,10 +211,10 @@ RVCtlResult runCommand(const QStringList &arguments, RVCtlMessages *messages)
             QStringLiteral("ravelctl %1\n").arg(QCoreApplication::applicationVersion()));
     }
     if (name.isEmpty() && isParsed) {
-        return usage(QStringLiteral("No command is given; --help lists them."));
+        return usage(QStringLiteral("No command given; --help lists the commands."));
     }
     if (!name.isEmpty() && !command) {
-        return usage(QStringLiteral("There is no command '%1'; --help lists them.").arg(name));
+        return usage(QStringLiteral("Unknown command '%1'; --help lists the commands.").arg(name));
     }
     if (!isParsed) {
         return usage(parser.errorText());
@@ -255,7 +253,7 @@ RVCtlResult runCommand(const QStringList &arguments, RVCtlMessages *messages)
             QStringLiteral("Interrupted."));
     }
     if (deadline.timedOut()) {
-        return RVCtlResult::failed(RVCtlExit::Timeout, QStringLiteral("The time is up."));
+        return RVCtlResult::failed(RVCtlExit::Timeout, QStringLiteral("Timed out."));
     }
     return result;
 }
@@ -291,7 +289,7 @@ int RVCtl::run(const QStringList &arguments)
     }
     RVLogger::close();
     if (!printed) {
-        messages.error(QStringLiteral("The result cannot be written."));
+        messages.error(QStringLiteral("The result could not be written."));
         return static_cast<int>(RVCtlExit::Failed);
     }
     return static_cast<int>(result.exit);

@@ -91,7 +91,7 @@ void add(const QUrl &url, qint64 size, bool isArchive, QVector<File> *files)
         }
     }
     if (file.name.isEmpty()) {
-        file.fault = targetFault(QStringLiteral("The address ends in no name for a file."));
+        file.fault = targetFault(QStringLiteral("The address does not end in a file name."));
     }
     files->append(file);
 }
@@ -250,10 +250,9 @@ void fetchAll(const RVCtlCall &call, const RVCtlOffers &section, RVCtlAccess *ac
 QList<QCommandLineOption> RVCtlCommands::downloadOptions()
 {
     QList<QCommandLineOption> options{
-        {toOption, QStringLiteral("The folder; it is made when it is missing."),
-         QStringLiteral("DIR")},
+        {toOption, QStringLiteral("The folder; it is created if missing."), QStringLiteral("DIR")},
         {allOption, QStringLiteral("Download everything that is offered.")},
-        {againOption, QStringLiteral("Download also what is already there.")},
+        {againOption, QStringLiteral("Also download what is already there.")},
     };
     return options + RVCtlAccess::options();
 }
@@ -263,12 +262,13 @@ RVCtlResult RVCtlCommands::download(const RVCtlCall &call)
     const QStringList names = call.arguments.mid(1);
     const bool isAll = call.parser.isSet(allOption);
     if (call.parser.value(toOption).isEmpty()) {
-        return RVCtlResult::failed(RVCtlExit::Usage,
-                                   QStringLiteral("--to names the folder to download into."));
+        return RVCtlResult::failed(
+            RVCtlExit::Usage,
+            QStringLiteral("--to is missing: it names the folder to download into."));
     }
     if (isAll && !names.isEmpty()) {
         return RVCtlResult::failed(RVCtlExit::Usage,
-                                   QStringLiteral("--all and names exclude each other."));
+                                   QStringLiteral("--all cannot be combined with names."));
     }
     RVCtlResult result;
     RVCtlAccess access(call.messages);
@@ -301,8 +301,8 @@ RVCtlResult RVCtlCommands::download(const RVCtlCall &call)
         file.isPresent = state == RVCtlFolder::Present && !call.parser.isSet(againOption)
             && isListed(file, trust.data(), folder);
         if (state == RVCtlFolder::Foreign) {
-            file.fault =
-                targetFault(QStringLiteral("What has its name in the folder is no regular file."));
+            file.fault = targetFault(QStringLiteral(
+                "The folder already holds something that is not a regular file under that name."));
         }
     }
     if (!RVCtlSpace::fits(bytesToFetch(files), folder.path(), &error)) {

@@ -35,7 +35,7 @@ QString sentence(RVEligibility reason, const DescriptorGeneric &descriptor,
     case RVEligibility::Offered:
         return QStringLiteral("offered");
     case RVEligibility::NoFilter:
-        return QStringLiteral("no filter of the section picks it");
+        return QStringLiteral("no filter of the section matches it");
     case RVEligibility::NoDescriptor:
         return QStringLiteral("no descriptor of the same core name");
     case RVEligibility::ForeignLink:

@@ -60,8 +60,8 @@ bool isConfirmed(const RVCtlCall &call, const RVCtlBatch &batch, QString *error)
         return true;
     }
     if (::isatty(STDIN_FILENO) != 1 || ::isatty(STDERR_FILENO) != 1) {
-        *error = QStringLiteral("An image replaces everything on the device and restarts it: it is "
-                                "installed with --yes only. Nothing was started.");
+        *error = QStringLiteral("An image replaces everything on the device and restarts it, so it "
+                                "needs --yes. Nothing was started.");
         return false;
     }
     const RVCtlOffers::Entry &image = batch.updates.constFirst();
@@ -69,9 +69,9 @@ bool isConfirmed(const RVCtlCall &call, const RVCtlBatch &batch, QString *error)
                             .arg(image.name(), image.version()));
     if (batch.entries.first().trust) {
         call.messages.error(
-            QStringLiteral("It is read once now and compared with its sum, which finds damage. The "
-                           "device fetches it again after the restart and checks nothing: a "
-                           "hostile server can give it another one then."));
+            QStringLiteral("It is read once now and compared with its sum, which reveals damage. "
+                           "After the restart the device fetches it again and checks nothing: a "
+                           "hostile server can then deliver another one."));
     }
     std::fputs("Install it? [y/N] ", stderr);
     std::fflush(stderr);
@@ -90,7 +90,8 @@ QList<QCommandLineOption> RVCtlCommands::installOptions()
     QList<QCommandLineOption> options{
         {yesOption, QStringLiteral("Install an image without asking.")},
         {lockTimeoutOption,
-         QStringLiteral("Wait up to SECONDS for whoever uses the package database; 0 without it."),
+         QStringLiteral(
+             "Wait up to SECONDS for the lock of the package database; the default is 0."),
          QStringLiteral("SECONDS")},
     };
     return options + RVCtlAccess::options();

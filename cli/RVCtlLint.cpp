@@ -86,7 +86,7 @@ bool Lint::sortArguments()
             m_paths.append(argument);
         } else {
             return fail(RVCtlExit::Usage,
-                        QStringLiteral("There is no section and no file '%1'.").arg(argument));
+                        QStringLiteral("'%1' is neither a section nor a file.").arg(argument));
         }
     }
     return true;
@@ -125,14 +125,16 @@ bool Lint::findSections()
     if (isAll || !m_names.isEmpty()) {
         if (!m_definitions.isCompilable()) {
             return fail(RVCtlExit::Failed,
-                        QStringLiteral("Repositories are not checked: a pattern is too costly."));
+                        QStringLiteral(
+                            "Repositories are not checked: a pattern takes too long to compile."));
         }
         if (!m_call.world.readSections(&error)) {
             return fail(RVCtlExit::Failed, error);
         }
         if (m_call.world.sections().size()
             != static_cast<std::size_t>(m_definitions.sections().size())) {
-            return fail(RVCtlExit::Failed, QStringLiteral("The definition files have changed."));
+            return fail(RVCtlExit::Failed,
+                        QStringLiteral("The definition files changed during the check."));
         }
         if (!m_call.world.find(m_names, &m_sections, &error)
             || !m_access.read(m_call.parser, m_call.deadline, &error)
@@ -213,7 +215,7 @@ RVCtlResult Lint::run()
         const bool hasSystem = !m_sections.isEmpty() && m_call.world.readSystem(&error);
         if (!m_sections.isEmpty() && !hasSystem) {
             m_call.messages.note(
-                QStringLiteral("%1 What fits this system is not checked.").arg(error));
+                QStringLiteral("%1 Whether updates fit this system is not checked.").arg(error));
         }
         for (const RVCtlWorld::Section &section : qAsConst(m_sections)) {
             checkSection(section, hasSystem ? &m_call.world.system() : nullptr);
@@ -248,7 +250,7 @@ RVCtlResult Lint::result() const
         result.exit = m_unreachable.size() == m_sections.size() && m_paths.isEmpty()
             ? RVCtlExit::Network
             : RVCtlExit::DoneInPart;
-        result.error = QStringLiteral("Not every repository could be listed: %1")
+        result.error = QStringLiteral("Some repositories could not be listed: %1")
                            .arg(m_unreachable.constFirst());
     } else if (!m_failure.error.isEmpty()) {
         result.exit = m_failure.exit;
@@ -286,8 +288,7 @@ RVCtlResult kinds()
 QList<QCommandLineOption> RVCtlCommands::lintOptions()
 {
     return QList<QCommandLineOption>{
-               {kindsOption,
-                QStringLiteral("List every kind of defect, and what the program makes of it.")},
+               {kindsOption, QStringLiteral("List every kind of defect and its effect.")},
            }
     + RVCtlAccess::options();
 }

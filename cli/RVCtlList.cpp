@@ -85,8 +85,8 @@ QList<QCommandLineOption> RVCtlCommands::listOptions()
 {
     return QList<QCommandLineOption>{
                {QStringLiteral("all"),
-                QStringLiteral("Show also what is not offered, each with its reason.")},
-               {QStringLiteral("exit-code"), QStringLiteral("Exit with 10 when something is new.")},
+                QStringLiteral("Also show what is not offered, each with its reason.")},
+               {QStringLiteral("exit-code"), QStringLiteral("Exit with 10 if something is new.")},
            }
     + RVCtlAccess::options();
 }

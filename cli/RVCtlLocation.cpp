@@ -89,15 +89,15 @@ RVCtlResult RVCtlCommands::location(const RVCtlCall &call)
         if (text == QLatin1String("-")) {
             if (!RVCtlPassword::fromFile(QStringLiteral("/dev/stdin"), call.deadline, &text,
                                          &error)) {
-                return RVCtlResult::failed(
-                    RVCtlExit::Usage, QStringLiteral("There is no location on standard input."));
+                return RVCtlResult::failed(RVCtlExit::Usage,
+                                           QStringLiteral("Standard input holds no location."));
             }
         } else if (!QUrl(text).password().isEmpty()) {
             return RVCtlResult::failed(
                 RVCtlExit::Usage,
                 QStringLiteral(
-                    "A location with a password is no argument, which every user can "
-                    "read: `ravelctl location SECTION -` takes it from standard input."));
+                    "Every user can see a location with a password among the arguments; use "
+                    "`ravelctl location SECTION -`, which reads it from standard input."));
         }
         const bool isStandard = text == QLatin1String("default");
         const QUrl url = isStandard ? repository->defaultUrl() : QUrl(text);
@@ -113,7 +113,8 @@ RVCtlResult RVCtlCommands::location(const RVCtlCall &call)
         }
         if (url.isRelative() && !url.isEmpty() && !url.path().startsWith(QLatin1Char('/'))) {
             call.messages.warning(
-                QStringLiteral("'%1' is relative to wherever the program runs.").arg(text));
+                QStringLiteral("'%1' is relative to the directory that the program runs in.")
+                    .arg(text));
         }
         RVLogger().log(5, "New repository URI (%d) '%s'", section->index,
                        RVLogger::oneLine(url).constData());

@@ -103,7 +103,7 @@ bool RVCtlOffers::isOneServer(const QList<RVCtlWorld::Section> &sections, QStrin
         }
     }
     if (servers.size() > 1) {
-        *error = QStringLiteral("--user is for one server: name sections of one.");
+        *error = QStringLiteral("--user is for one server; name only sections on that server.");
     }
     return servers.size() <= 1;
 }
@@ -286,7 +286,7 @@ void RVCtlOffers::judge(const QList<RVCtlOffers> &sections, RVCtlResult *result)
                             .arg(first);
     } else if (isPartial) {
         result->exit = RVCtlExit::DoneInPart;
-        result->error = QStringLiteral("Some descriptors could not be fetched, or are refused.");
+        result->error = QStringLiteral("Some descriptors could not be fetched or were refused.");
     }
 }
 

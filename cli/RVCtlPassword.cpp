@@ -150,8 +150,8 @@ bool RVCtlPassword::fromTerminal(const QString &user, const RVCtlDeadline &deadl
 {
     const Descriptor terminal(::open("/dev/tty", O_RDWR | O_CLOEXEC | O_NOCTTY));
     if (terminal.number < 0) {
-        *error = QStringLiteral("There is no terminal to ask for the password on: "
-                                "--password-file names a file with it.");
+        *error = QStringLiteral("There is no terminal to ask for the password on; use "
+                                "--password-file.");
         return false;
     }
     const auto print = [&terminal](const QByteArray &text) {

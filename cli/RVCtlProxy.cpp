@@ -131,11 +131,11 @@ QString apply(const QStringList &arguments, RVProxySettings *settings)
     const QString name = arguments.constFirst().toUpper();
     const int type = RVProxySettings::typeNames().indexOf(name);
     if (type < 0 && name != all) {
-        return QStringLiteral("'%1' is no type of proxy: http, https, ftp or all.")
+        return QStringLiteral("'%1' is not a type of proxy; use http, https, ftp or all.")
             .arg(arguments.constFirst());
     }
     if (!parse(arguments.at(1), &proxy)) {
-        return QStringLiteral("'%1' is no proxy: HOST:PORT or none.").arg(arguments.at(1));
+        return QStringLiteral("'%1' is not a proxy; use HOST:PORT or none.").arg(arguments.at(1));
     }
     if (name != all) {
         setOne(settings, type, proxy);

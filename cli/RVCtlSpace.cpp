@@ -93,7 +93,7 @@ bool RVCtlSpace::fits(qint64 bytes, const QString &directory, QString *error)
     if (available < 0 || bytes <= available) {
         return true;
     }
-    *error = QStringLiteral("There is not enough space in '%1': %2 are needed, %3 are free.")
+    *error = QStringLiteral("Not enough space in '%1': %2 needed, %3 free.")
                  .arg(directory, RVCtlText::size(bytes), RVCtlText::size(available));
     return false;
 }

@@ -84,7 +84,7 @@ bool addFiles(const QDir &folder, RVChecksums *list, QString *error)
         }
         const QByteArray sum = sumOf(&file, file.size());
         if (sum.isEmpty()) {
-            *error = QStringLiteral("'%1' changes while it is read.").arg(text);
+            *error = QStringLiteral("'%1' changed while it was read.").arg(text);
             return false;
         }
         list->sums.insert(name, sum);
@@ -108,7 +108,7 @@ bool readOld(const QDir &folder, RVChecksums *old, QString *error)
         ? RVChecksums::parse(file.read(RVChecksums::maxBytes + 1), &reason)
         : std::nullopt;
     if (!list) {
-        *error = QStringLiteral("The old list cannot be read (%1): give --id and --serial.")
+        *error = QStringLiteral("The old list cannot be read (%1); give --id and --serial.")
                      .arg(reason.isEmpty() ? file.errorString() : reason);
         return false;
     }
@@ -140,7 +140,7 @@ bool setHead(const RVCtlCall &call, const RVChecksums &old, RVChecksums *list, Q
         ? call.parser.value(serialOption).toLongLong(&isNumber)
         : next;
     if (!isNumber || *list->serial < 0) {
-        *error = QStringLiteral("--serial takes a number that is not negative.");
+        *error = QStringLiteral("--serial takes a number of 0 or more.");
         return false;
     }
     return true;
@@ -151,10 +151,12 @@ bool setHead(const RVCtlCall &call, const RVChecksums &old, RVChecksums *list, Q
 QList<QCommandLineOption> RVCtlCommands::sumsOptions()
 {
     return {
-        {idOption, QStringLiteral("What the list calls its repository; the old list's without it."),
+        {idOption, QStringLiteral("The id of the repository; the default is the old list's."),
          QStringLiteral("ID")},
-        {validOption, QStringLiteral("How long the list is valid: 30d."), QStringLiteral("DAYS")},
-        {serialOption, QStringLiteral("The list's number; the old list's and one more without it."),
+        {validOption, QStringLiteral("How long the list is valid, such as 30d."),
+         QStringLiteral("DAYS")},
+        {serialOption,
+         QStringLiteral("The number of the list; the default is the old list's plus one."),
          QStringLiteral("N")},
     };
 }

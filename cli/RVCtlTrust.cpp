@@ -141,16 +141,16 @@ RVCtlResult RVCtlCommands::trust(const RVCtlCall &call)
     if (policy.kind != RVTrustPolicy::Signed || policy.fault.isSet()) {
         return RVCtlResult::failed(
             RVCtlExit::Usage,
-            QStringLiteral("Section %1 has no signature to remember.").arg(section->index));
+            QStringLiteral("Section %1 has no signed list to forget.").arg(section->index));
     }
     RVTrustState state(call.world.paths());
     if (!state.forget(policy.repositoryId, policy.keyring, &error)) {
         return RVCtlResult::failed(
             RVCtlExit::Failed,
-            QStringLiteral("What is remembered cannot be removed: %1").arg(error));
+            QStringLiteral("The newest list cannot be forgotten: %1").arg(error));
     }
     return {RVCtlExit::Done,
-            QStringLiteral("The next refresh takes any list that is valid.\n"),
+            QStringLiteral("The next refresh accepts any valid list.\n"),
             {{QStringLiteral("index"), section->index},
              {QStringLiteral("trust"), RVCtlTrust::toJson(*section->repository)}},
             {}};

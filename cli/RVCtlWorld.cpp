@@ -74,7 +74,8 @@ const RVCtlWorld::Section *RVCtlWorld::find(const QString &name, QString *error)
     };
     const auto found = std::find_if(m_sections.begin(), m_sections.end(), hasKey);
     if (found == m_sections.end()) {
-        *error = QStringLiteral("There is no section '%1'; `ravelctl repos` lists them.").arg(name);
+        *error =
+            QStringLiteral("Unknown section '%1'; `ravelctl repos` lists the sections.").arg(name);
         return nullptr;
     }
     if (std::find_if(found + 1, m_sections.end(), hasKey) != m_sections.end()) {

@@ -48,7 +48,7 @@ void tst_RVCtlSizes::sumsSaturate_data()
     };
     const auto refused = [row](const char *title, int updates, const char *suffix,
                                const QByteArray &sizes, const char *arguments) {
-        row(title, updates, suffix, sizes, arguments, 5, "There is not enough space");
+        row(title, updates, suffix, sizes, arguments, 5, "Not enough space");
     };
     // As a double, which is what a document's numbers are.
     row("the plan's downloads", 4, ".deb", element("size", most), "plan 0", 0,
