@@ -5,6 +5,7 @@
 #include "cli/RVCtlAccess.h"
 #include "cli/RVCtlDeadline.h"
 #include "cli/RVCtlMessages.h"
+#include "cli/RVCtlText.h"
 #include "cli/RVCtlTrust.h"
 #include "core/RVOrigin.h"
 #include "core/RVText.h"
@@ -21,11 +22,6 @@
 
 namespace
 {
-
-QJsonValue textOrNull(const QString &text)
-{
-    return text.isEmpty() ? QJsonValue() : QJsonValue(text);
-}
 
 bool isRemote(const QUrl &url)
 {
@@ -77,16 +73,16 @@ QJsonObject RVCtlOffers::Entry::toJson() const
         return bytes < 0 ? QJsonValue() : QJsonValue(bytes);
     };
     return {
-        {QStringLiteral("name"), textOrNull(name())},
+        {QStringLiteral("name"), RVCtlText::jsonOrNull(name())},
         {QStringLiteral("title"), title()},
         {QStringLiteral("version"), version()},
-        {QStringLiteral("installed"), textOrNull(proposal.installed)},
-        {QStringLiteral("state"), textOrNull(state())},
+        {QStringLiteral("installed"), RVCtlText::jsonOrNull(proposal.installed)},
+        {QStringLiteral("state"), RVCtlText::jsonOrNull(state())},
         {QStringLiteral("size"), size(description ? description->size() : -1)},
         {QStringLiteral("unpackedSize"), size(description ? description->unpackedSize() : -1)},
         {QStringLiteral("installedSize"), size(description ? description->installedSize() : -1)},
         {QStringLiteral("archive"), RVUrl::shown(archive)},
-        {QStringLiteral("descriptor"), textOrNull(RVUrl::shown(descriptor))},
+        {QStringLiteral("descriptor"), RVCtlText::jsonOrNull(RVUrl::shown(descriptor))},
         {QStringLiteral("offered"), isOffered()},
         {QStringLiteral("preselected"), proposal.preselected},
         {QStringLiteral("reason"), reasonWord(reason)},

@@ -20,7 +20,7 @@ const QString idOption = QStringLiteral("id");
 const QString validOption = QStringLiteral("valid-for");
 const QString serialOption = QStringLiteral("serial");
 
-constexpr int pieceSize = 64 * 1024;
+constexpr int readAtOnce = 64 * 1024;
 /// Ten years; a list that is valid for longer is valid for ever.
 constexpr int longestDays = 3660;
 
@@ -47,7 +47,7 @@ QByteArray sumOf(QFile *file, qint64 length)
         return {};
     }
     while (length > 0) {
-        const QByteArray piece = file->read(qMin<qint64>(length, pieceSize));
+        const QByteArray piece = file->read(qMin<qint64>(length, readAtOnce));
         if (piece.isEmpty()) {
             return {};
         }

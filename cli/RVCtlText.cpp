@@ -49,6 +49,11 @@ QByteArray RVCtlText::json(const QJsonObject &document)
     return RVText::safeLines(QString::fromUtf8(QJsonDocument(document).toJson())).toUtf8();
 }
 
+QJsonValue RVCtlText::jsonOrNull(const QString &text)
+{
+    return text.isEmpty() ? QJsonValue() : QJsonValue(text);
+}
+
 QString RVCtlText::table(const QStringList &headings, const QVector<QStringList> &rows)
 {
     QVector<QStringList> lines{headings};

@@ -14,6 +14,8 @@ namespace RVCtlText
 
 /// A document that is printed to a terminal without harm; what is not visible is escaped.
 QByteArray json(const QJsonObject &document);
+/// Null for an empty text.
+QJsonValue jsonOrNull(const QString &text);
 /// Columns under their headings; the cells are made safe.
 QString table(const QStringList &headings, const QVector<QStringList> &rows);
 /// "Label:  value" lines with aligned values, which are made safe; empty values are left out.

@@ -3,6 +3,7 @@
 #include "cli/RVCtlTrust.h"
 
 #include "cli/RVCtlCommand.h"
+#include "cli/RVCtlText.h"
 #include "cli/RVCtlWorld.h"
 #include "core/RVText.h"
 #include "repository/RVRepository.h"
@@ -22,11 +23,6 @@ QString policyWord(RVTrustPolicy::Kind kind)
         return QStringLiteral("signed");
     }
     return {};
-}
-
-QJsonValue textOrNull(const QString &text)
-{
-    return text.isEmpty() ? QJsonValue() : QJsonValue(text);
 }
 
 QString shown(qint64 seconds)
@@ -92,8 +88,8 @@ QJsonObject RVCtlTrust::toJson(const RVRepository &repository)
     };
     return {
         {QStringLiteral("kind"), policyWord(policy.kind)},
-        {QStringLiteral("keyring"), textOrNull(policy.keyring)},
-        {QStringLiteral("repositoryId"), textOrNull(policy.repositoryId)},
+        {QStringLiteral("keyring"), RVCtlText::jsonOrNull(policy.keyring)},
+        {QStringLiteral("repositoryId"), RVCtlText::jsonOrNull(policy.repositoryId)},
         {QStringLiteral("signer"), found(trust ? trust->signer() : QString())},
         {QStringLiteral("signedAt"), found(trust ? shown(trust->signedAt()) : QString())},
         {QStringLiteral("validUntil"),
@@ -101,7 +97,8 @@ QJsonObject RVCtlTrust::toJson(const RVRepository &repository)
         // A text: a document's numbers are not exact above 2^53.
         {QStringLiteral("serial"),
          found(trust ? QString::number(*trust->list().serial) : QString())},
-        {QStringLiteral("forgetting"), trust ? textOrNull(trust->forgetting()) : QJsonValue()},
+        {QStringLiteral("forgetting"),
+         trust ? RVCtlText::jsonOrNull(trust->forgetting()) : QJsonValue()},
         {QStringLiteral("error"), toJson(fault)},
     };
 }

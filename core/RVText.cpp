@@ -74,6 +74,12 @@ QString RVText::shown(const QString &text)
     return QString::fromUcs4(result.constData(), result.size());
 }
 
+QString RVText::shown(const QString &text, int longest)
+{
+    // First, so that a long text costs no more than a short one.
+    return shown(shortened(text, longest));
+}
+
 QString RVText::shortened(const QString &text, int length)
 {
     if (text.size() <= length) {

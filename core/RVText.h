@@ -19,6 +19,8 @@ QString safeLines(const QString &text);
 /// have no width, so that two names that look the same are the same. What joins letters stays, and
 /// a control character but a tabulator is a blank.
 QString shown(const QString &text);
+/// At most `longest` characters of it.
+QString shown(const QString &text, int longest);
 /// At most `length` characters, the last of them an ellipsis when something is left out.
 QString shortened(const QString &text, int length);
 

@@ -22,7 +22,7 @@ constexpr int headLength = 4096;
 
 const QString listTag = QStringLiteral("repository_list");
 const QString repositoryTag = QStringLiteral("repository");
-const QString titleTag = QStringLiteral("title");
+const QString sectionTitleTag = QStringLiteral("title");
 const QString descriptionTag = QStringLiteral("description");
 const QString labelTag = QStringLiteral("uri_description");
 const QString keyTag = QStringLiteral("settings_key");
@@ -183,7 +183,7 @@ void RVLintDefinition::checkSection(RVLintDocument *document, QDomElement elemen
     section.definition->parse(element);
 
     RVLintFields fields;
-    fields.texts = QStringList{titleTag, descriptionTag, labelTag};
+    fields.texts = QStringList{sectionTitleTag, descriptionTag, labelTag};
     fields.values = QStringList{keyTag,       uriTag,      selectorTag,     iconTag,
                                 filterSpsTag, signedByTag, repositoryIdTag, checksumsTag};
     fields.parts = QStringList{filterTag};
@@ -202,7 +202,7 @@ void RVLintDefinition::checkTexts(RVLintDocument *document, const QDomElement &e
                                   const QHash<QString, QVector<QDomElement>> &fields)
 {
     const QVector<QPair<QString, RVLintKind>> texts{
-        {titleTag, RVLintKind::NoTitle},
+        {sectionTitleTag, RVLintKind::NoTitle},
         {descriptionTag, RVLintKind::NoDescription},
         {labelTag, RVLintKind::NoLocationLabel},
     };

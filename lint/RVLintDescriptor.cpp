@@ -33,7 +33,7 @@ const QString architectureTag = QStringLiteral("architecture");
 const QString clientTag = QStringLiteral("thin_client");
 const QString subdocTag = QStringLiteral("subdoc");
 const QString attributesTag = QStringLiteral("sp-attrs");
-const QString descriptionTag = QStringLiteral("service-pack-description");
+const QString servicePackTag = QStringLiteral("service-pack-description");
 
 RVLintFields descriptionFields()
 {
@@ -75,7 +75,7 @@ void checkPart(RVLintDocument *document, const QDomElement &part, RVLintDocument
 
 bool isOne(const QString &tag)
 {
-    return tag == attributesTag || tag == descriptionTag;
+    return tag == attributesTag || tag == servicePackTag;
 }
 
 } // namespace
@@ -148,7 +148,7 @@ void RVLintDescriptor::checkXar(const QString &path, bool isDescriptor)
         RVLintDocument *document = documents.back().get();
         if (document->load(text) && isOne(document->root().tagName())) {
             checkPart(document, document->root(), &fields);
-            if (document->root().tagName() == descriptionTag) {
+            if (document->root().tagName() == servicePackTag) {
                 description = document;
             }
         }
@@ -185,7 +185,7 @@ void RVLintDescriptor::checkDocument(RVLintDocument *document)
                  element = element.nextSiblingElement()) {
                 if (isOne(element.tagName())) {
                     checkPart(document, element, &fields);
-                    isDescribed = isDescribed || element.tagName() == descriptionTag;
+                    isDescribed = isDescribed || element.tagName() == servicePackTag;
                 }
             }
         }

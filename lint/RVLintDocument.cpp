@@ -19,7 +19,6 @@ constexpr int longestText = 1000;
 constexpr int farthestTypo = 2;
 
 const QString langAttribute = QStringLiteral("xml:lang");
-const QString notesTag = QStringLiteral("notes");
 
 /// As LocaleString is asked: the language of the system, with its country or without.
 bool isLanguage(const QString &code)
@@ -255,7 +254,7 @@ void RVLintDocument::checkText(const QDomElement &element)
         add(RVLintKind::LangUnknown, element, language);
     }
     const int length = valueOf(element).size();
-    const int limit = tag == notesTag ? longestNotes : longestText;
+    const int limit = tag == QLatin1String("notes") ? longestNotes : longestText;
     if (length > limit) {
         add(RVLintKind::TextTooLong, element,
             QStringLiteral("%1, %2 characters").arg(quoted(tag)).arg(length));

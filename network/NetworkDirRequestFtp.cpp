@@ -13,8 +13,6 @@
 namespace
 {
 
-constexpr quint16 ftpPort = 21;
-
 /// A query or a fragment is no part of a directory, and nothing can be appended to it.
 QString directoryText(const QUrl &url)
 {
@@ -99,7 +97,7 @@ void NetworkDirRequestFtp::requestFtpListing()
         m_ftp->setProxy(m_proxy.hostName(), m_proxy.port());
     }
     m_host = m_url.host().isEmpty() ? QStringLiteral("127.0.0.1") : m_url.host();
-    m_port = m_url.port(ftpPort);
+    m_port = m_url.port(XFtp::defaultPort);
     const RVLogin login = FtpCredentials::forUrl(m_url);
     m_user = login.user;
     m_password = login.password;

@@ -27,11 +27,11 @@ const QSet<int> &unknownAuthority()
     return codes;
 }
 
-struct Word {
+struct AcceptableError {
     const char *name = nullptr;
     QSslError::SslError code = QSslError::NoError;
 };
-constexpr Word words[] = {
+constexpr AcceptableError acceptable[] = {
     {"expired", QSslError::CertificateExpired},
     {"not-yet-valid", QSslError::CertificateNotYetValid},
     {"host", QSslError::HostNameMismatch},
@@ -99,10 +99,11 @@ bool RVCertificates::acceptFingerprint(const QString &text)
     const QStringList names =
         match.captured(2).isEmpty() ? QStringList() : match.captured(2).split(QLatin1Char(','));
     for (const QString &name : names) {
-        const auto *word = std::find_if(std::begin(words), std::end(words), [&](const Word &known) {
-            return QLatin1String(known.name) == name;
-        });
-        if (word == std::end(words)) {
+        const auto *word = std::find_if(std::begin(acceptable), std::end(acceptable),
+                                        [&](const AcceptableError &known) {
+                                            return QLatin1String(known.name) == name;
+                                        });
+        if (word == std::end(acceptable)) {
             return false;
         }
         accepted.codes.insert(word->code);
@@ -135,7 +136,7 @@ QString RVCertificates::optionFor(const RVCertificateFault &fault)
     }
     QSet<int> rest = fault.codes - unknownAuthority();
     QStringList names;
-    for (const Word &word : words) {
+    for (const AcceptableError &word : acceptable) {
         if (rest.remove(word.code)) {
             names.append(QLatin1String(word.name));
         }

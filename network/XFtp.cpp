@@ -22,7 +22,6 @@ constexpr qint64 maxListBytes = 16 * 1024 * 1024;
 constexpr qint64 controlBuffer = 64 * 1024;
 constexpr qint64 dataBuffer = 1024 * 1024;
 constexpr int graceMs = 2000;
-constexpr quint16 ftpPort = 21;
 
 bool isSendable(const QByteArray &text)
 {
@@ -291,7 +290,7 @@ void XFtp::open()
     quint16 port = m_current.port;
     if (!m_proxyHost.isEmpty()) {
         m_realHost = host.contains(':') ? '[' + host + ']' : host;
-        if (port != ftpPort) {
+        if (port != defaultPort) {
             m_realHost += ':' + QByteArray::number(port);
         }
         host = m_proxyHost;

@@ -29,6 +29,7 @@ class XFtp : public QObject
     Q_DISABLE_COPY_MOVE(XFtp)
 
 public:
+    static constexpr quint16 defaultPort = 21;
     enum State { Unconnected, HostLookup, Connecting, Connected, LoggedIn, Closing };
     /// ConnectionRefused: nobody listens there, or the greeting is a refusal. NotConnected: a
     /// command that needs a connection and has none. All else is UnknownError, a lost connection
@@ -47,7 +48,7 @@ public:
     /// Connect to this host instead, and name the real one at login (USER user@host[:port]). An
     /// empty host: no proxy any more.
     int setProxy(const QString &host, quint16 port);
-    int connectToHost(const QString &host, quint16 port = 21);
+    int connectToHost(const QString &host, quint16 port = defaultPort);
     /// Without a user: anonymous. Accounts (ACCT) are not supported.
     int login(const QString &user = {}, const QString &password = {});
     /// QUIT. Succeeds also when the server hangs up or stays silent, and when there is no

@@ -59,8 +59,8 @@ bool isControl(QChar c)
 // Dark red, as it always was, where the background lets it be read.
 QColor errorColour(const QPalette &palette)
 {
-    return palette.color(QPalette::Base).lightness() < 128 ? QColor(0xff, 0x80, 0x80)
-                                                           : QColor(0x99, 0x00, 0x00);
+    return RVStyle::isDark(palette.color(QPalette::Base)) ? QColor(0xff, 0x80, 0x80)
+                                                          : QColor(0x99, 0x00, 0x00);
 }
 
 } // namespace
@@ -351,8 +351,8 @@ void BusyDialog::follow(RVInstallProc *procedure)
     });
     connect(procedure, &RVInstallProc::archiveRefused, this,
             [this](const QUrl &archive, const QString &reason) {
-                showFault(RVText::shown(RVText::shortened(RVUrl::shown(archive), longestUrl))
-                          + QLatin1Char('\n') + reason);
+                showFault(RVText::shown(RVUrl::shown(archive), longestUrl) + QLatin1Char('\n')
+                          + reason);
             });
     connect(this, &BusyDialog::canceled, procedure, &RVInstallProc::cancel);
     connect(this, &BusyDialog::canceled, this, &QWidget::hide);

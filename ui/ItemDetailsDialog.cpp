@@ -33,11 +33,6 @@ constexpr int maximumContentRows = 1000;
 constexpr int maximumTextLength = 2000;
 constexpr int maximumUnbroken = 60;
 
-QString shortened(const QString &text, int length)
-{
-    return RVText::shown(RVText::shortened(text, length));
-}
-
 // As text in a rich-text label, which breaks lines at blanks only: a long run without one gets
 // places to break at, of no width.
 QString labelText(const QString &text)
@@ -45,7 +40,7 @@ QString labelText(const QString &text)
     constexpr QChar breakHere(0x200b);
     QString result;
     int unbroken = 0;
-    for (const QChar c : shortened(text, maximumTextLength)) {
+    for (const QChar c : RVText::shown(text, maximumTextLength)) {
         unbroken = c.isSpace() ? 0 : unbroken + 1;
         if (unbroken > maximumUnbroken && !c.isLowSurrogate()) {
             result += breakHere;
@@ -166,7 +161,8 @@ void ItemDetailsDialog::explainImageCheck()
 
 void ItemDetailsDialog::retranslateUi()
 {
-    setWindowTitle(shortened(DataXML::plainText(m_descriptor->name(QString())), maximumUnbroken));
+    setWindowTitle(
+        RVText::shown(DataXML::plainText(m_descriptor->name(QString())), maximumUnbroken));
     m_informationLabel->setText(information());
     m_contentsArea->setAccessibleName(tr("Contents"));
     m_notesView->setAccessibleName(tr("Notes"));
@@ -176,7 +172,7 @@ void ItemDetailsDialog::retranslateUi()
         const QStringList parts = files.value(i).split(QLatin1Char(' '));
         for (int column = 0; column < 2; ++column) {
             m_contentLabels.at(2 * i + column)
-                ->setText(shortened(DataXML::plainText(parts.value(column)), maximumUnbroken));
+                ->setText(RVText::shown(DataXML::plainText(parts.value(column)), maximumUnbroken));
         }
     }
     if (m_moreLabel) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "ui/RVChoiceItem.h"
 
+#include "ui/RVStyle.h"
+
 #include <QApplication>
 #include <QPainter>
 #include <QStyleOptionButton>
@@ -10,7 +12,6 @@ namespace
 {
 
 constexpr int margin = 8;
-constexpr int darkest = 128;
 
 const QStyle *styleOf(const QStyleOptionViewItem &option)
 {
@@ -20,8 +21,7 @@ const QStyle *styleOf(const QStyleOptionViewItem &option)
 // Styles outline an indicator in a darker shade of the window, which a dark one does not have.
 QPalette outlined(QPalette palette)
 {
-    const QColor base = palette.color(QPalette::Base);
-    if (base.lightness() < darkest) {
+    if (RVStyle::isDark(palette.color(QPalette::Base))) {
         palette.setColor(QPalette::Window, palette.color(QPalette::Text));
     }
     return palette;

@@ -36,9 +36,9 @@ QPushButton *actionButton(const QIcon &icon = {})
     return button;
 }
 
-QString shown(const QString &place)
+QString inMarkup(const QString &place)
 {
-    return RVText::shown(RVText::shortened(place, longestLocation)).toHtmlEscaped();
+    return RVText::shown(place, longestLocation).toHtmlEscaped();
 }
 
 QLabel *richLabel()
@@ -536,11 +536,11 @@ void RVControlFrame::focusPage()
 
 void RVControlFrame::showLocation()
 {
-    const QString location = shown(RVUrl::shown(m_repository->url()));
+    const QString location = inMarkup(RVUrl::shown(m_repository->url()));
     m_retrievalLabel->setText(
         tr("Retrieving data from repository<br /> <i>%1</i>", "The argument is a repository URI.")
             .arg(location));
-    const QString asking = m_asking == Asking::Repository ? location : shown(m_askingPlace);
+    const QString asking = m_asking == Asking::Repository ? location : inMarkup(m_askingPlace);
     m_authenticationLabel->setText(
         m_asking == Asking::Proxy
             ? tr("Authentication is required to use the proxy <br /><i>%1</i>").arg(asking)

@@ -15,7 +15,7 @@
 namespace
 {
 
-constexpr int longestUrl = 500;
+constexpr int longestShown = 500;
 constexpr int maximumWaiting = 20;
 
 } // namespace
@@ -33,9 +33,8 @@ RVErrorDialog::~RVErrorDialog() = default;
 void RVErrorDialog::showNetworkError(const QNetworkReply *reply)
 {
     // A page may link a name of any length, which a label takes minutes to lay out.
-    const QString text =
-        messageFor(qt4Error(reply->error()),
-                   RVText::shown(RVText::shortened(RVUrl::shown(reply->url()), longestUrl)));
+    const QString text = messageFor(qt4Error(reply->error()),
+                                    RVText::shown(RVUrl::shown(reply->url()), longestShown));
     if (text.isEmpty()) {
         return;
     }

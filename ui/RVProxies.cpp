@@ -22,7 +22,6 @@ namespace
 {
 
 constexpr int rowCount = RVProxySettings::typeCount;
-constexpr int darkest = 128;
 
 // Types of connection, which are no words of a language.
 const QString &type(int row)
@@ -276,7 +275,7 @@ void RVProxies::enableRows()
 void RVProxies::outlineButtons()
 {
     QPalette outlined;
-    if (palette().color(QPalette::Window).lightness() < darkest) {
+    if (RVStyle::isDark(palette().color(QPalette::Window))) {
         outlined.setColor(QPalette::Window, palette().color(QPalette::WindowText));
     }
     for (QAbstractButton *button :

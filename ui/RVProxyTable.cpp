@@ -15,7 +15,7 @@ namespace
 
 constexpr int highestPort = 65535;
 constexpr int longestSpoken = 300;
-constexpr int margin = 6;
+constexpr int cellMargin = 6;
 
 /// A cell that says which one it is, which its text alone does not.
 class Cell : public QTableWidgetItem
@@ -55,7 +55,7 @@ public:
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         // Room for the editor's frame.
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(2 * margin, margin);
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(2 * cellMargin, cellMargin);
     }
 
 protected:
@@ -204,7 +204,7 @@ void RVProxyTable::fitColumns()
     const int text = metrics.horizontalAdvance(QStringLiteral("000000"));
     resizeColumnToContents(SchemeColumn);
     setColumnWidth(PortColumn,
-                   qMax(text + icon + 4 * margin,
-                        horizontalHeader()->sectionSizeHint(PortColumn) + 2 * margin));
+                   qMax(text + icon + 4 * cellMargin,
+                        horizontalHeader()->sectionSizeHint(PortColumn) + 2 * cellMargin));
     updateGeometry();
 }

@@ -4,6 +4,7 @@
 
 #include "core/RVPaths.h"
 
+#include <QColor>
 #include <QIcon>
 #include <QString>
 
@@ -38,6 +39,9 @@ public:
     QIcon StdIcon(StdIcon_t number) const;
     /// Names are compared without regard to case.
     QIcon StdIcon(const QString &name) const;
+
+    /// Whether dark marks are lost on it.
+    static bool isDark(const QColor &background) { return background.lightness() < 128; }
 
 private:
     QString m_iconDir;

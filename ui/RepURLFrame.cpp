@@ -3,6 +3,7 @@
 #include "ui/RepURLFrame.h"
 
 #include "core/RVLogger.h"
+#include "core/RVText.h"
 #include "descriptor/DataXML.h"
 #include "network/XNetworkAccessManager.h"
 #include "ui/RVErrorDialog.h"
@@ -27,11 +28,6 @@ constexpr int longestLabel = 100;
 constexpr int longestInMessage = 300;
 // In characters; where there is less room its caption goes above it.
 constexpr int narrowestField = 26;
-
-QString shortened(const QString &text, int length)
-{
-    return text.size() > length ? text.left(length) + QChar(0x2026) : text;
-}
 
 class LocationField : public QLineEdit
 {
@@ -179,7 +175,7 @@ void RepURLFrame::keyPressEvent(QKeyEvent *event)
 
 void RepURLFrame::translate(const Row &row) const
 {
-    const QString label = shortened(DataXML::plainText(row.label.value({})), longestLabel);
+    const QString label = RVText::shortened(DataXML::plainText(row.label.value({})), longestLabel);
     row.caption->setText(QString(label).replace(QLatin1Char('&'), QLatin1String("&&")));
     row.field->setAccessibleName(label);
 }
@@ -190,12 +186,12 @@ bool RepURLFrame::accepts(const QString &text, const QUrl &url)
         return true;
     }
     if (!url.isValid()) {
-        showMessage(tr("'%1' is not a valid URI.").arg(shortened(text, longestInMessage)));
+        showMessage(tr("'%1' is not a valid URI.").arg(RVText::shortened(text, longestInMessage)));
         return false;
     }
     if (!XNetworkAccessManager().schemeIsSupported(url.scheme())) {
         showMessage(tr("'%1' is not a supported URI scheme.")
-                        .arg(shortened(url.scheme(), longestInMessage)));
+                        .arg(RVText::shortened(url.scheme(), longestInMessage)));
         return false;
     }
     return true;

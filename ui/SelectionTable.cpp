@@ -32,11 +32,6 @@ constexpr int smallestLabelWidth = 50;
 constexpr int referenceLine = 22;
 
 // Names, titles and versions come from a server: what is shown of them is bounded.
-QString shown(const QString &text)
-{
-    return RVText::shown(RVText::shortened(text, longestText));
-}
-
 // Tells a screen reader what is chosen or not; its own text is empty.
 class ChoiceItem : public QTableWidgetItem
 {
@@ -79,7 +74,7 @@ QTableWidgetItem *versionItem()
 
 void setVersion(QTableWidgetItem *item, const QString &version)
 {
-    const QString text = shown(version);
+    const QString text = RVText::shown(version, longestText);
     item->setText(text);
     item->setData(Qt::AccessibleTextRole, text);
     // A long version is drawn too small to read. Tool tips guess at markup: leave them no choice.
@@ -396,8 +391,8 @@ void SelectionTable::retranslateUi()
         if (!descriptor) {
             continue;
         }
-        const QString name = shown(DataXML::plainText(descriptor->name({})));
-        const QString title = shown(DataXML::plainText(descriptor->title({})));
+        const QString name = RVText::shown(DataXML::plainText(descriptor->name({})), longestText);
+        const QString title = RVText::shown(DataXML::plainText(descriptor->title({})), longestText);
         item(row, ChoiceColumn)->setData(Qt::AccessibleTextRole, name);
         QTableWidgetItem *update = item(row, UpdateColumn);
         update->setText(
