@@ -20,6 +20,24 @@ function(ravel_register_test name)
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/.config;XDG_CACHE_HOME=${home}/.cache;XDG_DATA_HOME=${home}/.local/share;XDG_RUNTIME_DIR=${home}/run;TMPDIR=${home};http_proxy=;https_proxy=;ftp_proxy=;HTTP_PROXY=;HTTPS_PROXY=;no_proxy=;${ARG_ENVIRONMENT}")
 endfunction()
 
+# ravel_test_headers(<name> <library> <header>...): headers that test programs share, compiled once.
+# They are those of a program, which is compiled as programs are.
+function(ravel_test_headers name library)
+  set(source ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+  file(CONFIGURE OUTPUT ${source} CONTENT "int main() {}\n")
+  add_executable(${name} ${source})
+  set_target_properties(${name} PROPERTIES CXX_EXTENSIONS OFF)
+  target_link_libraries(${name} PRIVATE ${library} Qt5::Test ravel_flags)
+  target_compile_definitions(${name} PRIVATE QT_FORCE_ASSERTS)
+  target_precompile_headers(${name} PRIVATE ${ARGN})
+endfunction()
+ravel_test_headers(ravel_engine_test_headers "Qt5::Network;Qt5::Xml"
+  ${ravel_network_headers} <QCoreApplication> <QProcess> <QSignalSpy> <QTcpServer> <QTcpSocket>
+  <QTemporaryDir> <QTest> <QTimer>)
+ravel_test_headers(ravel_ui_test_headers "Qt5::Network;Qt5::Xml;Qt5::Widgets"
+  ${ravel_ui_headers} <QProcess> <QSignalSpy> <QTcpServer> <QTcpSocket> <QTemporaryDir> <QTest>
+  <QTimer>)
+
 # ravel_add_test(<Class> [ENGINE | HOST] [SOURCES ...] [LINK ...] LABELS <folder> <kind> [...])
 # builds tst_<Class>.cpp and registers it as "<folder>.<Class>" with the arguments of
 # ravel_register_test(). ENGINE links the engine alone: such a test cannot use a widget. HOST links the
@@ -44,6 +62,11 @@ function(ravel_add_test name)
     target_sources(tst_${name} PRIVATE $<TARGET_OBJECTS:ravel_test_log>)
   endif()
   target_link_libraries(tst_${name} PRIVATE Qt5::Test ${ARG_LINK} ravel_flags)
+  if(ARG_ENGINE)
+    target_precompile_headers(tst_${name} REUSE_FROM ravel_engine_test_headers)
+  else()
+    target_precompile_headers(tst_${name} REUSE_FROM ravel_ui_test_headers)
+  endif()
   target_compile_definitions(tst_${name} PRIVATE QT_FORCE_ASSERTS RAVEL_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
   ravel_register_test(${folder}.${name} COMMAND tst_${name} LABELS ${ARG_LABELS}
     TIMEOUT "${ARG_TIMEOUT}" LOCK ${ARG_LOCK} ENVIRONMENT ${ARG_ENVIRONMENT})
