@@ -27,6 +27,10 @@ if(RAVEL_HAS_GOLD AND CMAKE_BUILD_TYPE STREQUAL Debug)
   add_link_options(-fuse-ld=gold)
 endif()
 
+# A compiler cache finds more of what it has compiled before without them.
+if(CMAKE_CXX_COMPILER_LAUNCHER MATCHES ccache)
+  set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
+endif()
 # What most sources include, compiled once for all targets of a kind. Few headers: each costs every
 # source that does not need it.
 set(ravel_core_headers <algorithm> <functional> <memory> <QByteArray> <QDir> <QFile> <QFileInfo>
