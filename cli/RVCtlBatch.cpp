@@ -38,9 +38,9 @@ RVCtlBatch RVCtlBatch::of(const RVCtlOffers &section, const QVector<RVCtlOffers:
             size < 0 || batch.downloadSize < 0 ? -1 : saturatingSum(batch.downloadSize, size);
     }
     ArchiveGeneric &first = *batch.entries.first().archive();
-    const RVRepository &repository = *section.section().repository;
-    if (!repository.proxyHost().isEmpty() && repository.proxyPort() > 0) {
-        first.setProxy(repository.proxyHost(), repository.proxyPort());
+    const RVAccess &access = section.section().repository->access();
+    if (access.hasProxy()) {
+        first.setProxy(access.proxyHost, access.proxyPort);
     }
     batch.installer = first.installCommand();
     return batch;

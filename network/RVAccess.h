@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "core/RVProxy.h"
 #include "network/RVKeyring.h"
 #include "network/XSpooledReply.h"
 
@@ -25,7 +26,7 @@ public:
     /// for any server while it is empty.
     QUrl server;
     RVLogin login;
-    /// An empty host or a port of 0 or less means no proxy.
+    /// See isProxy().
     QString proxyHost;
     int proxyPort = -2;
     /// Logins for other servers and for proxies; never null.
@@ -34,7 +35,7 @@ public:
     int inactivityLimit = XSpooledReply::defaultInactivityMs;
     qint64 bodyLimit = XSpooledReply::defaultBodyLimit;
 
-    bool hasProxy() const { return !proxyHost.isEmpty() && proxyPort > 0; }
+    bool hasProxy() const { return isProxy(proxyHost, proxyPort); }
     /// An FTP proxy for ftp, an HTTP proxy for everything else; DefaultProxy where none is set.
     QNetworkProxy proxyFor(const QUrl &url) const;
     /// Proxy, keyring and limits for a transfer from `url`.

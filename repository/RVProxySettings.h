@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "core/RVProxy.h"
 #include "core/RVSettings.h"
 
 #include <QString>
@@ -25,10 +26,9 @@ struct RVProxySettings {
     };
     struct Proxy {
         QString host;
-        /// 0 or less means no proxy.
         int port = -1;
 
-        bool isSet() const { return !host.isEmpty() && port > 0; }
+        bool isSet() const { return isProxy(host, port); }
         bool operator==(const Proxy &other) const
         {
             return host == other.host && port == other.port;

@@ -5,6 +5,7 @@
 #include "core/OSInfo.h"
 #include "core/RVLogger.h"
 #include "core/RVOrigin.h"
+#include "core/RVProxy.h"
 #include "descriptor/DataXML.h"
 #include "network/RVKeyring.h"
 #include "network/XNetworkError.h"
@@ -28,11 +29,6 @@ namespace
 
 constexpr int logThreshold = 6;
 constexpr int errorDialogWidth = 600;
-
-bool isProxy(const QString &host, int port)
-{
-    return !host.isEmpty() && port > 0;
-}
 
 } // namespace
 
@@ -192,8 +188,7 @@ void RVMainPage::proxyChanged(const QString &scheme, const QString &server, int 
             continue;
         }
         const bool differs = repository->proxyHost() != server || repository->proxyPort() != port;
-        // "No proxy" is an empty host or any port of 0 or less: the options say -1 at the start, a
-        // repository begins with 0. Going from one to another must not restart a retrieval.
+        // Going from one way to say "no proxy" to another must not restart a retrieval.
         if (differs
             && (isProxy(server, port)
                 || isProxy(repository->proxyHost(), repository->proxyPort()))) {
