@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -13,8 +12,6 @@
 
 namespace
 {
-
-const QString databasePath = QStringLiteral("/var/lib/dpkg");
 
 QString processName(pid_t process)
 {
@@ -52,10 +49,8 @@ QString holderOf(const QString &file)
 } // namespace
 
 RVCtlDpkg::RVCtlDpkg(const RVPaths &paths)
-    : m_adminDir(paths.packageStatus.isEmpty() ? databasePath
-                                               : QFileInfo(paths.packageStatus).path())
-    , m_root(m_adminDir.endsWith(databasePath) ? m_adminDir.chopped(databasePath.size())
-                                               : QString())
+    : m_adminDir(paths.packageDatabase)
+    , m_root(m_adminDir.chopped(RVPaths().packageDatabase.size()))
 {
 }
 

@@ -10,12 +10,13 @@ RVPaths RVPaths::under(const QString &root)
     RVPaths paths;
     for (QString *path :
          {&paths.imageId, &paths.servicePackDir, &paths.hardwareTool, &paths.definitionDir,
-          &paths.rootLog, &paths.userLog, &paths.xarInstaller, &paths.rebootTool, &paths.etcDir,
-          &paths.writableDir, &paths.keyringDir, &paths.stateDir, &paths.writableStateDir}) {
+          &paths.packageDatabase, &paths.rootLog, &paths.userLog, &paths.xarInstaller,
+          &paths.rebootTool, &paths.etcDir, &paths.writableDir, &paths.keyringDir, &paths.stateDir,
+          &paths.writableStateDir}) {
         path->prepend(root);
     }
     paths.userStateDir = root + QStringLiteral("/.local/state/ravel");
-    paths.packageStatus = root + QStringLiteral("/var/lib/dpkg/status");
+    paths.packageStatus = paths.packageDatabase + QStringLiteral("/status");
     paths.installerEnvironment = QStringList{
         QStringLiteral("DPKG_ROOT=") + root,
         QStringLiteral("DPKG_FORCE=not-root,script-chrootless,bad-path"),

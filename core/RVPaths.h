@@ -14,7 +14,9 @@ struct RVPaths {
     QString servicePackDir = QStringLiteral("/etc/service-packs");
     QString hardwareTool = QStringLiteral("/usr/bin/cvtc-hwsw-id");
     QString definitionDir = QStringLiteral("/etc/cvtc-ravel/repositories");
-    /// The package database's status file; empty means the one that the package library is set up
+    /// The package database: its locks, its journal and its state.
+    QString packageDatabase = QStringLiteral("/var/lib/dpkg");
+    /// The database's status file; empty means the one that the package library is set up
     /// for.
     QString packageStatus;
     /// The log of a process whose real user is root, and of any other process.

@@ -31,6 +31,7 @@ void tst_RVPaths::paths_data()
     row("service packs", &RVPaths::servicePackDir, "/etc/service-packs", true);
     row("hardware tool", &RVPaths::hardwareTool, "/usr/bin/cvtc-hwsw-id", true);
     row("definition files", &RVPaths::definitionDir, "/etc/cvtc-ravel/repositories", true);
+    row("package database", &RVPaths::packageDatabase, "/var/lib/dpkg", true);
     row("root's log", &RVPaths::rootLog, "/var/log/Ravel.log", true);
     row("a user's log", &RVPaths::userLog, "/tmp/Ravel.log", true);
     row("xar installer", &RVPaths::xarInstaller, "/usr/sbin/xarinstall", true);
