@@ -95,7 +95,7 @@ bool RVCtlInstallRun::awaitDatabase(QString *error)
 
     QStringList repaired;
     for (const RVCtlOffers::Entry &entry : m_batch.updates) {
-        repaired.append(entry.name());
+        repaired.append(entry.englishName());
     }
     const QStringList broken = database.brokenPackages(repaired);
     if (database.hasJournal() || !broken.isEmpty()) {

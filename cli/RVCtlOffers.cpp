@@ -35,8 +35,7 @@ bool isNamed(const RVCtlOffers::Entry &entry, const QString &argument)
     if (!entry.description) {
         return false;
     }
-    const QString english = DataXML::plainText(entry.description->name(QStringLiteral("en")));
-    const QStringList names{entry.name(), english};
+    const QStringList names{entry.name(), entry.englishName()};
     return std::any_of(names.cbegin(), names.cend(), [&](const QString &name) {
         return argument == name || argument == name + QLatin1Char('=') + entry.version();
     });
@@ -47,6 +46,11 @@ bool isNamed(const RVCtlOffers::Entry &entry, const QString &argument)
 QString RVCtlOffers::Entry::name() const
 {
     return description ? DataXML::plainText(description->name({})) : QString();
+}
+
+QString RVCtlOffers::Entry::englishName() const
+{
+    return description ? DataXML::plainText(description->name(QStringLiteral("en"))) : QString();
 }
 
 QString RVCtlOffers::Entry::title() const

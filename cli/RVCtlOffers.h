@@ -32,7 +32,10 @@ public:
 
         bool isOffered() const { return reason == RVEligibility::Offered; }
         bool isNew() const { return isOffered() && !proposal.upToDate; }
+        /// As it is shown, in the user's language.
         QString name() const;
+        /// The one that the package database knows.
+        QString englishName() const;
         QString title() const;
         QString version() const;
         /// "new", "update" or "current".

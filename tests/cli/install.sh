@@ -162,14 +162,15 @@ verdict()
     cat "$work/out" "$work/err"
   fi
 }
-# run EXIT_CODE FILTER ARGUMENT...
+# run EXIT_CODE FILTER ARGUMENT...: with language=LOCALE before it, in that language.
 run()
 {
   local expected=$1 filter=$2 status=0 result=ok
   shift 2
   runs=$((runs + 1))
   rm -rf -- "$work/ran" && mkdir -- "$work/ran"
-  timeout --kill-after=5 60 "$ravelctl" --json --root "$root" --definitions "$definitions" "$@" \
+  timeout --kill-after=5 60 env LC_ALL="${language:-$LC_ALL}" \
+    "$ravelctl" --json --root "$root" --definitions "$definitions" "$@" \
     >"$work/out" 2>"$work/err" </dev/null || status=$?
   [ "$status" -eq "$expected" ] || result="exit code $status, not $expected"
   if ! jq -es 'length == 1 and (.[0] | has("error"))' "$work/out" >/dev/null; then
@@ -420,10 +421,19 @@ run 6 '.error.text | contains("interrupted")' install plain
 run 0 '.error == null' install packs SP-6.1.2-2
 fresh
 awk '/^Package: /{audio = $2 == "tc-audio"} audio && /^Status: /{$0 = "Status: install reinstreq half-installed"} {print}' \
-  "$work/root.saved/var/lib/dpkg/status" > "$root/var/lib/dpkg/status"
+  "$work/root.saved/var/lib/dpkg/status" > "$work/half-installed"
+cp -- "$work/half-installed" "$root/var/lib/dpkg/status"
 run 6 '.error.text | contains("tc-audio is half-installed")' install plain tc-network
 run 0 '.error == null' install plain tc-audio
 check "what is broken is repaired by its own installation" test "$(version tc-audio)" = 1.0-1
+mkdir -- "$work/named"
+cp -- "$repos/packages/tc-audio_1.0-1_all".* "$work/named"
+sed -i 's,<name>tc-audio</name>,&<name xml:lang="de">Ton</name>,' "$work/named/"*.xml
+define named "file://$work/named"
+fresh
+cp -- "$work/half-installed" "$root/var/lib/dpkg/status"
+language=de_DE.UTF-8 run 0 '[.updates[].name] == ["Ton"]' install named Ton
+check "  in every language" test "$(version tc-audio)" = 1.0-1
 
 ### 2: what needs a yes, and what makes no sense
 refused 2 '.error.text | contains("--yes")' install images tc-system=6.2.0
