@@ -37,8 +37,8 @@ struct RVCtlCommand {
     const char *syntax;
     int fewestArguments;
     int mostArguments;
-    /// With so many arguments or more it changes the system and leaves its traces in the log;
-    /// commands that only read leave none anywhere.
+    /// With so many arguments or more it changes the system or its settings, and is logged. No
+    /// other run is; `download` and `sums` write only into the folder that the user names.
     int loggedFrom;
     /// Its own.
     QList<QCommandLineOption> options;

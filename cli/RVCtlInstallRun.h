@@ -39,6 +39,9 @@ public:
     /// `refreshed` says what went wrong before.
     RVCtlResult result(const RVCtlResult &refreshed) const;
 
+Q_SIGNALS:
+    void ended();
+
 private:
     /// How far it came.
     enum class Stage {
@@ -78,7 +81,4 @@ private:
     bool m_isCrashed = false;
     int m_exitCode = 0;
     QString m_startError;
-
-Q_SIGNALS:
-    void ended();
 };
