@@ -197,7 +197,7 @@ RVCtlResult RVCtlCommands::sums(const RVCtlCall &call)
     }
     return {RVCtlExit::Done,
             QStringLiteral("%1 files, serial %2, valid until %3. Sign it now:\n"
-                           "  gpg --detach-sign --output %4 %5\n")
+                           "  gpg --yes --detach-sign --output %4 %5\n")
                 .arg(list.sums.size())
                 .arg(*list.serial)
                 .arg(list.validUntil.toString(Qt::ISODate), RVChecksums::signatureName,

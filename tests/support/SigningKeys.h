@@ -25,6 +25,8 @@ public:
     /// A key that was made on the first day of 2025, valid for so long.
     bool makeOld(const QString &name, const QString &validity);
     bool revoke(const QString &name);
+    /// For gpg's own commands.
+    QString home() const { return m_home.path(); }
     /// The public keys, as a definition names a file of them.
     QByteArray keyring(const QStringList &names);
     /// A detached signature by all of them; `options` go before gpg's command.
