@@ -37,10 +37,14 @@ struct File {
     /// -1 when it is not known.
     qint64 size = -1;
     bool isArchive = false;
+    /// It has its name in the folder: since before this run, or fetched.
     bool isPresent = false;
+    bool isFetched = false;
     /// Known already, and not fetched once more.
     QByteArray content;
     RVCtlFault fault;
+
+    bool isMissing() const { return !isPresent && !isFetched && !fault.isSet(); }
 };
 
 /// Any number of updates, also of a section in which one is picked: nothing is installed.
@@ -126,17 +130,16 @@ void addList(const RVTrust &trust, QVector<File> *files)
     }
 }
 
-RVCtlFault store(const File &file, const RVCtlFolder &folder)
+void store(File *file, const RVCtlFolder &folder)
 {
     QFile part;
-    if (folder.begin(file.name, &part) && part.write(file.content) == file.content.size()
-        && folder.complete(file.name, &part)) {
-        return {};
+    file->isFetched = folder.begin(file->name, &part)
+        && part.write(file->content) == file->content.size() && folder.complete(file->name, &part);
+    if (!file->isFetched) {
+        file->fault = targetFault(
+            QStringLiteral("The file cannot be stored: %1").arg(qt_error_string(errno)));
+        folder.drop(file->name);
     }
-    RVCtlFault fault =
-        targetFault(QStringLiteral("The file cannot be stored: %1").arg(qt_error_string(errno)));
-    folder.drop(file.name);
-    return fault;
 }
 
 /// What is there already, and still the listed file.
@@ -157,7 +160,7 @@ QJsonObject toJson(const QVector<File> &files, const RVCtlFolder &folder)
             {QStringLiteral("file"),
              file.name.isEmpty() ? QJsonValue() : QJsonValue(QFile::decodeName(file.name))},
             {QStringLiteral("size"), isThere ? QJsonValue(folder.sizeOf(file.name)) : QJsonValue()},
-            {QStringLiteral("fetched"), isThere && !file.isPresent},
+            {QStringLiteral("fetched"), file.isFetched},
             {QStringLiteral("error"), file.fault.toJson()},
         });
     }
@@ -170,7 +173,7 @@ QString toText(const QVector<File> &files)
     int present = 0;
     for (const File &file : files) {
         present += file.isPresent ? 1 : 0;
-        fetched += file.isPresent || file.fault.isSet() ? 0 : 1;
+        fetched += file.isFetched ? 1 : 0;
     }
     return QStringLiteral("%1 files fetched, %2 already there.\n").arg(fetched).arg(present);
 }
@@ -201,48 +204,82 @@ qint64 bytesToFetch(const QVector<File> &files)
 {
     qint64 total = 0;
     for (const File &file : files) {
-        if (!file.isPresent && !file.fault.isSet() && file.size > 0) {
+        if (file.isMissing() && file.size > 0) {
             total = saturatingSum(total, file.size);
         }
     }
     return total;
 }
 
-void fetchAll(const RVCtlCall &call, const RVCtlOffers &section, RVCtlAccess *access,
-              const RVCtlFolder &folder, QVector<File> *files)
+/// Fetches what is missing, up to the first file that the list refuses if `endsThere`: false then.
+bool fetchMissing(const RVCtlCall &call, const RVCtlFolder &folder, bool endsThere,
+                  RVCtlFetch *fetch, QVector<File> *files)
 {
     const qint64 total = bytesToFetch(*files);
     RVCtlProgress progress(&call.messages, QStringLiteral("Retrieving updates"));
-    RVCtlFetch fetch(*section.section().repository, access, &call.deadline);
     qint64 before = 0;
-    bool isRenewed = false;
     for (File &file : *files) {
-        if (file.isPresent || file.fault.isSet()) {
+        if (!file.isMissing()) {
             continue;
         }
         // A descriptor's is not announced.
         const qint64 size = qMax<qint64>(0, file.size);
-        const auto show = [&](qint64 received) {
+        const RVCtlFault fault = fetch->fetch(file.url, file.name, folder, [&](qint64 received) {
             if (total > 0) {
                 progress.show(saturatingSum(before, qBound<qint64>(0, received, size)), total);
             }
-        };
-        file.fault = fetch.fetch(file.url, file.name, folder, show);
-        if (file.fault.kind == RVCtlFault::Refused && !isRenewed) {
-            // The publisher may have been at work since the refresh.
-            isRenewed = true;
-            fetch.renewList();
-            file.fault = fetch.fetch(file.url, file.name, folder, show);
-        }
+        });
         if (call.deadline.isOver()) {
-            return;
+            return true;
         }
+        if (fault.kind == RVCtlFault::Refused && endsThere) {
+            return false;
+        }
+        file.fault = fault;
+        file.isFetched = !fault.isSet();
         before = saturatingSum(before, size);
-        if (file.fault.isSet()) {
-            call.messages.error(
-                QStringLiteral("%1: %2").arg(RVUrl::shown(file.url), file.fault.text));
+        if (fault.isSet()) {
+            call.messages.error(QStringLiteral("%1: %2").arg(RVUrl::shown(file.url), fault.text));
         }
     }
+    return true;
+}
+
+/// What the folder has and the new list does not is missing again; all of it fails without a list.
+void holdAgainst(const RVTrust &trust, const RVCtlFolder &folder, QVector<File> *files)
+{
+    for (File &file : *files) {
+        if (file.fault.isSet()) {
+            continue;
+        }
+        if (trust.fault().isSet()) {
+            file.fault.kind = RVCtlFault::Refused;
+            file.fault.text = trust.fault().text;
+        }
+        if ((file.isPresent || file.isFetched) && !isListed(file, &trust, folder)) {
+            file.isPresent = false;
+            file.isFetched = false;
+        }
+    }
+}
+
+void fetchAll(const RVCtlCall &call, const RVCtlOffers &section, RVCtlAccess *access,
+              const RVCtlFolder &folder, QVector<File> *files)
+{
+    RVCtlFetch fetch(*section.section().repository, access, &call.deadline);
+    if (fetchMissing(call, folder, true, &fetch, files)) {
+        return;
+    }
+    // The publisher may have been at work since the refresh, on what was fetched before as well.
+    fetch.renewList();
+    if (call.deadline.isOver()) {
+        return;
+    }
+    holdAgainst(*fetch.trust, folder, files);
+    if (fetch.trust->fault().isSet()) {
+        call.messages.error(fetch.trust->fault().text);
+    }
+    fetchMissing(call, folder, false, &fetch, files);
 }
 
 } // namespace
@@ -309,7 +346,7 @@ RVCtlResult RVCtlCommands::download(const RVCtlCall &call)
         return RVCtlResult::failed(RVCtlExit::NoSpace, error);
     }
     if (std::any_of(files.cbegin(), files.cend(), [](const File &file) {
-            return !file.isPresent && !file.fault.isSet();
+            return file.isMissing();
         })) {
         fetchAll(call, section, &access, folder, &files);
     }
@@ -320,7 +357,7 @@ RVCtlResult RVCtlCommands::download(const RVCtlCall &call)
         const int first = files.size();
         addList(*trust, &files);
         for (int i = first; i < files.size(); ++i) {
-            files[i].fault = store(files.at(i), folder);
+            store(&files[i], folder);
         }
     }
     result.json = toJson(files, folder);

@@ -3,6 +3,7 @@
 #include "repository/RVChecksums.h"
 #include "tests/support/DpkgRoot.h"
 #include "tests/support/FakeRoot.h"
+#include "tests/support/SignedWorld.h"
 #include "tests/support/SigningKeys.h"
 
 #include <QCryptographicHash>
@@ -22,8 +23,8 @@ namespace
 {
 
 constexpr int timeout = 60000;
-const QString publisher = QStringLiteral("Publisher <publisher@example.org>");
-const QString id = QStringLiteral("org.example.packages");
+const QString &publisher = SignedWorld::publisher;
+const QString &id = SignedWorld::id;
 
 struct Run {
     int exit = -1;
@@ -43,7 +44,12 @@ Run run(const QStringList &arguments)
     Run result;
     QProcess process;
     process.start(QStringLiteral(RAVELCTL), arguments);
-    const bool hasEnded = process.waitForFinished(timeout);
+    // A server of this thread may have to answer.
+    const bool hasEnded = QTest::qWaitFor(
+        [&process] {
+            return process.state() == QProcess::NotRunning;
+        },
+        timeout);
     result.exit =
         hasEnded && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
     result.output = process.readAllStandardOutput();
@@ -64,6 +70,32 @@ QByteArray descriptor(const QByteArray &name)
         + "</name><version>1.0</version><thin_client>all</thin_client></update_data>";
 }
 
+/// A package as far as a download looks at it: an ar archive with three members.
+QByteArray packageWith(const QByteArray &content)
+{
+    QByteArray package = "!<arch>\n";
+    for (const char *name : {"debian-binary", "control.tar", "data.tar"}) {
+        package += QByteArray(name).leftJustified(48)
+            + QByteArray::number(content.size()).leftJustified(10) + "`\n" + content
+            + (content.size() % 2 == 0 ? "" : "\n");
+    }
+    return package;
+}
+
+QByteArray definition(const QByteArray &key, const QByteArray &location, const QByteArray &elements)
+{
+    return "<repository_list><repository><title>Packages</title><settings_key>" + key
+        + "</settings_key><default_uri>" + location + "</default_uri>" + elements
+        + "<filter_pattern><archive_pattern>\\.deb$</archive_pattern>"
+          "<descriptor_pattern>\\.xml$</descriptor_pattern></filter_pattern>"
+          "</repository></repository_list>";
+}
+
+QByteArray signedElements()
+{
+    return "<signed_by>vendor.gpg</signed_by><repository_id>" + id.toUtf8() + "</repository_id>";
+}
+
 } // namespace
 
 class tst_RVCtlTrust : public QObject
@@ -82,6 +114,9 @@ private Q_SLOTS:
     void resets();
     void copiesStaySigned();
     void copyRefusesWhatIsNotListed();
+    void copyFollowsThePublisher_data();
+    void copyFollowsThePublisher();
+    void copyEndsWithItsList();
     void sums();
     void sumsRefuses_data();
     void sumsRefuses();
@@ -105,10 +140,12 @@ private:
     void define(const QString &file, const QString &location, const QByteArray &elements) const;
     void defineSigned(const QString &location) const
     {
-        define(QStringLiteral("10.xml"), location,
-               "<signed_by>vendor.gpg</signed_by><repository_id>" + id.toUtf8()
-                   + "</repository_id>");
+        define(QStringLiteral("10.xml"), location, signedElements());
     }
+    /// Real enough packages, and a device that knows the repository.
+    static void serve(SignedWorld *world);
+    /// Downloads all that it offers.
+    static Run download(const SignedWorld &world, const QTemporaryDir &folder);
 
     std::unique_ptr<SigningKeys> m_keys;
     std::unique_ptr<FakeRoot> m_root;
@@ -120,7 +157,7 @@ private:
 void tst_RVCtlTrust::initTestCase()
 {
     m_keys = std::make_unique<SigningKeys>();
-    QVERIFY(m_keys->make(publisher));
+    QVERIFY(SignedWorld::makeKeys(m_keys.get()));
     m_deb = m_packages.filePath(QStringLiteral("tc-audio.deb"));
     QCOMPARE(DpkgRoot::build({QStringLiteral("tc-audio"), QStringLiteral("1.0")}, m_deb),
              QString());
@@ -149,12 +186,7 @@ void tst_RVCtlTrust::define(const QString &file, const QString &location,
                             const QByteArray &elements) const
 {
     FakeRoot::write(m_root->paths().definitionDir + QLatin1Char('/') + file,
-                    "<repository_list><repository><title>Packages</title><settings_key>"
-                        + file.toUtf8() + "</settings_key><default_uri>file://" + location.toUtf8()
-                        + "</default_uri>" + elements
-                        + "<filter_pattern><archive_pattern>\\.deb$</archive_pattern>"
-                          "<descriptor_pattern>\\.xml$</descriptor_pattern></filter_pattern>"
-                          "</repository></repository_list>");
+                    definition(file.toUtf8(), "file://" + location.toUtf8(), elements));
 }
 
 void tst_RVCtlTrust::signedSection()
@@ -309,6 +341,95 @@ void tst_RVCtlTrust::copyRefusesWhatIsNotListed()
     QVERIFY2(download.exit == 9, download.output.constData());
     QVERIFY(!QFile::exists(copy + QStringLiteral("/tc-audio.deb")));
     QVERIFY(!QFile::exists(copy + QStringLiteral("/tc-audio.deb.part")));
+}
+
+void tst_RVCtlTrust::serve(SignedWorld *world)
+{
+    for (const QByteArray &name : {QByteArray("a"), QByteArray("b")}) {
+        world->add(name + ".deb", packageWith(name));
+    }
+    world->publish();
+    FakeRoot::write(world->paths.definitionDir + QStringLiteral("/10.xml"),
+                    definition("served", world->url().toEncoded(), signedElements()));
+}
+
+Run tst_RVCtlTrust::download(const SignedWorld &world, const QTemporaryDir &folder)
+{
+    return run({QStringLiteral("--root"), world.root.path(), QStringLiteral("--json"),
+                QStringLiteral("download"), QStringLiteral("0"), QStringLiteral("--all"),
+                QStringLiteral("--to"), folder.path()});
+}
+
+void tst_RVCtlTrust::copyFollowsThePublisher_data()
+{
+    QTest::addColumn<bool>("isThere");
+    QTest::newRow("fetched in this run") << false;
+    QTest::newRow("there before") << true;
+}
+
+void tst_RVCtlTrust::copyFollowsThePublisher()
+{
+    QFETCH(bool, isThere);
+    SignedWorld world(m_keys.get());
+    serve(&world);
+    const QTemporaryDir copy;
+    if (isThere) {
+        QCOMPARE(download(world, copy).exit, 0);
+        QVERIFY(QFile::remove(copy.filePath(QStringLiteral("b.deb"))));
+    }
+    // Everything is replaced when the last archive is asked for.
+    bool isPublished = false;
+    world.server.beforeAnswer = [&](const QByteArray &path) {
+        if (path == "/r/b.deb" && !isPublished) {
+            isPublished = true;
+            for (const QByteArray &name : {QByteArray("a"), QByteArray("b")}) {
+                world.add(name + ".deb", packageWith("new " + name));
+                world.add(name + ".xml", SignedWorld::descriptor(name) + '\n');
+            }
+            world.list.serial = 6;
+            world.publish();
+        }
+    };
+    const Run run = download(world, copy);
+    QVERIFY(isPublished);
+    QVERIFY2(run.exit == 0, run.output.constData());
+    QCOMPARE(run.trust()[QStringLiteral("serial")].toString(), QStringLiteral("6"));
+    for (auto file = world.files.cbegin(); file != world.files.cend(); ++file) {
+        QCOMPARE(content(copy.filePath(QString::fromLatin1(file.key()))), file.value());
+    }
+    for (const QJsonValue &file : run.document[QStringLiteral("files")].toArray()) {
+        QVERIFY(file.toObject()[QStringLiteral("fetched")].toBool());
+    }
+
+    defineSigned(copy.path());
+    QCOMPARE(ctl({QStringLiteral("list")}).repository()[QStringLiteral("entries")].toArray().size(),
+             2);
+}
+
+void tst_RVCtlTrust::copyEndsWithItsList()
+{
+    SignedWorld world(m_keys.get());
+    serve(&world);
+    world.server.beforeAnswer = [&world](const QByteArray &path) {
+        if (path == "/r/b.xml" && world.requests("b.xml") == 2) {
+            world.serve("b.xml", "other");
+            world.publishText(world.list.toText(), SignedWorld::stranger);
+        }
+    };
+    const QTemporaryDir copy;
+    const Run run = download(world, copy);
+    QVERIFY2(run.exit == 9, run.output.constData());
+    const QJsonArray files = run.document[QStringLiteral("files")].toArray();
+    QCOMPARE(files.size(), 4);
+    for (const QJsonValue &file : files) {
+        QCOMPARE(
+            file.toObject()[QStringLiteral("error")].toObject()[QStringLiteral("kind")].toString(),
+            QStringLiteral("trust"));
+    }
+    QVERIFY(!QFile::exists(copy.filePath(QStringLiteral("SHA256SUMS"))));
+    // Nothing more is asked for.
+    QCOMPARE(world.requests("a.deb"), 1);
+    QCOMPARE(world.requests("b.deb"), 0);
 }
 
 void tst_RVCtlTrust::sums()
