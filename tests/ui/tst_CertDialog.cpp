@@ -54,6 +54,24 @@ QSslCertificate selfSigned(const QString &subject)
                        QStringLiteral("0x0a1b2c"), QStringLiteral("-days"), QStringLiteral("30")});
 }
 
+// openssl itself holds a field to 64 characters, which a server need not do.
+QSslCertificate withOrganization(const QString &organization)
+{
+    const QTemporaryDir dir;
+    QFile config(dir.filePath(QStringLiteral("config")));
+    if (!config.open(QIODevice::WriteOnly)
+        || config.write("openssl_conf = init\n[init]\nstbl_section = table\n"
+                        "[table]\norganizationName = min:1,max:4096\n"
+                        "[req]\ndistinguished_name = name\n[name]\n")
+            < 0
+        || !config.flush()) {
+        return QSslCertificate();
+    }
+    return selfSigned({QStringLiteral("-config"), config.fileName(), QStringLiteral("-subj"),
+                       QStringLiteral("/O=") + organization, QStringLiteral("-days"),
+                       QStringLiteral("30")});
+}
+
 // One whose issuer is another, and whose time is over.
 QSslCertificate expired()
 {
@@ -257,6 +275,28 @@ private Q_SLOTS:
         QVERIFY(text.contains(QStringLiteral("  Issue Date:  Sat Feb 3 04:05:06 2001 GMT")));
         QVERIFY(text.contains(QStringLiteral("  Expires Date:  Mon Mar 4 05:06:07 2002 GMT")));
         QCOMPARE(text.constFirst(), QStringLiteral("The certificate has expired."));
+    }
+
+    void longValues_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("expected");
+        const QString longest(128, QLatin1Char('x'));
+        const QString cut = QString(127, QLatin1Char('x')) + QChar(0x2026);
+        QTest::newRow("as long as may be") << longest << longest;
+        QTest::newRow("one more") << longest + QLatin1Char('y') << cut;
+        QTest::newRow("thousands") << longest.repeated(30) << cut;
+    }
+    void longValues()
+    {
+        QFETCH(QString, value);
+        QFETCH(QString, expected);
+        const QSslCertificate certificate = withOrganization(value);
+        QCOMPARE(certificate.subjectInfo(QSslCertificate::Organization), QStringList{value});
+        const QStringList text = details(CertDialog(QUrl(place), errorsOf(certificate)));
+        // Issued to, and issued by.
+        QCOMPARE(text.count(QStringLiteral("  Organization:  ") + expected), 2);
+        QCOMPARE(text.filter(QStringLiteral("Organization")).size(), 2);
     }
 
     void showsTheServersOwnCertificate()
