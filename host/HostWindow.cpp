@@ -114,12 +114,13 @@ QString sentence(RVMainPage::ExceptionType type, const RVPaths &paths)
         return HostWindow::tr("The definition files in \"%1\" define no repository.")
             .arg(paths.definitionDir);
     case RVMainPage::SystemInfoUnavailable:
-        return HostWindow::tr("The identification of the installed image, \"%1\", cannot be read.")
+        return HostWindow::tr(
+                   "The file that identifies the installed image, \"%1\", cannot be read.")
             .arg(paths.imageId);
     case RVMainPage::SystemInfoFailed:
         break;
     }
-    return HostWindow::tr("The facts about the installed system cannot be read.");
+    return HostWindow::tr("Information about the installed system cannot be read.");
 }
 
 } // namespace
@@ -443,8 +444,8 @@ bool HostWindow::isBusy() const
 void HostWindow::closeEvent(QCloseEvent *event)
 {
     if (isBusy()) {
-        statusBar()->showMessage(tr("An operation is still running. Please wait for its end."),
-                                 10000);
+        statusBar()->showMessage(
+            tr("An operation is still running. Please wait until it has finished."), 10000);
         event->ignore();
         return;
     }

@@ -343,7 +343,7 @@ void XFtp::prepareTransfer()
 void XFtp::openData(int port)
 {
     if (port == 0) {
-        fail(UnknownError, tr("The server names no port for the data connection"));
+        fail(UnknownError, tr("The server gave no port for the data connection"));
         return;
     }
     m_step = DataOpening;
@@ -562,7 +562,7 @@ void XFtp::takeReply(int code, const QByteArray &lastLine)
     const bool isPositive = code >= 200 && code < 300;
     if (isPreliminary && m_step != Transfer && m_step != Greeting && m_step != Idle
         && m_step != Settling) {
-        lose(UnknownError, tr("The server's answer is out of place: %1").arg(serverText()));
+        lose(UnknownError, tr("Unexpected answer from the server: %1").arg(serverText()));
         return;
     }
     switch (m_step) {
@@ -655,7 +655,7 @@ void XFtp::takeTransferReply(int code)
     if (code < 200) {
         // RFC 959 §4.2: at most one preliminary reply a command.
         if (m_isAnnounced) {
-            lose(UnknownError, tr("The server's answer is out of place: %1").arg(serverText()));
+            lose(UnknownError, tr("Unexpected answer from the server: %1").arg(serverText()));
         } else {
             m_isAnnounced = true;
         }

@@ -164,7 +164,7 @@ void BusyDialog::updateNames()
 {
     m_detailsBox->setTitle(tr("Show Details"));
     m_progressBar->setAccessibleName(m_label->text());
-    m_detailsBox->setAccessibleDescription(tr("Shows what the installer writes."));
+    m_detailsBox->setAccessibleDescription(tr("Shows the installer's output."));
     m_detailsView->setAccessibleName(tr("Installer output"));
 }
 

@@ -29,7 +29,8 @@ public:
                                         QLocale::ShortFormat));
         return trust.forgetting().isEmpty() ? line
                                             : line + QLatin1Char('\n')
-                + tr("Nothing can be stored here: an old state of the repository is not noticed.");
+                + tr("This device cannot remember the newest list, so it would not notice an "
+                     "outdated one.");
     }
     static QString unsignedLine(const QUrl &location)
     {
@@ -54,8 +55,8 @@ public:
     }
     static QString unsignedExplanation()
     {
-        return tr("The definition of this section does not ask for a signature. The publisher of "
-                  "the repository can sign it.");
+        return tr("The definition of this section does not require a signature. The publisher can "
+                  "sign the repository.");
     }
     static QString sentence(RVTrustFault::Kind kind)
     {
@@ -69,17 +70,18 @@ public:
             return tr("The list of the repository's files, or its signature, is missing.");
         case RVTrustFault::Expired:
         case RVTrustFault::FutureTime:
-            return tr("The signature of the repository is not valid now, or the clock of this "
-                      "device is wrong.");
+            return tr(
+                "The repository's signature is not currently valid, or this device's clock is "
+                "wrong.");
         default:
             return tr("The repository is not what its publisher signed.");
         }
     }
     static QString imageNote()
     {
-        return tr("The image is read once and compared with the list of the repository. This finds "
-                  "damage. The device fetches the image again after the restart and checks "
-                  "nothing: a hostile server can give it another one then.");
+        return tr("The image is read once and compared with the repository's list, which reveals "
+                  "damage. After the restart, the device fetches the image again and checks "
+                  "nothing: a hostile server can then deliver another one.");
     }
 };
 

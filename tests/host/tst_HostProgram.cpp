@@ -120,7 +120,7 @@ private Q_SLOTS:
         program.start(QStringLiteral(RAVEL_HOST), {QStringLiteral("--root"), root.path()});
         QByteArray errors;
         QTRY_VERIFY_WITH_TIMEOUT(
-            (errors += program.readAllStandardError()).contains("ravel-host: The identification"),
+            (errors += program.readAllStandardError()).contains("ravel-host: The file that identifies"),
             timeout);
         program.terminate();
         QVERIFY(program.waitForFinished(timeout));

@@ -108,7 +108,7 @@ private Q_SLOTS:
         const QByteArray id("6.1.2\n");
         QTest::newRow("no image identification")
             << QByteArray() << QByteArray("<repository_list/>")
-            << QStringLiteral("The identification of the installed image, \"%1/etc/imageid\", "
+            << QStringLiteral("The file that identifies the installed image, \"%1/etc/imageid\", "
                               "cannot be read.");
         QTest::newRow("no definition directory")
             << id << QByteArray()
