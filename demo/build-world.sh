@@ -360,8 +360,9 @@ echo "Restarting" | tee -a "$root/var/log/restarts"
 TOOL
 chmod 0755 "$root"/usr/bin/cvtc-hwsw-id "$root"/usr/sbin/{xarinstall,cvtc-ts-reboot}
 
-# The package tool's own log belongs into this system too, not into the developer's.
-echo "log $root/var/log/dpkg.log" > "$root/.dpkg.cfg"
+# The package tool's own log belongs into this system too, not into the developer's. No power cut
+# has to be survived here: waiting for the disk is most of an installation's time.
+printf 'log %s\nforce-unsafe-io\n' "$root/var/log/dpkg.log" > "$root/.dpkg.cfg"
 installed=$work/installed
 mkdir "$installed"
 make_package tc-audio    0.9-1  600 "$installed"
