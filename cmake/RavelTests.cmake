@@ -1,10 +1,10 @@
 # SPDX-FileCopyrightText: 2026 Ravel developers
 # SPDX-License-Identifier: GPL-2.0-or-later
 
-# ravel_register_test(<name> COMMAND ... LABELS <folder> <kind> [TIMEOUT s] [LOCK ...] [ENVIRONMENT ...])
+# ravel_register_test(<name> COMMAND ... LABELS <folder> <kind> [TIMEOUT s] [LOCK ...] [FIXTURES ...] [ENVIRONMENT ...])
 # runs a command as ctest "<name>", with a HOME of its own. Nothing outside may change meanwhile.
 function(ravel_register_test name)
-  cmake_parse_arguments(ARG "" "TIMEOUT" "COMMAND;LABELS;LOCK;ENVIRONMENT" ${ARGN})
+  cmake_parse_arguments(ARG "" "TIMEOUT" "COMMAND;LABELS;LOCK;FIXTURES;ENVIRONMENT" ${ARGN})
   string(REGEX REPLACE "^[a-z0-9]+\\." "" class ${name})
   set(home ${CMAKE_CURRENT_BINARY_DIR}/home_${class})
   # Qt closes the runtime directory to others, so it cannot be the home itself.
@@ -16,7 +16,7 @@ function(ravel_register_test name)
   add_test(NAME ${name} COMMAND ${ARG_COMMAND})
   set_tests_properties(${name} PROPERTIES
     LABELS "${ARG_LABELS}" RESOURCE_LOCK "${ARG_LOCK}" TIMEOUT "${ARG_TIMEOUT}"
-    FIXTURES_REQUIRED outside
+    FIXTURES_REQUIRED "outside;${ARG_FIXTURES}"
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/.config;XDG_CACHE_HOME=${home}/.cache;XDG_DATA_HOME=${home}/.local/share;XDG_RUNTIME_DIR=${home}/run;TMPDIR=${home};http_proxy=;https_proxy=;ftp_proxy=;HTTP_PROXY=;HTTPS_PROXY=;no_proxy=;${ARG_ENVIRONMENT}")
 endfunction()
 
@@ -43,7 +43,7 @@ ravel_test_headers(ravel_ui_test_headers "Qt5::Network;Qt5::Xml;Qt5::Widgets"
 # ravel_register_test(). ENGINE links the engine alone: such a test cannot use a widget. HOST links the
 # host's window and the library as a host sees it.
 function(ravel_add_test name)
-  cmake_parse_arguments(ARG "ENGINE;HOST" "TIMEOUT" "SOURCES;LINK;LABELS;LOCK;ENVIRONMENT" ${ARGN})
+  cmake_parse_arguments(ARG "ENGINE;HOST" "TIMEOUT" "SOURCES;LINK;LABELS;LOCK;FIXTURES;ENVIRONMENT" ${ARGN})
   cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
   add_executable(tst_${name} tst_${name}.cpp ${ARG_SOURCES})
   # Not AUTOMOC, whose steps take longer than the one that is needed.
@@ -69,5 +69,5 @@ function(ravel_add_test name)
   endif()
   target_compile_definitions(tst_${name} PRIVATE QT_FORCE_ASSERTS RAVEL_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
   ravel_register_test(${folder}.${name} COMMAND tst_${name} LABELS ${ARG_LABELS}
-    TIMEOUT "${ARG_TIMEOUT}" LOCK ${ARG_LOCK} ENVIRONMENT ${ARG_ENVIRONMENT})
+    TIMEOUT "${ARG_TIMEOUT}" LOCK ${ARG_LOCK} FIXTURES ${ARG_FIXTURES} ENVIRONMENT ${ARG_ENVIRONMENT})
 endfunction()

@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 Ravel developers
 # SPDX-License-Identifier: GPL-2.0-or-later
 #
-# completion.sh COMPLETION RAVELCTL BUILD_WORLD WORK_DIR: what bash completes.
+# completion.sh COMPLETION RAVELCTL WORLD WORK_DIR: what bash completes.
 set -euo pipefail
 # shellcheck source=/dev/null
 . "$1"
@@ -10,8 +10,8 @@ ravelctl=$2
 rm -rf -- "$4"
 mkdir -p -- "$4/home"
 export HOME=$4/home LC_ALL=C.UTF-8
-"$3" "$4/world" >/dev/null
-root=$4/world/root
+cp -a -- "$3/root" "$4"
+root=$4/root
 wrong=0
 
 # completes EXPECTED WORD...: the last word is the one at which the cursor stands.

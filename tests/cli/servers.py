@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 Ravel developers
 # SPDX-License-Identifier: GPL-2.0-or-later
 """servers.py DIRECTORY CERTIFICATE LOG: serves DIRECTORY on the loopback interface in every way
-that the walk needs, until standard input ends. Prints one "NAME=PORT" line for each server.
+that the scripts need, until standard input ends. Prints one "NAME=PORT" line for each server and
+closes its output.
 
 plain   HTTP
 login   HTTP, for user "anna" with the password "secret"
@@ -21,6 +22,7 @@ Every request's first line goes to LOG.
 import base64
 import functools
 import http.server
+import os
 import pathlib
 import socket
 import ssl
@@ -110,4 +112,6 @@ threading.Thread(target=ftp.serve_forever, daemon=True).start()
 print(f"ftp={ftp.address[1]}", flush=True)
 silent = socket.create_server(("127.0.0.1", 0))
 print(f"silent={silent.getsockname()[1]}", flush=True)
+# All are there.
+os.close(1)
 sys.stdin.read()

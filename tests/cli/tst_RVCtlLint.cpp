@@ -991,14 +991,14 @@ void tst_RVCtlLint::filesAlone()
 void tst_RVCtlLint::demoWorld()
 {
     const QTemporaryDir directory;
-    QProcess build;
-    build.start(QStringLiteral(BUILD_WORLD), {directory.path()});
-    QVERIFY(build.waitForFinished(timeout));
-    QCOMPARE(build.exitCode(), 0);
+    QCOMPARE(QProcess::execute(QStringLiteral("cp"),
+                               {QStringLiteral("-a"), QStringLiteral(RAVEL_DEMO_WORLD "/root"),
+                                directory.path()}),
+             0);
     const QString root = directory.filePath(QStringLiteral("root"));
     Run result =
         run({QStringLiteral("--root"), root, QStringLiteral("--json"), QStringLiteral("lint")});
-    result.findings.replaceInStrings(directory.path() + QStringLiteral("/repos/"), QString());
+    result.findings.replaceInStrings(QStringLiteral(RAVEL_DEMO_WORLD "/repos/"), QString());
     QCOMPARE(result.findings,
              (QStringList{
                  QStringLiteral("applications/tc-emulator_0.9-1_i386.deb:0 other-architecture"),

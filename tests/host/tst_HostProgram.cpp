@@ -131,10 +131,10 @@ private Q_SLOTS:
     void worldOpensAndASignalClosesIt()
     {
         QTemporaryDir world;
-        QProcess builder;
-        builder.start(QStringLiteral(RAVEL_BUILD_WORLD), {world.path()});
-        QVERIFY(builder.waitForFinished(timeout));
-        QCOMPARE(builder.exitCode(), 0);
+        QCOMPARE(QProcess::execute(QStringLiteral("cp"),
+                                   {QStringLiteral("-a"), QStringLiteral(RAVEL_DEMO_WORLD "/root"),
+                                    world.path()}),
+                 0);
 
         QProcess program;
         program.start(QStringLiteral(RAVEL_HOST),
