@@ -116,7 +116,6 @@ int main()
             + "</td><td align=\"right\">2026-11-20 20:51  </td><td align=\"right\">  1 </td>"
               "<td>&nbsp;</td></tr>\n";
     }
-    // A table has ten nodes for each link; the parser alone takes 750 ms for them.
-    const bool good = measure("100,000 links in a list", list, links, 500, 0.15);
-    return measure("100,000 links in a table", table, links, 1500, 0.08) && good ? 0 : 1;
+    const bool good = measure("100,000 links in a list", list, links, 500, 0.3);
+    return measure("100,000 links in a table", table, links, 600, 0.3) && good ? 0 : 1;
 }

@@ -3,262 +3,16 @@
 #include "network/NetworkDirRequestHttp.h"
 
 #include "core/RVLogger.h"
-#include "network/HtmlCheck.h"
+#include "network/HtmlLinks.h"
 #include "network/XNetworkAccessManager.h"
 #include "network/XNetworkReply.h"
 
 #include <QNetworkProxyFactory>
-#include <QSet>
 
-#include <algorithm>
-#include <array>
-#include <csetjmp>
-#include <cstddef>
-#include <cstdlib>
-#include <ctime>
-#include <gumbo.h>
-#include <vector>
+#include <set>
 
 namespace
 {
-
-/// A page as a tree, on a budget: the parser has no bound of its own on memory or time, so the
-/// memory that it asks for comes from here, and when there is no more of it, or no more time, it
-/// never gets its answer. What it has by then goes with this object.
-class PageTree
-{
-public:
-    /// The page must outlive the tree.
-    explicit PageTree(const QByteArray &page)
-    {
-        m_options.allocator = allocate;
-        m_options.deallocator = release;
-        m_options.userdata = this;
-        // Each error keeps a copy of all open elements.
-        m_options.max_errors = 0;
-        // Grown while the parser runs, it might throw through it.
-        m_chunks.reserve(maximumMemory / chunk);
-        // Several times what an ordinary page takes.
-        m_endOfTime = cpuTime() + 2 + static_cast<double>(page.size()) / (4 * 1024 * 1024);
-        parse(page);
-    }
-
-    ~PageTree()
-    {
-        // The parser's own way to free a tree is recursive.
-        for (void *memory : m_chunks) {
-            std::free(memory);
-        }
-    }
-
-    /// Null when the budget was exceeded.
-    const GumboNode *document() const { return m_output ? m_output->document : nullptr; }
-
-private:
-    Q_DISABLE_COPY_MOVE(PageTree)
-
-    /// In front of each piece of memory.
-    struct alignas(std::max_align_t) Block {
-        size_t sizeClass;
-        Block *nextFree;
-    };
-
-    static constexpr size_t maximumMemory = size_t(384) * 1024 * 1024;
-    static constexpr size_t chunk = size_t(1024) * 1024;
-    static constexpr size_t smallClasses = 32;
-
-    /// Seconds that this thread has worked: those of a busy machine do not count.
-    static double cpuTime()
-    {
-        timespec now = {};
-        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-        return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
-    }
-
-    /// Nothing here or in the parser has a destructor to be jumped over.
-    void parse(const QByteArray &page)
-    {
-        if (setjmp(m_giveUp) == 0) {
-            m_output = gumbo_parse_with_options(&m_options, page.constData(),
-                                                static_cast<size_t>(page.size()));
-        }
-    }
-
-    static void *allocate(void *tree, size_t size)
-    {
-        auto *self = static_cast<PageTree *>(tree);
-        const bool isLate = ++self->m_allocations % 256 == 0 && cpuTime() > self->m_endOfTime;
-        if (isLate || size > maximumMemory) {
-            std::longjmp(self->m_giveUp, 1);
-        }
-        // Small pieces in steps of 16 bytes, the others in powers of two.
-        size_t whole = (size + sizeof(Block) + 15) / 16 * 16;
-        size_t sizeClass = whole / 16;
-        if (sizeClass >= smallClasses) {
-            sizeClass = smallClasses;
-            for (whole = smallClasses * 16; whole < size + sizeof(Block); whole *= 2) {
-                ++sizeClass;
-            }
-        }
-        Block *block = self->m_free[sizeClass];
-        if (block) {
-            self->m_free[sizeClass] = block->nextFree;
-        } else {
-            block = static_cast<Block *>(self->cut(whole));
-            block->sizeClass = sizeClass;
-        }
-        return block + 1;
-    }
-
-    static void release(void *tree, void *memory)
-    {
-        if (memory) {
-            auto *self = static_cast<PageTree *>(tree);
-            Block *block = static_cast<Block *>(memory) - 1;
-            block->nextFree = self->m_free[block->sizeClass];
-            self->m_free[block->sizeClass] = block;
-        }
-    }
-
-    /// New memory; does not return when there is no more.
-    void *cut(size_t size)
-    {
-        if (size > m_rest) {
-            const size_t chunkSize = std::max(size, chunk);
-            const bool fits = m_chunks.size() < m_chunks.capacity() && m_memory < maximumMemory
-                && chunkSize <= maximumMemory - m_memory;
-            m_next = fits ? static_cast<char *>(std::malloc(chunkSize)) : nullptr;
-            if (!m_next) {
-                std::longjmp(m_giveUp, 1);
-            }
-            m_chunks.push_back(m_next);
-            m_memory += chunkSize;
-            m_rest = chunkSize;
-        }
-        void *result = m_next;
-        m_next += size;
-        m_rest -= size;
-        return result;
-    }
-
-    GumboOptions m_options = kGumboDefaultOptions;
-    GumboOutput *m_output = nullptr;
-    std::array<Block *, smallClasses + 32> m_free = {};
-    std::vector<void *> m_chunks;
-    char *m_next = nullptr;
-    size_t m_rest = 0;
-    size_t m_memory = 0;
-    size_t m_allocations = 0;
-    double m_endOfTime = 0;
-    jmp_buf m_giveUp = {};
-};
-
-/// The length of the UTF-8 sequence at `at`, 0 when there is none (RFC 3629).
-int utf8Length(const uchar *at, const uchar *end)
-{
-    const uchar first = *at;
-    if (first < 0x80) {
-        return 1;
-    }
-    const int length = first < 0xc2 ? 0
-        : first < 0xe0              ? 2
-        : first < 0xf0              ? 3
-        : first < 0xf5              ? 4
-                                    : 0;
-    if (length == 0 || end - at < length) {
-        return 0;
-    }
-    const uchar low = first == 0xe0 ? 0xa0 : first == 0xf0 ? 0x90 : 0x80;
-    const uchar high = first == 0xed ? 0x9f : first == 0xf4 ? 0x8f : 0xbf;
-    if (at[1] < low || at[1] > high) {
-        return 0;
-    }
-    for (int i = 2; i < length; ++i) {
-        if ((at[i] & 0xc0) != 0x80) {
-            return 0;
-        }
-    }
-    return length;
-}
-
-/// As the parser wants it, in UTF-8. A byte that is none becomes a percent escape: of the text only
-/// the links count, and there it is what names the file, whatever character the server means.
-QByteArray asUtf8(const QByteArray &page)
-{
-    const auto *at = reinterpret_cast<const uchar *>(page.constBegin());
-    const auto *end = reinterpret_cast<const uchar *>(page.constEnd());
-    const uchar *copied = at;
-    static const char digits[] = "0123456789ABCDEF";
-    QByteArray result;
-    const auto copy = [&] {
-        result.append(reinterpret_cast<const char *>(copied), static_cast<int>(at - copied));
-    };
-    while (at != end) {
-        const int length = utf8Length(at, end);
-        if (length == 0) {
-            copy();
-            result.append('%').append(digits[*at >> 4]).append(digits[*at & 15]);
-            copied = at + 1;
-        }
-        at += qMax(length, 1);
-    }
-    if (result.isEmpty()) {
-        return page;
-    }
-    copy();
-    return result;
-}
-
-/// The links of a tree in document order.
-QStringList hrefs(const GumboNode *document)
-{
-    struct Place {
-        const GumboVector *children;
-        unsigned int next;
-    };
-    QStringList result;
-    std::vector<Place> path{{&document->v.document.children, 0}};
-    while (!path.empty()) {
-        Place &place = path.back();
-        if (place.next == place.children->length) {
-            path.pop_back();
-            continue;
-        }
-        const auto *node = static_cast<const GumboNode *>(place.children->data[place.next++]);
-        // The contents of a template are not part of the document.
-        if (node->type != GUMBO_NODE_ELEMENT) {
-            continue;
-        }
-        const GumboElement &element = node->v.element;
-        for (unsigned int i = 0; element.tag == GUMBO_TAG_A && i < element.attributes.length; ++i) {
-            const auto *attribute = static_cast<const GumboAttribute *>(element.attributes.data[i]);
-            if (attribute->attr_namespace == GUMBO_ATTR_NAMESPACE_NONE
-                && qstrcmp(attribute->name, "href") == 0) {
-                result.append(QString::fromUtf8(attribute->value));
-            }
-        }
-        path.push_back({&element.children, 0});
-    }
-    return result;
-}
-
-/// As a browser does before it looks at a link.
-QString stripped(const QString &href)
-{
-    const auto isBlank = [](QChar c) {
-        return c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\n')
-            || c == QLatin1Char('\f') || c == QLatin1Char('\r');
-    };
-    int first = 0;
-    int end = href.size();
-    while (first < end && isBlank(href.at(first))) {
-        ++first;
-    }
-    while (end > first && isBlank(href.at(end - 1))) {
-        --end;
-    }
-    return href.mid(first, end - first);
-}
 
 QString withSlash(const QString &url)
 {
@@ -506,40 +260,22 @@ void NetworkDirRequestHttp::finish(XNetworkReply *out)
     out->finish();
 }
 
-std::optional<QList<XUrlInfo>> NetworkDirRequestHttp::entriesOf(QByteArray page, const QUrl &url)
+std::optional<QList<XUrlInfo>> NetworkDirRequestHttp::entriesOf(const QByteArray &page,
+                                                                const QUrl &url)
 {
-    const int zero = page.indexOf('\0');
-    if (zero >= 0) {
-        page.truncate(zero);
-    }
-    page = asUtf8(page);
-    if (page.size() > maximumPage || !HtmlCheck().accepts(page)) {
+    const auto links = HtmlLinks::of(page);
+    if (!links) {
         return std::nullopt;
     }
-    QStringList links;
-    {
-        const PageTree tree(page);
-        if (!tree.document()) {
-            return std::nullopt;
-        }
-        links = hrefs(tree.document());
-    }
-
     const LinkTargets targets(url);
     QList<XUrlInfo> entries;
-    QSet<QString> names;
-    names.reserve(links.size());
-    entries.reserve(links.size());
-    for (const QString &link : qAsConst(links)) {
-        const QString href = stripped(link);
-        if (href.isEmpty()) {
-            continue;
-        }
-        const QString name = targets.name(href);
-        const int known = names.size();
-        names.insert(name);
-        if (names.size() != known) {
-            entries.append(makeEntry(name));
+    entries.reserve(links->size());
+    // Ordered, not hashed: who names the files can make names that share one hash.
+    std::set<QString> names;
+    for (const QString &link : *links) {
+        const auto [name, isNew] = names.insert(targets.name(link));
+        if (isNew) {
+            entries.append(makeEntry(*name));
         }
     }
     return entries;
@@ -549,10 +285,14 @@ void NetworkDirRequestHttp::parseHtmlDirectory(QNetworkReply *reply, XNetworkRep
 {
     out->entries.clear();
     const auto entries = entriesOf(reply->readAll(), reply->url());
-    if (!entries) {
-        RVLogger().log(4, "Page '%s' is too costly to read, its links are not listed",
-                       RVLogger::oneLine(reply->url()).constData());
+    if (entries) {
+        out->entries = *entries;
         return;
     }
-    out->entries = *entries;
+    RVLogger().log(3, "Page '%s' has too many links, or links that are too long",
+                   RVLogger::oneLine(reply->url()).constData());
+    if (out->error() == QNetworkReply::NoError) {
+        out->setError(QNetworkReply::UnknownContentError,
+                      QObject::tr("Directory listing is too large"));
+    }
 }

@@ -17,8 +17,8 @@ class QNetworkReply;
 
 /// Lists a directory that a web server publishes as an HTML page: every link of the page is an
 /// entry, whatever server wrote it. Its replies end with XNetworkReply::finishedReply(): with the
-/// error of the transfer, with 299 for a page of more than 32 MiB, and with 5 when they are
-/// aborted or their manager goes.
+/// error of the transfer, with 299 for a page of more than 32 MiB or with more links than HtmlLinks
+/// takes, and with 5 when they are aborted or their manager goes.
 class NetworkDirRequestHttp : public QObject, public NetworkDirRequestBase
 {
     Q_OBJECT
@@ -39,10 +39,11 @@ public:
     /// For information only: the manager sends the request through its own.
     const QNetworkProxy &proxy() const { return m_proxy; }
 
-    /// An entry for each link of the page that came from `url`; nothing when reading it would cost
-    /// too much.
-    static std::optional<QList<XUrlInfo>> entriesOf(QByteArray page, const QUrl &url);
-    /// Fills the entries of `out` with the links of the page that `reply` brought.
+    /// An entry for each link of the page that came from `url`; nothing when it has more than
+    /// HtmlLinks takes.
+    static std::optional<QList<XUrlInfo>> entriesOf(const QByteArray &page, const QUrl &url);
+    /// Fills the entries of `out` with the links of the page that `reply` brought. If they are too
+    /// many, it has none and ends with error 299, or with the error that it has already.
     void parseHtmlDirectory(QNetworkReply *reply, XNetworkReply *out);
 
 private Q_SLOTS:
