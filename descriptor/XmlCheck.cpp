@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "descriptor/XmlCheck.h"
 
-#include <QHash>
+#include <QMap>
 #include <QXmlDefaultHandler>
 
 // QXmlStreamReader, the successor, differs from this parser in what it takes and how it reads
@@ -129,7 +129,7 @@ private:
             || refuse(QStringLiteral("more than %1 entities").arg(XmlCheck::maxEntities));
     }
 
-    QHash<QString, int> m_entityLength;
+    QMap<QString, int> m_entityLength;
     QString m_reason;
     qint64 m_growth = 0;
     int m_depth = 0;

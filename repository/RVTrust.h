@@ -16,10 +16,10 @@
 #include <QNetworkReply>
 #include <QObject>
 #include <QPointer>
-#include <QSet>
 #include <QSslError>
 
 #include <functional>
+#include <set>
 
 class XNetworkAccessManager;
 
@@ -77,7 +77,7 @@ public:
     RVTrustFault judge(const QUrl &url, QIODevice *file) const;
     /// What was found not to be the listed file, for explanations.
     void refuse(const QUrl &url) { m_refused.insert(url); }
-    bool isRefused(const QUrl &url) const { return m_refused.contains(url); }
+    bool isRefused(const QUrl &url) const { return m_refused.count(url) > 0; }
 
     /// Where the list lies.
     QUrl listUrl() const { return urlOf(RVChecksums::fileName); }
@@ -114,7 +114,7 @@ private:
     QString m_signer;
     qint64 m_signedAt = 0;
     QString m_forgetting;
-    QSet<QUrl> m_refused;
+    std::set<QUrl> m_refused;
     // Of the load that runs.
     QPointer<XNetworkAccessManager> m_manager;
     QPointer<QNetworkReply> m_reply;
