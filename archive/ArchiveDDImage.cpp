@@ -157,12 +157,30 @@ QByteArray ArchiveDDImage::script() const
     // Concatenated: a value that looks like a placeholder stays what it is.
     const QByteArrayList configuration{
         "#!/bin/bash",
+        // Until the device restarts, what was there before lies beside what is written, and comes
+        // back whenever this ends early: half an order, or one whose restart failed, would be
+        // carried out by any later restart.
+        "changed=()",
+        "put_aside() {",
+        "    rm -f \"$1.ravel\" || exit 1",
+        "    if [ -e \"$1\" ] || [ -L \"$1\" ]; then",
+        "        mv \"$1\" \"$1.ravel\" || exit 1",
+        "    fi",
+        "    changed+=(\"$1\")",
+        "}",
+        "put_back() {",
+        "    for file in \"${changed[@]}\"; do",
+        "        mv -f \"$file.ravel\" \"$file\" 2>/dev/null || rm -f \"$file\"",
+        "    done",
+        "}",
+        "trap put_back EXIT",
         "mkdir -p " + word(deployDir),
         "if ! cd " + word(deployDir) + "; then",
         "    echo 'Could not mkdir " + inQuotes(deployDir) + "!' >&2",
         "    exit 1",
         "fi",
-        // It holds a password, and one that lies there already may be open to all, or a link.
+        "put_aside \"$PWD/Snapstow.conf\"",
+        // It holds a password.
         "install -m 600 /dev/null Snapstow.conf || exit 1",
         "cat >Snapstow.conf <<EOF",
         "[General]",
@@ -176,14 +194,28 @@ QByteArray ArchiveDDImage::script() const
     };
     const QByteArrayList update{
         "EOF",
+        "[ $? -eq 0 ] || exit 1",
         "mkdir -p " + word(autoUpdateDir),
         "if ! cd " + word(autoUpdateDir) + "; then",
         "  echo 'Could not mkdir " + inQuotes(autoUpdateDir) + "' >&2",
         "  exit 1",
         "fi",
+        "put_aside \"$PWD/new_image\"",
         "echo '" + inQuotes(fileName()) + "' >new_image",
+        // Some file systems tell of a full disk no earlier.
+        "[ $? -eq 0 ] && sync \"${changed[@]}\" || exit 1",
         "cd /",
-        "exec " + word(m_paths.rebootTool),
+        // The end of the system may reach this script before the restart's: then nothing is put
+        // back.
+        "trap - EXIT",
+        word(m_paths.rebootTool),
+        "status=$?",
+        "if [ $status -ne 0 ]; then",
+        "    put_back",
+        "    echo 'The restart failed.' >&2",
+        "    exit $status",
+        "fi",
+        "rm -f \"${changed[@]/%/.ravel}\"",
     };
     return (configuration + proxyLines() + update).join('\n') + '\n';
 }

@@ -12,12 +12,16 @@
 #include <QMap>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <cctype>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
@@ -90,6 +94,11 @@ private Q_SLOTS:
     void autoUpdateDirectory();
     void directoryCannotBeMade_data();
     void directoryCannotBeMade();
+    void failureLeavesTheDevice_data();
+    void failureLeavesTheDevice();
+    void fullDiskLeavesTheDevice_data();
+    void fullDiskLeavesTheDevice();
+    void leftoversAreNotPutBack();
     void urlArrivesUnchanged_data();
     void urlArrivesUnchanged();
     void controlCharacterIsRefused_data();
@@ -103,6 +112,10 @@ private Q_SLOTS:
     void isAskedThroughTheProcedure();
 
 private:
+    /// What could make a later restart deploy: the two files, and all that lies beside them.
+    QMap<QString, QByteArray> orders() const;
+    /// Stands before the program of the system for this test.
+    void replaceTool(const QString &name, const QByteArray &script);
     /// Installs `url` with a yes below the private root, to the end; the exit code.
     int install(const QUrl &url, const QString &proxyHost = {}, int proxyPort = -1);
     QByteArray configuration() const
@@ -119,6 +132,7 @@ private:
     std::unique_ptr<FakeRoot> m_root;
     std::unique_ptr<QTemporaryDir> m_work;
     std::unique_ptr<QProcess> m_process;
+    QByteArray m_searchPath;
 };
 
 void tst_ArchiveDDImage::init()
@@ -134,15 +148,40 @@ void tst_ArchiveDDImage::init()
     m_work = std::make_unique<QTemporaryDir>();
     QVERIFY(QDir::setCurrent(m_work->path()));
     m_process = std::make_unique<QProcess>();
+    m_searchPath = qgetenv("PATH");
 }
 
 void tst_ArchiveDDImage::cleanup()
 {
+    qputenv("PATH", m_searchPath);
     QDir::setCurrent(QStringLiteral("/"));
     QVERIFY2(m_warnings->isClean(), m_warnings->report());
     m_process.reset();
     m_warnings.reset();
     m_log.reset();
+}
+
+QMap<QString, QByteArray> tst_ArchiveDDImage::orders() const
+{
+    QMap<QString, QByteArray> result;
+    for (const char *folder : {"/writable/CV/", "/etc/auto-update/"}) {
+        const QString path = m_root->path() + QLatin1String(folder);
+        const QStringList names = QDir(path).entryList(QDir::AllEntries | QDir::Hidden
+                                                       | QDir::System | QDir::NoDotAndDotDot);
+        for (const QString &name : names) {
+            result.insert(name,
+                          QByteArray::number(mode(path + name), 8) + ' ' + contents(path + name));
+        }
+    }
+    return result;
+}
+
+void tst_ArchiveDDImage::replaceTool(const QString &name, const QByteArray &script)
+{
+    const QString bin = m_root->path() + QStringLiteral("/bin");
+    FakeRoot::write(bin + QLatin1Char('/') + name, script);
+    QFile::setPermissions(bin + QLatin1Char('/') + name, QFile::Permissions(0x7755));
+    qputenv("PATH", QFile::encodeName(bin) + ':' + m_searchPath);
 }
 
 int tst_ArchiveDDImage::install(const QUrl &url, const QString &proxyHost, int proxyPort)
@@ -255,35 +294,58 @@ void tst_ArchiveDDImage::script()
     const bool isLink = QFileInfo(QStringLiteral("/etc")).isSymLink()
         && QFileInfo(QStringLiteral("/writable")).isDir();
     const QByteArray autoUpdate = isLink ? "/writable/auto-update" : "/etc/auto-update";
+    const QByteArray expected = R"(#!/bin/bash
+changed=()
+put_aside() {
+    rm -f "$1.ravel" || exit 1
+    if [ -e "$1" ] || [ -L "$1" ]; then
+        mv "$1" "$1.ravel" || exit 1
+    fi
+    changed+=("$1")
+}
+put_back() {
+    for file in "${changed[@]}"; do
+        mv -f "$file.ravel" "$file" 2>/dev/null || rm -f "$file"
+    done
+}
+trap put_back EXIT
+mkdir -p /writable/CV
+if ! cd /writable/CV; then
+    echo 'Could not mkdir /writable/CV!' >&2
+    exit 1
+fi
+put_aside "$PWD/Snapstow.conf"
+install -m 600 /dev/null Snapstow.conf || exit 1
+cat >Snapstow.conf <<EOF
+[General]
+autostart=remote-deploy
+CONFIGURATION
+EOF
+[ $? -eq 0 ] || exit 1
+mkdir -p AUTOUPDATE
+if ! cd AUTOUPDATE; then
+  echo 'Could not mkdir AUTOUPDATE' >&2
+  exit 1
+fi
+put_aside "$PWD/new_image"
+echo 'IMAGE' >new_image
+[ $? -eq 0 ] && sync "${changed[@]}" || exit 1
+cd /
+trap - EXIT
+/usr/sbin/cvtc-ts-reboot
+status=$?
+if [ $status -ne 0 ]; then
+    put_back
+    echo 'The restart failed.' >&2
+    exit $status
+fi
+rm -f "${changed[@]/%/.ravel}"
+)";
     QCOMPARE(contents(QStringLiteral("RVinstall.sh")),
-             "#!/bin/bash\n"
-             "mkdir -p /writable/CV\n"
-             "if ! cd /writable/CV; then\n"
-             "    echo 'Could not mkdir /writable/CV!' >&2\n"
-             "    exit 1\n"
-             "fi\n"
-             "install -m 600 /dev/null Snapstow.conf || exit 1\n"
-             "cat >Snapstow.conf <<EOF\n"
-             "[General]\n"
-             "autostart=remote-deploy\n"
-                 + configuration
-                 + "EOF\n"
-                   "mkdir -p "
-                 + autoUpdate
-                 + "\n"
-                   "if ! cd "
-                 + autoUpdate
-                 + "; then\n"
-                   "  echo 'Could not mkdir "
-                 + autoUpdate
-                 + "' >&2\n"
-                   "  exit 1\n"
-                   "fi\n"
-                   "echo '"
-                 + fileName
-                 + "' >new_image\n"
-                   "cd /\n"
-                   "exec /usr/sbin/cvtc-ts-reboot\n");
+             QByteArray(expected)
+                 .replace("CONFIGURATION\n", configuration)
+                 .replace("AUTOUPDATE", autoUpdate)
+                 .replace("IMAGE", fileName));
 }
 
 void tst_ArchiveDDImage::abortLeavesTheDevice_data()
@@ -426,6 +488,131 @@ void tst_ArchiveDDImage::directoryCannotBeMade()
     QVERIFY2(lines.contains(message.arg(m_root->path())),
              qPrintable(lines.join(QLatin1Char('\n'))));
     QVERIFY(!QFile::exists(m_root->path() + QStringLiteral("/reboot.log")));
+}
+
+void tst_ArchiveDDImage::failureLeavesTheDevice_data()
+{
+    QTest::addColumn<QByteArray>("restart");
+    QTest::addColumn<QString>("tool");
+    QTest::addColumn<QByteArray>("replacement");
+    QTest::addColumn<bool>("wasThere");
+    QTest::addColumn<int>("exitCode");
+    const auto add = [](const char *name, const QByteArray &restart, const QString &tool,
+                        const QByteArray &replacement, int exitCode) {
+        for (const bool wasThere : {true, false}) {
+            QTest::addRow("%s, %s", name, wasThere ? "files of before" : "nothing before")
+                << restart << tool << replacement << wasThere << exitCode;
+        }
+    };
+    add("the restart fails", "exit 3", {}, {}, 3);
+    add("the restart is killed", "kill -9 $$", {}, {}, 128 + 9);
+    add("there is no restart", {}, {}, {}, 127);
+    add("the configuration cannot be written", "exit 0", QStringLiteral("cat"),
+        "#!/bin/sh\necho half\nexit 1\n", 1);
+    add("the disk fails late", "exit 0", QStringLiteral("sync"), "#!/bin/sh\nexit 1\n", 1);
+    add("ended on the way", "exit 0", QStringLiteral("sync"), "#!/bin/sh\nkill $PPID\n", 128 + 15);
+}
+
+void tst_ArchiveDDImage::failureLeavesTheDevice()
+{
+    QFETCH(QByteArray, restart);
+    QFETCH(QString, tool);
+    QFETCH(QByteArray, replacement);
+    QFETCH(bool, wasThere);
+    QFETCH(int, exitCode);
+    const QString restartTool = m_root->paths().rebootTool;
+    const QString log = m_root->path() + QStringLiteral("/reboot.log");
+    const bool runsRestart = tool.isEmpty() && !restart.isEmpty();
+    if (restart.isEmpty()) {
+        QVERIFY(QFile::remove(restartTool));
+    } else {
+        FakeRoot::write(restartTool, "#!/bin/sh\ntouch '" + log.toUtf8() + "'\n" + restart + '\n');
+    }
+    if (!tool.isEmpty()) {
+        replaceTool(tool, replacement);
+    }
+    if (wasThere) {
+        const QString earlier = m_root->path() + QStringLiteral("/writable/CV/Snapstow.conf");
+        FakeRoot::write(earlier, "an earlier order");
+        QVERIFY(QFile::setPermissions(earlier, QFile::Permissions(0x6640)));
+        FakeRoot::write(m_root->path() + QStringLiteral("/etc/auto-update/new_image"), "earlier");
+    }
+    const auto before = orders();
+    QCOMPARE(before.size(), wasThere ? 2 : 0);
+    const QUrl url(QStringLiteral("http://h/x.dd.gz"));
+    const int code = install(url);
+    QCOMPARE(m_process->exitStatus() == QProcess::CrashExit ? code + 128 : code, exitCode);
+    QCOMPARE(orders(), before);
+    QCOMPARE(QFile::exists(log), runsRestart);
+
+    // Nothing of it is in the way of the next one.
+    qputenv("PATH", m_searchPath);
+    FakeRoot::write(restartTool, "#!/bin/sh\nexit 0\n");
+    QVERIFY(QFile::setPermissions(restartTool, QFile::Permissions(0x7755)));
+    QCOMPARE(install(url), 0);
+    QCOMPARE(newImage(), QByteArray("x.dd.gz\n"));
+    QCOMPARE(orders().size(), 2);
+}
+
+void tst_ArchiveDDImage::fullDiskLeavesTheDevice_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<bool>("isReadOnly");
+    QTest::addColumn<bool>("wasThere");
+    for (const char *folder : {"/writable/CV", "/etc/auto-update"}) {
+        for (const bool isReadOnly : {false, true}) {
+            for (const bool wasThere : {true, false}) {
+                QTest::addRow("%s %s, %s", folder, isReadOnly ? "read-only" : "full",
+                              wasThere ? "files of before" : "nothing before")
+                    << folder << isReadOnly << wasThere;
+            }
+        }
+    }
+}
+
+void tst_ArchiveDDImage::fullDiskLeavesTheDevice()
+{
+    QFETCH(QString, folder);
+    QFETCH(bool, isReadOnly);
+    QFETCH(bool, wasThere);
+    if (::geteuid() != 0 || ::unshare(CLONE_NEWNS) != 0
+        || ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) {
+        QSKIP("mounting is not allowed here");
+    }
+    const QString path = m_root->path() + folder;
+    const QByteArray place = QFile::encodeName(path);
+    QVERIFY(QDir().mkpath(path));
+    QCOMPARE(::mount("tmpfs", place.constData(), "tmpfs", 0, "size=64k"), 0);
+    const auto unmount = qScopeGuard([&] {
+        ::umount2(place.constData(), MNT_DETACH);
+    });
+    if (wasThere) {
+        FakeRoot::write(m_root->path() + QStringLiteral("/writable/CV/Snapstow.conf"), "earlier");
+        FakeRoot::write(m_root->path() + QStringLiteral("/etc/auto-update/new_image"), "earlier");
+    }
+    if (isReadOnly) {
+        QCOMPARE(::mount("tmpfs", place.constData(), "tmpfs", MS_REMOUNT | MS_RDONLY, nullptr), 0);
+    } else {
+        QFile filler(path + QStringLiteral("/filler"));
+        QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        while (filler.write(QByteArray(4096, 'x')) == 4096) { }
+    }
+    const auto before = orders();
+    QCOMPARE(install(QUrl(QStringLiteral("http://h/x.dd.gz"))), 1);
+    QVERIFY(!m_process->readAllStandardError().isEmpty());
+    QCOMPARE(orders(), before);
+    QVERIFY(!QFile::exists(m_root->path() + QStringLiteral("/reboot.log")));
+}
+
+void tst_ArchiveDDImage::leftoversAreNotPutBack()
+{
+    // Of a run that was killed, or whose restart came before its end.
+    const QString file = m_root->path() + QStringLiteral("/writable/CV/Snapstow.conf");
+    FakeRoot::write(file + QStringLiteral(".ravel"), "older");
+    FakeRoot::write(m_root->paths().rebootTool, "#!/bin/sh\nexit 1\n");
+    QCOMPARE(install(QUrl(QStringLiteral("http://h/x.dd.gz"))), 1);
+    const QMap<QString, QByteArray> none;
+    QCOMPARE(orders(), none);
 }
 
 void tst_ArchiveDDImage::urlArrivesUnchanged_data()
