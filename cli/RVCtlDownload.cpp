@@ -8,11 +8,11 @@
 #include "cli/RVCtlMessages.h"
 #include "cli/RVCtlOffers.h"
 #include "cli/RVCtlProgress.h"
-#include "cli/RVCtlSpace.h"
 #include "cli/RVCtlText.h"
 #include "cli/RVCtlTrust.h"
 #include "core/RVSum.h"
 #include "core/RVUrl.h"
+#include "install/RVFreeSpace.h"
 #include "repository/RVRepDesc.h"
 #include "repository/RVRepository.h"
 #include "repository/RVTrust.h"
@@ -342,8 +342,8 @@ RVCtlResult RVCtlCommands::download(const RVCtlCall &call)
                 "The folder already holds something that is not a regular file under that name."));
         }
     }
-    if (!RVCtlSpace::fits(bytesToFetch(files), folder.path(), &error)) {
-        return RVCtlResult::failed(RVCtlExit::NoSpace, error);
+    if (const auto shortage = RVFreeSpace::shortage(bytesToFetch(files), folder.path())) {
+        return RVCtlResult::failed(RVCtlExit::NoSpace, shortage->sentence().english());
     }
     if (std::any_of(files.cbegin(), files.cend(), [](const File &file) {
             return file.isMissing();

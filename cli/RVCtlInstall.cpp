@@ -7,9 +7,9 @@
 #include "cli/RVCtlInstallRun.h"
 #include "cli/RVCtlMessages.h"
 #include "cli/RVCtlOffers.h"
-#include "cli/RVCtlSpace.h"
 #include "cli/RVCtlTrust.h"
 #include "core/RVLogger.h"
+#include "install/RVFreeSpace.h"
 
 #include <QCommandLineParser>
 #include <QEventLoop>
@@ -83,6 +83,15 @@ bool isConfirmed(const RVCtlCall &call, const RVCtlBatch &batch, QString *error)
     return false;
 }
 
+QVector<RVFreeSpace::Update> spaceOf(const RVCtlBatch &batch)
+{
+    QVector<RVFreeSpace::Update> result;
+    for (int i = 0; i < batch.updates.size(); ++i) {
+        result.append({batch.entries.at(i), !batch.updates.at(i).proposal.installed.isEmpty()});
+    }
+    return result;
+}
+
 } // namespace
 
 QList<QCommandLineOption> RVCtlCommands::installOptions()
@@ -151,8 +160,8 @@ RVCtlResult RVCtlCommands::install(const RVCtlCall &call)
     if (batch.isImage() && !isConfirmed(call, batch, &error)) {
         return refused(RVCtlExit::Usage, error);
     }
-    if (!RVCtlSpace::fits(batch, call.world.paths(), &error)) {
-        return refused(RVCtlExit::NoSpace, error);
+    if (const auto shortage = RVFreeSpace::shortage(spaceOf(batch), call.world.paths())) {
+        return refused(RVCtlExit::NoSpace, shortage->sentence().english());
     }
     if (batch.isPackages() && !run.awaitDatabase(&error)) {
         return refused(RVCtlExit::DatabaseLocked, error);

@@ -6,13 +6,13 @@
 #include "cli/RVCtlAccess.h"
 #include "cli/RVCtlArchive.h"
 #include "cli/RVCtlDeadline.h"
-#include "cli/RVCtlDpkg.h"
 #include "cli/RVCtlMessages.h"
-#include "cli/RVCtlSpace.h"
 #include "cli/RVCtlText.h"
 #include "cli/RVCtlTrust.h"
 #include "core/RVUrl.h"
+#include "install/RVFreeSpace.h"
 #include "install/RVInstallProc.h"
+#include "install/RVPackageDatabase.h"
 #include "repository/RVRepository.h"
 
 #include <QCommandLineParser>
@@ -68,7 +68,7 @@ RVCtlInstallRun::~RVCtlInstallRun() = default;
 
 bool RVCtlInstallRun::awaitDatabase(QString *error)
 {
-    const RVCtlDpkg database(m_call.world.paths());
+    const RVPackageDatabase database(m_call.world.paths());
     QElapsedTimer waiting;
     waiting.start();
     bool isTold = false;
@@ -268,7 +268,7 @@ void RVCtlInstallRun::judgeArchive(int index)
         // The installer takes every package of the directory.
         if (exists) {
             QFile::remove(file);
-        } else if (RVCtlSpace::freeBytes(QDir::currentPath()) < sizeOf(data)) {
+        } else if (RVFreeSpace::freeBytes(QDir::currentPath()) < sizeOf(data)) {
             fault.kind = RVCtlFault::Space;
             fault.text = QStringLiteral("There is no space left for the package.");
         }

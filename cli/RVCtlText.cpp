@@ -124,11 +124,5 @@ QString RVCtlText::notes(const QString &html)
 
 QString RVCtlText::size(qint64 bytes)
 {
-    if (bytes < 0) {
-        return {};
-    }
-    static const QStringList units{QStringLiteral("B"), QStringLiteral("KiB"),
-                                   QStringLiteral("MiB"), QStringLiteral("GiB")};
-    const ByteSize size(bytes);
-    return size.number + QLatin1Char(' ') + units.at(size.unit);
+    return bytes < 0 ? QString() : ByteSize(bytes).toEnglish();
 }

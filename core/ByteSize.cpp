@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "core/ByteSize.h"
 
+#include <QStringList>
+
 ByteSize::ByteSize(qint64 bytes)
 {
     constexpr qint64 kibibyte = 1024;
@@ -22,4 +24,11 @@ ByteSize::ByteSize(qint64 bytes)
     }
     const float value = static_cast<float>(bytes) * (1.0F / static_cast<float>(size));
     number = QString::number(static_cast<double>(value), 'f', bytes < 10 * size ? 1 : 0);
+}
+
+QString ByteSize::toEnglish() const
+{
+    static const QStringList units{QStringLiteral("B"), QStringLiteral("KiB"),
+                                   QStringLiteral("MiB"), QStringLiteral("GiB")};
+    return number + QLatin1Char(' ') + units.at(unit);
 }

@@ -16,6 +16,9 @@ struct ByteSize {
 
     explicit ByteSize(qint64 bytes);
 
+    /// "1.5 KiB".
+    QString toEnglish() const;
+
     QString number;
     Unit unit = Bytes;
 };

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVCtlSpace.h"
+#include "install/RVFreeSpace.h"
 
-#include "cli/RVCtlBatch.h"
-#include "cli/RVCtlText.h"
+#include "core/ByteSize.h"
 #include "core/RVPaths.h"
 #include "core/RVSum.h"
+#include "install/RVInstallProc.h"
 
 #include <QDir>
 #include <QFile>
@@ -30,35 +30,51 @@ qint64 known(qint64 size)
     return qMax<qint64>(size, 0);
 }
 
+bool isPackage(const RVData &data)
+{
+    return data.archiveUrl().path().endsWith(QLatin1String(".deb"), Qt::CaseInsensitive);
+}
+
+bool isImage(const RVData &data)
+{
+    return data.archive()->urlIsHandled() && !data.archive()->useExtract();
+}
+
 /// A package is written twice, once as it arrives and once beside the others of its batch; the
 /// first copy goes with its download, so that of all of them one is left for certain.
-qint64 temporaryBytes(const RVCtlBatch &batch)
+qint64 temporaryBytes(const QVector<RVFreeSpace::Update> &batch)
 {
+    QList<RVData> entries;
+    for (const RVFreeSpace::Update &update : batch) {
+        entries.append(update.data);
+    }
+    const bool isPackages = isPackage(entries.constFirst());
+    const QList<RVData> downloads = RVInstallProc::downloads(entries);
     qint64 total = 0;
     qint64 smallest = most;
-    for (const RVData &data : batch.downloads) {
+    for (const RVData &data : downloads) {
         const qint64 size = data.descriptor()->size();
         const qint64 unpacked = data.descriptor()->unpackedSize();
-        total = saturatingSum(total, known(batch.isPackages() || unpacked < 0 ? size : unpacked));
+        total = saturatingSum(total, known(isPackages || unpacked < 0 ? size : unpacked));
         smallest = qMin(smallest, known(size));
     }
     if (total == 0) {
         return 0;
     }
-    return saturatingSum(saturatingSum(total, smallest), batch.isPackages() ? 0 : spareBytes);
+    return saturatingSum(saturatingSum(total, smallest), isPackages ? 0 : spareBytes);
 }
 
 /// What is new comes on top; what replaces an older version needs its own size until that is gone.
-qint64 installedBytes(const RVCtlBatch &batch)
+qint64 installedBytes(const QVector<RVFreeSpace::Update> &batch)
 {
     qint64 added = 0;
     qint64 replacing = 0;
-    for (const RVCtlOffers::Entry &entry : batch.updates) {
-        const qint64 size = entry.description ? entry.description->installedSize() : -1;
-        if (entry.proposal.installed.isEmpty()) {
-            added = saturatingSum(added, known(size));
-        } else {
+    for (const RVFreeSpace::Update &update : batch) {
+        const qint64 size = update.data.descriptor()->installedSize();
+        if (update.isReplacing) {
             replacing = qMax(replacing, size);
+        } else {
+            added = saturatingSum(added, known(size));
         }
     }
     return saturatingSum(added, replacing);
@@ -74,7 +90,14 @@ bool isSameFileSystem(const QString &a, const QString &b)
 
 } // namespace
 
-qint64 RVCtlSpace::freeBytes(const QString &directory)
+RVSentence RVFreeSpace::Shortage::sentence() const
+{
+    return RVSentence(
+        QT_TRANSLATE_NOOP("RVSentence", "Not enough space in '%1': %2 needed, %3 free."),
+        {directory, ByteSize(needed).toEnglish(), ByteSize(available).toEnglish()});
+}
+
+qint64 RVFreeSpace::freeBytes(const QString &directory)
 {
     struct statvfs status = {};
     if (::statvfs(QFile::encodeName(directory).constData(), &status) != 0) {
@@ -87,29 +110,28 @@ qint64 RVCtlSpace::freeBytes(const QString &directory)
         size != 0 && blocks > static_cast<quint64>(most) / size ? most : blocks * size);
 }
 
-bool RVCtlSpace::fits(qint64 bytes, const QString &directory, QString *error)
+std::optional<RVFreeSpace::Shortage> RVFreeSpace::shortage(qint64 bytes, const QString &directory)
 {
     const qint64 available = freeBytes(directory);
     if (available < 0 || bytes <= available) {
-        return true;
+        return std::nullopt;
     }
-    *error = QStringLiteral("Not enough space in '%1': %2 needed, %3 free.")
-                 .arg(directory, RVCtlText::size(bytes), RVCtlText::size(available));
-    return false;
+    return Shortage{directory, bytes, available};
 }
 
-bool RVCtlSpace::fits(const RVCtlBatch &batch, const RVPaths &paths, QString *error)
+std::optional<RVFreeSpace::Shortage> RVFreeSpace::shortage(const QVector<Update> &batch,
+                                                           const RVPaths &paths)
 {
-    if (batch.isImage()) {
-        return true;
+    if (batch.isEmpty() || isImage(batch.constFirst().data)) {
+        return std::nullopt;
     }
     const QString temporary = QDir::tempPath();
-    const QString root = QFileInfo(paths.etcDir).path().isEmpty() ? QDir::rootPath()
-                                                                  : QFileInfo(paths.etcDir).path();
+    const QString root = QFileInfo(paths.etcDir).path();
     const qint64 forDownloads = temporaryBytes(batch);
     const qint64 forInstallation = installedBytes(batch);
     if (isSameFileSystem(temporary, root)) {
-        return fits(saturatingSum(forDownloads, forInstallation), temporary, error);
+        return shortage(saturatingSum(forDownloads, forInstallation), temporary);
     }
-    return fits(forDownloads, temporary, error) && fits(forInstallation, root, error);
+    const std::optional<Shortage> download = shortage(forDownloads, temporary);
+    return download ? download : shortage(forInstallation, root);
 }

@@ -9,10 +9,10 @@
 
 /// The package database as the next dpkg will find it. Looks only: nothing is locked, made or
 /// changed.
-class RVCtlDpkg
+class RVPackageDatabase
 {
 public:
-    explicit RVCtlDpkg(const RVPaths &paths);
+    explicit RVPackageDatabase(const RVPaths &paths);
 
     /// Who holds a lock that dpkg takes: "apt-get (process 4711)"; empty when nobody does, or when
     /// the locks may not be looked at.

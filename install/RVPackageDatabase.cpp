@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVCtlDpkg.h"
+#include "install/RVPackageDatabase.h"
 
 #include <QDir>
 #include <QFile>
@@ -48,13 +48,13 @@ QString holderOf(const QString &file)
 
 } // namespace
 
-RVCtlDpkg::RVCtlDpkg(const RVPaths &paths)
+RVPackageDatabase::RVPackageDatabase(const RVPaths &paths)
     : m_adminDir(paths.packageDatabase)
     , m_root(m_adminDir.chopped(RVPaths().packageDatabase.size()))
 {
 }
 
-QString RVCtlDpkg::lockHolder() const
+QString RVPackageDatabase::lockHolder() const
 {
     QString holder;
     // Who runs us as a front end says so, and holds that lock for us.
@@ -64,7 +64,7 @@ QString RVCtlDpkg::lockHolder() const
     return holder.isEmpty() ? holderOf(m_adminDir + QLatin1String("/lock")) : holder;
 }
 
-bool RVCtlDpkg::hasJournal() const
+bool RVPackageDatabase::hasJournal() const
 {
     // Its parts are numbers; "tmp.i" is one that dpkg had only begun and passes over.
     static const QRegularExpression number(QStringLiteral("\\A[0-9]+\\z"));
@@ -75,7 +75,7 @@ bool RVCtlDpkg::hasJournal() const
     });
 }
 
-QStringList RVCtlDpkg::brokenPackages(const QStringList &repaired) const
+QStringList RVPackageDatabase::brokenPackages(const QStringList &repaired) const
 {
     static const QStringList broken{
         QStringLiteral("half-installed"),
@@ -103,7 +103,7 @@ QStringList RVCtlDpkg::brokenPackages(const QStringList &repaired) const
     return result;
 }
 
-QString RVCtlDpkg::repairCommand() const
+QString RVPackageDatabase::repairCommand() const
 {
     return m_root.isEmpty() ? QStringLiteral("dpkg --configure -a")
                             : QStringLiteral("dpkg --root=%1 --configure -a").arg(m_root);
