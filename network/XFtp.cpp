@@ -13,9 +13,6 @@
 namespace
 {
 
-constexpr int maxReplyLine = 8 * 1024;
-constexpr int maxReplyLines = 1000;
-constexpr int maxReplyText = 2000;
 constexpr int maxErrorText = 500;
 constexpr int maxListLines = 100'000;
 constexpr qint64 maxListBytes = 16 * 1024 * 1024;
@@ -26,12 +23,6 @@ constexpr int graceMs = 2000;
 bool isSendable(const QByteArray &text)
 {
     return !text.contains('\r') && !text.contains('\n') && !text.contains('\0');
-}
-
-QString decoded(const QByteArray &raw)
-{
-    const QString text = QString::fromUtf8(raw);
-    return text.toUtf8() == raw ? text : QString::fromLatin1(raw);
 }
 
 /// One line without anything that could act on a screen, bounded.
@@ -47,21 +38,6 @@ QString plainLine(QString text)
         text.chop(1);
     }
     return text;
-}
-
-/// The code at the begin of a reply's line (RFC 959 §4.2); -1 if there is none.
-int codeOf(const QByteArray &line)
-{
-    if (line.size() < 3 || line.at(0) < '1' || line.at(0) > '5'
-        || (line.size() > 3 && line.at(3) != ' ' && line.at(3) != '-')) {
-        return -1;
-    }
-    for (int i = 1; i < 3; ++i) {
-        if (line.at(i) < '0' || line.at(i) > '9') {
-            return -1;
-        }
-    }
-    return line.left(3).toInt();
 }
 
 /// RFC 2428 §3: "(|||6446|)", any character in place of the bars; 0 if there is none.
@@ -222,10 +198,7 @@ void XFtp::startNext()
     }
     m_current = m_queue.dequeue();
     setError(NoError, {});
-    const QPointer<XFtp> self(this);
-    const int id = m_current.id;
-    Q_EMIT commandStarted(id);
-    if (self && m_current.id == id) {
+    if (tell(&XFtp::commandStarted, m_current.id)) {
         run();
     }
 }
@@ -281,7 +254,7 @@ void XFtp::run()
 void XFtp::open()
 {
     drop();
-    m_replyCode = 0;
+    m_reply = {};
     m_isEpsvRefused = false;
     m_user.clear();
     m_secret.clear();
@@ -380,61 +353,45 @@ void XFtp::serveData()
     if (m_step != Transfer) {
         return;
     }
-    // What a slot may do in between: read, abort, delete, run an event loop that comes here again.
-    const QPointer<XFtp> self(this);
-    const int id = m_current.id;
-    if (m_transfer == List) {
-        readList();
-    } else {
-        readFile();
-    }
-    if (self && m_current.id == id) {
+    if (m_transfer == List ? readList() : readFile()) {
         checkTransfer();
     }
 }
 
-void XFtp::readFile()
+/// False when the command has ended.
+bool XFtp::readFile()
 {
     const qint64 received = m_taken + m_data->bytesAvailable();
     if (received == m_received) {
-        return;
+        return true;
     }
     m_received = received;
-    const QPointer<XFtp> self(this);
-    const int id = m_current.id;
-    Q_EMIT dataTransferProgress(m_received, m_size);
-    if (self && m_current.id == id) {
-        Q_EMIT readyRead();
-    }
+    return tell(&XFtp::dataTransferProgress, m_received, m_size) && tell(&XFtp::readyRead);
 }
 
-void XFtp::readList()
+/// False when the command has ended.
+bool XFtp::readList()
 {
-    const QPointer<XFtp> self(this);
-    const int id = m_current.id;
     const QString user = QString::fromUtf8(m_user);
     const QDateTime now = QDateTime::currentDateTimeUtc();
-    while (m_data->bytesAvailable() > 0) {
+    while (m_data && m_data->bytesAvailable() > 0) {
         const QByteArray part = m_data->readLine();
         m_received += part.size();
         m_listLine += part;
         const bool isWhole = m_listLine.endsWith('\n');
         if (m_received > maxListBytes || (isWhole && ++m_listLines > maxListLines)) {
             fail(UnknownError, tr("The directory is too large to be listed"));
-            return;
+            return false;
         }
         if (!isWhole) {
             continue;
         }
         const auto entry = FtpListing::parse(std::exchange(m_listLine, {}), user, now);
-        if (!entry) {
-            continue;
-        }
-        Q_EMIT listInfo(entry->info, entry->rawName);
-        if (!self || m_current.id != id || !m_data) {
-            return;
+        if (entry && !tell(&XFtp::listInfo, entry->info, entry->rawName)) {
+            return false;
         }
     }
+    return true;
 }
 
 /// The end of the data and the final reply come in either order; a transfer ends with both.
@@ -461,15 +418,9 @@ void XFtp::checkTransfer()
     }
     m_data.reset();
     const auto entry = FtpListing::parse(std::exchange(m_listLine, {}), QString::fromUtf8(m_user));
-    if (entry) {
-        const QPointer<XFtp> self(this);
-        const int id = m_current.id;
-        Q_EMIT listInfo(entry->info, entry->rawName);
-        if (!self || m_current.id != id) {
-            return;
-        }
+    if (!entry || tell(&XFtp::listInfo, entry->info, entry->rawName)) {
+        finish(false);
     }
-    finish(false);
 }
 
 // --- control connection
@@ -480,14 +431,15 @@ void XFtp::serveControl()
     if (!m_control || (m_step == Opening && !hasOpened())) {
         return;
     }
-    while (self && m_control && m_control->bytesAvailable() > 0) {
-        m_line += m_control->readLine();
-        if (m_line.size() > maxReplyLine + 2) {
+    auto progress = FtpReplyReader::Incomplete;
+    while (self && m_control
+           && (progress = m_replies.read(m_control.get())) != FtpReplyReader::Incomplete) {
+        if (progress == FtpReplyReader::Whole) {
+            takeReply(m_replies.reply());
+        } else if (progress == FtpReplyReader::TooLong) {
             lose(UnknownError, tr("The server's answer is too long"));
-        } else if (m_line.endsWith('\n')) {
-            QByteArray line = std::exchange(m_line, {});
-            line.chop(line.endsWith("\r\n") ? 2 : 1);
-            takeLine(line);
+        } else {
+            lose(UnknownError, tr("The server does not speak FTP"));
         }
     }
     if (self && m_control && m_control->state() == QAbstractSocket::UnconnectedState
@@ -504,7 +456,8 @@ bool XFtp::hasOpened()
         return false;
     }
     if (state == QAbstractSocket::UnconnectedState && !isPeersEnd(*m_control)) {
-        const QString host = decoded(m_proxyHost.isEmpty() ? m_current.text : m_proxyHost);
+        const QString host =
+            QString::fromUtf8(m_proxyHost.isEmpty() ? m_current.text : m_proxyHost);
         if (m_control->error() == QAbstractSocket::HostNotFoundError) {
             lose(HostNotFound, tr("Host %1 not found").arg(host));
         } else if (m_control->error() == QAbstractSocket::SocketTimeoutError) {
@@ -522,38 +475,10 @@ bool XFtp::hasOpened()
     return true;
 }
 
-void XFtp::takeLine(const QByteArray &line)
+void XFtp::takeReply(FtpReplyReader::Reply reply)
 {
-    const int code = codeOf(line);
-    bool isLast = false;
-    if (m_replyLines == 0) {
-        if (code < 0) {
-            lose(UnknownError, tr("The server does not speak FTP"));
-            return;
-        }
-        m_replyBegan = code;
-        m_reply.clear();
-        isLast = line.mid(3, 1) != "-";
-    } else {
-        // Lines between may begin with anything, other codes included (RFC 959 §4.2).
-        isLast = code == m_replyBegan && line.mid(3, 1) != "-";
-    }
-    if (++m_replyLines > maxReplyLines) {
-        lose(UnknownError, tr("The server's answer is too long"));
-        return;
-    }
-    if (m_reply.size() < maxReplyText) {
-        m_reply += decoded(code == m_replyBegan ? line.mid(4) : line) + QLatin1Char(' ');
-    }
-    if (isLast) {
-        m_replyLines = 0;
-        takeReply(code, line.mid(4));
-    }
-}
-
-void XFtp::takeReply(int code, const QByteArray &lastLine)
-{
-    m_replyCode = code;
+    const int code = reply.code;
+    m_reply = std::move(reply);
     if (code == 421) {
         lose(m_step == Greeting ? ConnectionRefused : UnknownError, serverText());
         return;
@@ -595,12 +520,12 @@ void XFtp::takeReply(int code, const QByteArray &lastLine)
         }
         break;
     case Size:
-        m_size = code == 213 ? sizeOf(lastLine) : -1;
+        m_size = code == 213 ? sizeOf(m_reply.lastLine) : -1;
         send(m_isEpsvRefused ? "PASV" : "EPSV", m_isEpsvRefused ? Passive : ExtendedPassive);
         break;
     case ExtendedPassive:
         if (code == 229) {
-            openData(extendedPort(lastLine));
+            openData(extendedPort(m_reply.lastLine));
         } else if (code >= 500) {
             m_isEpsvRefused = true;
             send("PASV", Passive);
@@ -610,7 +535,7 @@ void XFtp::takeReply(int code, const QByteArray &lastLine)
         break;
     case Passive:
         if (code == 227) {
-            openData(passivePort(lastLine));
+            openData(passivePort(m_reply.lastLine));
         } else {
             fail(UnknownError, serverText());
         }
@@ -675,27 +600,36 @@ void XFtp::takeTransferReply(int code)
 
 QString XFtp::serverText() const
 {
-    QString text = m_reply;
+    QString text = m_reply.text;
     if (!m_secret.isEmpty()) {
         text.replace(QString::fromUtf8(m_secret), QLatin1String("***"));
     }
     text = plainLine(text);
-    return text.isEmpty() ? tr("The server answers %1").arg(m_replyCode) : text;
+    return text.isEmpty() ? tr("The server answers %1").arg(m_reply.code) : text;
 }
 
 // --- ends
 
-/// False when a slot deleted this object or ended the running command.
+/// Emits a signal. What a slot may do: read, abort, delete this object, run an event loop that
+/// comes here again. False when this object is gone or has another command than before: the caller
+/// has nothing more to do then.
+template<typename... Parameters, typename... Arguments>
+bool XFtp::tell(void (XFtp::*signal)(Parameters...), Arguments &&...arguments)
+{
+    const QPointer<XFtp> self(this);
+    const int id = m_current.id;
+    Q_EMIT(this->*signal)(std::forward<Arguments>(arguments)...);
+    return self && m_current.id == id;
+}
+
+/// As tell().
 bool XFtp::setState(State state)
 {
     if (m_state == state) {
         return true;
     }
     m_state = state;
-    const QPointer<XFtp> self(this);
-    const int id = m_current.id;
-    Q_EMIT stateChanged(state);
-    return self && m_current.id == id;
+    return tell(&XFtp::stateChanged, state);
 }
 
 void XFtp::setError(Error error, const QString &text)
@@ -721,8 +655,7 @@ void XFtp::drop()
 {
     m_grace.stop();
     m_control.reset();
-    m_line.clear();
-    m_replyLines = 0;
+    m_replies = {};
     m_step = Idle;
 }
 
@@ -769,17 +702,12 @@ void XFtp::finish(bool hasFailed)
     }
     m_hasFailed = hasFailed;
     m_isFinishing = true;
-    const QPointer<XFtp> self(this);
-    Q_EMIT commandFinished(id, hasFailed);
-    if (!self) {
+    if (!tell(&XFtp::commandFinished, id, hasFailed)) {
         return;
     }
     m_isFinishing = false;
-    if (m_hasFailed || m_queue.isEmpty()) {
-        Q_EMIT done(m_hasFailed);
-        if (!self) {
-            return;
-        }
+    if ((m_hasFailed || m_queue.isEmpty()) && !tell(&XFtp::done, m_hasFailed)) {
+        return;
     }
     startNext();
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "network/FtpReplyReader.h"
 #include "network/XUrlInfo.h"
 
 #include <QHostAddress>
@@ -84,7 +85,7 @@ public:
     /// When the server refused a command, the server's own words.
     QString errorString() const { return m_errorString; }
     /// The code of the last whole reply, such as 530; 0 before the first one of a connection.
-    int lastReplyCode() const { return m_replyCode; }
+    int lastReplyCode() const { return m_reply.code; }
 
     /// Of the file that is or was fetched last.
     qint64 bytesAvailable() const;
@@ -148,18 +149,19 @@ private:
     void logIn();
     void prepareTransfer();
     void openData(int port);
-    void readList();
-    void readFile();
+    bool readList();
+    bool readFile();
     void checkTransfer();
 
     bool hasOpened();
-    void takeLine(const QByteArray &line);
-    void takeReply(int code, const QByteArray &lastLine);
+    void takeReply(FtpReplyReader::Reply reply);
     void takeLoginReply(int code);
     void takeTransferReply(int code);
     void loggedIn();
     QString serverText() const;
 
+    template<typename... Parameters, typename... Arguments>
+    bool tell(void (XFtp::*signal)(Parameters...), Arguments &&...arguments);
     bool setState(State state);
     void setError(Error error, const QString &text);
     void settle(int replies);
@@ -189,12 +191,8 @@ private:
     QHostAddress m_peer;
     bool m_isEpsvRefused = false;
 
-    // The reply that is being read.
-    QByteArray m_line;
-    QString m_reply;
-    int m_replyLines = 0;
-    int m_replyBegan = 0;
-    int m_replyCode = 0;
+    FtpReplyReader m_replies;
+    FtpReplyReader::Reply m_reply; // the last one
     int m_outstanding = 0;
 
     // The transfer that runs or ran last.
