@@ -5,8 +5,10 @@
 #include "archive/ImageQuestion.h"
 #include "archive/InstallScript.h"
 #include "core/RVLogger.h"
+#include "core/RVRegularFile.h"
 #include "core/RVUrl.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 #include <QRegularExpression>
 
@@ -16,11 +18,11 @@
 namespace
 {
 
-/// A text for a line of the script's here-document, in which the shell still expands.
-QByteArray inHereDocument(const QString &text)
+/// A line of the script's here-document, in which the shell still expands.
+QByteArray inHereDocument(const QByteArray &line)
 {
     QByteArray escaped;
-    for (const char c : text.toUtf8()) {
+    for (const char c : line) {
         if (c == '\\' || c == '$' || c == '`') {
             escaped += '\\';
         }
@@ -48,6 +50,21 @@ QString hostBeforePort(const QString &host)
     return host.contains(QLatin1Char(':')) && !host.startsWith(QLatin1Char('['))
         ? QLatin1Char('[') + host + QLatin1Char(']')
         : host;
+}
+
+/// Why a file is not the one that was written; empty when it is.
+RVSentence difference(const QString &path, const QByteArray &written)
+{
+    RVRegularFile gate(path);
+    const std::unique_ptr<QFile> file = gate.take();
+    if (!file) {
+        return RVSentence(QT_TRANSLATE_NOOP("RVSentence", "%1 cannot be read back: %2"),
+                          {path, gate.text()});
+    }
+    return file->read(written.size() + 1) == written
+        ? RVSentence()
+        : RVSentence(QT_TRANSLATE_NOOP("RVSentence", "%1 does not hold what was written to it."),
+                     {path});
 }
 
 bool isHost(const QString &text)
@@ -144,18 +161,49 @@ QByteArrayList ArchiveDDImage::proxyLines() const
     }
     const bool isFtp = m_url.scheme().compare(QLatin1String("ftp"), Qt::CaseInsensitive) == 0;
     return {QByteArray("remote-deploy.proxy=") + (isFtp ? "ftp://" : "")
-            + inHereDocument(hostBeforePort(m_proxyHost)) + ':' + QByteArray::number(m_proxyPort)};
+            + hostBeforePort(m_proxyHost).toUtf8() + ':' + QByteArray::number(m_proxyPort)};
+}
+
+QString ArchiveDDImage::deployDir() const
+{
+    return m_paths.writableDir + QStringLiteral("/CV");
+}
+
+QString ArchiveDDImage::autoUpdateDir() const
+{
+    return (m_paths.isEtcReadOnly() ? m_paths.writableDir : m_paths.etcDir)
+        + QStringLiteral("/auto-update");
+}
+
+QByteArrayList ArchiveDDImage::configuration() const
+{
+    const QByteArray port = m_url.port() >= 0 ? ':' + QByteArray::number(m_url.port()) : "";
+    return QByteArrayList{
+               "[General]",
+               "autostart=remote-deploy",
+               "remote-deploy.proto=" + m_url.scheme().toUtf8(),
+               "remote-deploy.host=" + hostBeforePort(m_url.host(QUrl::FullyEncoded)).toUtf8()
+                   + port,
+               "remote-deploy.user=" + m_url.userName(QUrl::FullyEncoded).toUtf8(),
+               "remote-deploy.pass=" + m_url.password(QUrl::FullyEncoded).toUtf8(),
+               "remote-deploy.path=" + m_url.path(QUrl::FullyEncoded).toUtf8(),
+           }
+    + proxyLines();
+}
+
+RVSentence ArchiveDDImage::orderFault() const
+{
+    const RVSentence fault = difference(deployDir() + QStringLiteral("/Snapstow.conf"),
+                                        configuration().join('\n') + '\n');
+    return fault.isEmpty()
+        ? difference(autoUpdateDir() + QStringLiteral("/new_image"), fileName().toUtf8() + '\n')
+        : fault;
 }
 
 QByteArray ArchiveDDImage::script() const
 {
-    const QString deployDir = m_paths.writableDir + QStringLiteral("/CV");
-    const QString autoUpdateDir = (m_paths.isEtcReadOnly() ? m_paths.writableDir : m_paths.etcDir)
-        + QStringLiteral("/auto-update");
-    const QByteArray port = m_url.port() >= 0 ? ':' + QByteArray::number(m_url.port()) : "";
-
     // Concatenated: a value that looks like a placeholder stays what it is.
-    const QByteArrayList configuration{
+    const QByteArrayList start{
         "#!/bin/bash",
         // Until the device restarts, what was there before lies beside what is written, and comes
         // back whenever this ends early: half an order, or one whose restart failed, would be
@@ -174,30 +222,22 @@ QByteArray ArchiveDDImage::script() const
         "    done",
         "}",
         "trap put_back EXIT",
-        "mkdir -p " + word(deployDir),
-        "if ! cd " + word(deployDir) + "; then",
-        "    echo 'Could not mkdir " + inQuotes(deployDir) + "!' >&2",
+        "mkdir -p " + word(deployDir()),
+        "if ! cd " + word(deployDir()) + "; then",
+        "    echo 'Could not mkdir " + inQuotes(deployDir()) + "!' >&2",
         "    exit 1",
         "fi",
         "put_aside \"$PWD/Snapstow.conf\"",
         // It holds a password.
         "install -m 600 /dev/null Snapstow.conf || exit 1",
         "cat >Snapstow.conf <<EOF",
-        "[General]",
-        "autostart=remote-deploy",
-        "remote-deploy.proto=" + inHereDocument(m_url.scheme()),
-        "remote-deploy.host=" + inHereDocument(hostBeforePort(m_url.host(QUrl::FullyEncoded)))
-            + port,
-        "remote-deploy.user=" + inHereDocument(m_url.userName(QUrl::FullyEncoded)),
-        "remote-deploy.pass=" + inHereDocument(m_url.password(QUrl::FullyEncoded)),
-        "remote-deploy.path=" + inHereDocument(m_url.path(QUrl::FullyEncoded)),
     };
-    const QByteArrayList update{
+    const QByteArrayList end{
         "EOF",
         "[ $? -eq 0 ] || exit 1",
-        "mkdir -p " + word(autoUpdateDir),
-        "if ! cd " + word(autoUpdateDir) + "; then",
-        "  echo 'Could not mkdir " + inQuotes(autoUpdateDir) + "' >&2",
+        "mkdir -p " + word(autoUpdateDir()),
+        "if ! cd " + word(autoUpdateDir()) + "; then",
+        "  echo 'Could not mkdir " + inQuotes(autoUpdateDir()) + "' >&2",
         "  exit 1",
         "fi",
         "put_aside \"$PWD/new_image\"",
@@ -217,5 +257,6 @@ QByteArray ArchiveDDImage::script() const
         "fi",
         "rm -f \"${changed[@]/%/.ravel}\"",
     };
-    return (configuration + proxyLines() + update).join('\n') + '\n';
+    return (start + QByteArrayList{inHereDocument(configuration().join('\n'))} + end).join('\n')
+        + '\n';
 }

@@ -4,6 +4,7 @@
 
 #include "archive/ArchiveBaseClass.h"
 #include "core/RVPaths.h"
+#include "core/RVSentence.h"
 
 #include <QByteArrayList>
 
@@ -30,13 +31,20 @@ public:
     InstallCommand installCommand() const override;
     /// Not owned. Without one nobody can say yes, so every install() counts as aborted.
     void setImageQuestion(ImageQuestion *question) { m_question = question; }
+    /// Reads back what install() has the script write, once that has ended well: what the device's
+    /// next start would miss. Empty when both files hold all of it.
+    RVSentence orderFault() const;
 
 private:
     Q_DISABLE_COPY_MOVE(ArchiveDDImage)
 
     QString fileName() const;
+    QString deployDir() const;
+    QString autoUpdateDir() const;
     /// Empty without a proxy.
     QByteArrayList proxyLines() const;
+    /// The lines of the configuration.
+    QByteArrayList configuration() const;
     QByteArray script() const;
 
     const RVPaths m_paths;

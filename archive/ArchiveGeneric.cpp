@@ -69,6 +69,17 @@ InstallCommand ArchiveGeneric::installCommand() const
     return m_backend ? m_backend->installCommand() : InstallCommand();
 }
 
+bool ArchiveGeneric::isImage() const
+{
+    return qobject_cast<const ArchiveDDImage *>(m_backend.data()) != nullptr;
+}
+
+RVSentence ArchiveGeneric::orderFault() const
+{
+    const auto *image = qobject_cast<const ArchiveDDImage *>(m_backend.data());
+    return image ? image->orderFault() : RVSentence();
+}
+
 void ArchiveGeneric::setImageQuestion(ImageQuestion *question)
 {
     if (auto *image = qobject_cast<ArchiveDDImage *>(m_backend.data())) {

@@ -4,6 +4,7 @@
 
 #include "archive/ArchiveBaseClass.h"
 #include "core/RVPaths.h"
+#include "core/RVSentence.h"
 
 #include <QNetworkReply>
 #include <QSharedPointer>
@@ -32,8 +33,13 @@ public:
     bool useExtract() const override;
     void setProxy(const QString &host, int port) override;
     InstallCommand installCommand() const override;
+    /// A full image, which is never downloaded and installs after a yes only.
+    bool isImage() const;
     /// Not owned; only a full image asks.
     void setImageQuestion(ImageQuestion *question);
+    /// Of a full image whose installation has ended well: why the device's next start cannot carry
+    /// it out after all. Empty when it can, and for every other archive.
+    RVSentence orderFault() const;
 
 public Q_SLOTS:
     /// False also for a network reply that failed, whose bytes no backend gets to see. Throws

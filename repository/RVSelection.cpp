@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "repository/RVSelection.h"
 
+#include "descriptor/DataXML.h"
+
 namespace
 {
 
@@ -31,4 +33,15 @@ QVector<RVProposal> proposals(const QList<RVData> &offered, const OSInfoBaseClas
         }
     }
     return result;
+}
+
+bool runsImage(const OSInfoBaseClass &system, const QString &version)
+{
+    return !version.isEmpty() && system.baseOSName().toString() == version;
+}
+
+bool isRunningImage(const RVData &entry, const OSInfoBaseClass &system)
+{
+    return entry.archive() && entry.archive()->isImage() && entry.descriptor()
+        && runsImage(system, DataXML::plainText(entry.descriptor()->version().toString()));
 }

@@ -28,3 +28,9 @@ struct RVProposal {
 /// what is installed; where one entry is picked, only the first can be. `system` may be null.
 QVector<RVProposal> proposals(const QList<RVData> &offered, const OSInfoBaseClass *system,
                               bool picksOne);
+
+/// Whether the system is the image of that version: its identification says exactly that. An image
+/// has no other mark on the system; one that was arranged has been written when this holds.
+bool runsImage(const OSInfoBaseClass &system, const QString &version);
+/// Whether an update is the image that the system runs.
+bool isRunningImage(const RVData &entry, const OSInfoBaseClass &system);

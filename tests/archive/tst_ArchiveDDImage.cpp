@@ -99,6 +99,8 @@ private Q_SLOTS:
     void fullDiskLeavesTheDevice_data();
     void fullDiskLeavesTheDevice();
     void leftoversAreNotPutBack();
+    void orderIsReadBack_data();
+    void orderIsReadBack();
     void urlArrivesUnchanged_data();
     void urlArrivesUnchanged();
     void controlCharacterIsRefused_data();
@@ -133,6 +135,8 @@ private:
     std::unique_ptr<QTemporaryDir> m_work;
     std::unique_ptr<QProcess> m_process;
     QByteArray m_searchPath;
+    /// Of the last install().
+    QString m_orderFault;
 };
 
 void tst_ArchiveDDImage::init()
@@ -191,7 +195,9 @@ int tst_ArchiveDDImage::install(const QUrl &url, const QString &proxyHost, int p
     image.setImageQuestion(&yes);
     image.setProxy(proxyHost, proxyPort);
     image.install(m_process.get());
-    return m_process->waitForFinished(10000) ? m_process->exitCode() : -1;
+    const int code = m_process->waitForFinished(10000) ? m_process->exitCode() : -1;
+    m_orderFault = image.orderFault().english();
+    return code;
 }
 
 void tst_ArchiveDDImage::handlesUrlsByPath_data()
@@ -615,6 +621,42 @@ void tst_ArchiveDDImage::leftoversAreNotPutBack()
     QCOMPARE(orders(), none);
 }
 
+void tst_ArchiveDDImage::orderIsReadBack_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("change");
+    QTest::addColumn<QString>("fault");
+    for (const char *file : {"/writable/CV/Snapstow.conf", "/etc/auto-update/new_image"}) {
+        const auto add = [file](const char *name, const QByteArray &change, const char *fault) {
+            QTest::addRow("%s %s", file, name) << file << change << fault;
+        };
+        const char differs[] = "%1 does not hold what was written to it.";
+        add("whole", "true", "");
+        add("emptied", ": >\"$1\"", differs);
+        add("cut off", "truncate -s -1 \"$1\"", differs);
+        add("longer", "echo more >>\"$1\"", differs);
+        add("another order", "printf %s other >\"$1\"", differs);
+        add("gone", "rm \"$1\"", "%1 cannot be read back: No such file or directory");
+        add("a pipe", "rm \"$1\" && mkfifo \"$1\"", "%1 cannot be read back: Not a regular file");
+        add("a folder", "rm \"$1\" && mkdir \"$1\"", "%1 cannot be read back: Is a directory");
+    }
+}
+
+void tst_ArchiveDDImage::orderIsReadBack()
+{
+    QFETCH(QString, file);
+    QFETCH(QByteArray, change);
+    QFETCH(QString, fault);
+    const QString path = m_root->path() + file;
+    FakeRoot::write(m_root->paths().rebootTool,
+                    "#!/bin/sh\nset -- '" + path.toUtf8() + "'\n" + change + '\n');
+    QCOMPARE(
+        install(QUrl(QStringLiteral("http://u:$p%60@h/x%20y.dd.gz")), QStringLiteral("px"), 3128),
+        0);
+    QCOMPARE(m_orderFault, fault.isEmpty() ? QString() : fault.arg(path));
+    QVERIFY(!m_orderFault.contains(QLatin1String("$p")));
+}
+
 void tst_ArchiveDDImage::urlArrivesUnchanged_data()
 {
     QTest::addColumn<QUrl>("url");
@@ -679,6 +721,7 @@ void tst_ArchiveDDImage::urlArrivesUnchanged()
     QCOMPARE(newImage(),
              url.path(QUrl::FullyDecoded).section(QLatin1Char('/'), -1).toUtf8() + '\n');
     QCOMPARE(configuration().count('\n'), 7);
+    QCOMPARE(m_orderFault, QString());
 
     // Nothing but what the script says, wherever a foreign command could have left its mark.
     const QStringList none;
@@ -752,6 +795,7 @@ void tst_ArchiveDDImage::proxyLine()
     QFETCH(QByteArray, line);
     QCOMPARE(install(QUrl(QStringLiteral("http://h/x.dd.gz")), host, port), 0);
     QCOMPARE(keys(configuration()).value("remote-deploy.proxy"), line);
+    QCOMPARE(m_orderFault, QString());
     QCOMPARE(configuration().contains("proxy="), !line.isEmpty());
     QFETCH(bool, isLogged);
     QCOMPARE(

@@ -15,7 +15,9 @@ class TestSystem : public OSInfoBaseClass
 public:
     QHash<QString, QString> installed;
 
-    VersionString baseOSName() const override { return {}; }
+    QString imageId;
+
+    VersionString baseOSName() const override { return VersionString(imageId); }
     QList<VersionString> servicePackList() const override { return {}; }
     QString versionInstalled(const QString &name) const override { return installed.value(name); }
     QString architecture() const override { return {}; }
@@ -23,9 +25,10 @@ public:
     void refresh() override { }
 };
 
-RVData entryOf(const QString &name, const QString &version)
+RVData entryOf(const QString &name, const QString &version,
+               const QString &suffix = QStringLiteral("deb"))
 {
-    const RVData entry(QUrl(QStringLiteral("http://h/%1.deb").arg(name)),
+    const RVData entry(QUrl(QStringLiteral("http://h/%1.%2").arg(name, suffix)),
                        QUrl(QStringLiteral("http://h/%1.xml").arg(name)));
     QBuffer document;
     document.setData(QStringLiteral("<update_data><name>%1</name><version>%2</version>"
@@ -49,6 +52,8 @@ private Q_SLOTS:
     void onePickIsTheFirstOrNone();
     void unknownSystem();
     void entryWithoutDescriptor();
+    void runningImage_data();
+    void runningImage();
 
 private:
     const LogFile m_log;
@@ -132,6 +137,39 @@ void tst_RVSelection::entryWithoutDescriptor()
     QCOMPARE(result.first().current, RVProposal::Unknown);
     QVERIFY(!result.first().preselected);
     QVERIFY(!result.first().upToDate);
+}
+
+void tst_RVSelection::runningImage_data()
+{
+    QTest::addColumn<QString>("imageId");
+    QTest::addColumn<QString>("version");
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<bool>("isRunning");
+    const QString image = QStringLiteral("dd.gz");
+    const QString id = QStringLiteral("6.2.0");
+    QTest::newRow("the same") << id << id << image << true;
+    QTest::newRow("older") << id << QStringLiteral("6.1.9") << image << false;
+    QTest::newRow("another name for the same") << id << QStringLiteral("6.2.00") << image << false;
+    QTest::newRow("longer") << id << QStringLiteral("6.2.0-1") << image << false;
+    QTest::newRow("other letters")
+        << QStringLiteral("6.2a") << QStringLiteral("6.2A") << image << false;
+    QTest::newRow("escaped in the descriptor")
+        << QStringLiteral("6<7") << QStringLiteral("6&lt;7") << image << true;
+    QTest::newRow("neither has one") << QString() << QString() << image << false;
+    QTest::newRow("a package of that version") << id << id << QStringLiteral("deb") << false;
+}
+
+void tst_RVSelection::runningImage()
+{
+    QFETCH(QString, version);
+    QFETCH(QString, suffix);
+    TestSystem system;
+    QFETCH(QString, imageId);
+    system.imageId = imageId;
+    RVData entry = entryOf(QStringLiteral("tool"), version, suffix);
+    QTEST(isRunningImage(entry, system), "isRunning");
+    entry.clearDescriptor();
+    QVERIFY(!isRunningImage(entry, system));
 }
 
 QTEST_GUILESS_MAIN(tst_RVSelection)
