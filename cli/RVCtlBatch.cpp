@@ -3,63 +3,28 @@
 #include "cli/RVCtlBatch.h"
 
 #include "cli/RVCtlTrust.h"
-#include "core/RVSum.h"
 #include "core/RVUrl.h"
-#include "install/RVInstallProc.h"
 #include "repository/RVRepository.h"
 
 #include <QJsonArray>
 
-namespace
+RVCtlBatch RVCtlBatch::of(const RVCtlOffers &section, const QVector<RVCtlOffers::Entry> &chosen,
+                          const OSInfoBaseClass &system)
 {
-
-bool isPackage(const RVData &data)
-{
-    return data.archiveUrl().path().endsWith(QLatin1String(".deb"), Qt::CaseInsensitive);
-}
-
-} // namespace
-
-RVCtlBatch RVCtlBatch::of(const RVCtlOffers &section, const QVector<RVCtlOffers::Entry> &chosen)
-{
-    RVCtlBatch batch;
-    batch.updates = chosen;
-    batch.trust = RVCtlTrust::toJson(*section.section().repository);
+    QList<RVData> entries;
     for (const RVCtlOffers::Entry &entry : chosen) {
-        batch.entries.append(section.data(entry));
+        entries.append(section.data(entry));
     }
-    if (batch.entries.isEmpty()) {
-        return batch;
+    const RVRepository &repository = *section.section().repository;
+    const RVAccess &access = repository.access();
+    if (!entries.isEmpty() && access.hasProxy()) {
+        entries.first().archive()->setProxy(access.proxyHost, access.proxyPort);
     }
-    batch.downloads = RVInstallProc::downloads(batch.entries);
-    for (const RVData &data : qAsConst(batch.downloads)) {
-        const qint64 size = data.descriptor()->size();
-        batch.downloadSize =
-            size < 0 || batch.downloadSize < 0 ? -1 : saturatingSum(batch.downloadSize, size);
-    }
-    ArchiveGeneric &first = *batch.entries.first().archive();
-    const RVAccess &access = section.section().repository->access();
-    if (access.hasProxy()) {
-        first.setProxy(access.proxyHost, access.proxyPort);
-    }
-    batch.installer = first.installCommand();
+    RVCtlBatch batch;
+    static_cast<RVBatch &>(batch) = RVBatch::of(entries, &system);
+    batch.updates = chosen;
+    batch.trust = RVCtlTrust::toJson(repository);
     return batch;
-}
-
-bool RVCtlBatch::isImage() const
-{
-    return !entries.isEmpty() && entries.first().archive()->urlIsHandled()
-        && !entries.first().archive()->useExtract();
-}
-
-bool RVCtlBatch::isPackages() const
-{
-    return !entries.isEmpty() && isPackage(entries.first());
-}
-
-bool RVCtlBatch::isReached(int index) const
-{
-    return index == 0 || (isPackages() && isPackage(entries.at(index)));
 }
 
 QStringList RVCtlBatch::installerArguments() const

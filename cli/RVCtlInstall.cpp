@@ -67,7 +67,7 @@ bool isConfirmed(const RVCtlCall &call, const RVCtlBatch &batch, QString *error)
     const RVCtlOffers::Entry &image = batch.updates.constFirst();
     call.messages.error(QStringLiteral("%1 %2 replaces everything on the device and restarts it.")
                             .arg(image.name(), image.version()));
-    if (batch.entries.first().trust) {
+    if (batch.items.first().entry.trust) {
         call.messages.error(
             QStringLiteral("It is read once now and compared with its sum, which reveals damage. "
                            "After the restart the device fetches it again and checks nothing: a "
@@ -87,7 +87,7 @@ QVector<RVFreeSpace::Update> spaceOf(const RVCtlBatch &batch)
 {
     QVector<RVFreeSpace::Update> result;
     for (int i = 0; i < batch.updates.size(); ++i) {
-        result.append({batch.entries.at(i), !batch.updates.at(i).proposal.installed.isEmpty()});
+        result.append({batch.items.at(i).entry, !batch.items.at(i).installed.isEmpty()});
     }
     return result;
 }
@@ -141,7 +141,7 @@ RVCtlResult RVCtlCommands::install(const RVCtlCall &call)
     if (!section.choose(call.arguments.mid(1), &chosen, &error)) {
         return RVCtlResult::failed(RVCtlExit::Usage, error);
     }
-    const RVCtlBatch batch = RVCtlBatch::of(section, chosen);
+    const RVCtlBatch batch = RVCtlBatch::of(section, chosen, call.world.system());
     if (batch.updates.isEmpty()) {
         result.text = QStringLiteral("Nothing is new.\n");
         result.json = batch.toJson();

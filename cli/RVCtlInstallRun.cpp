@@ -118,7 +118,7 @@ void RVCtlInstallRun::run()
 {
     Confirmed confirmed;
     m_process =
-        std::make_unique<RVInstallProc>(m_batch.entries, m_repository.user(),
+        std::make_unique<RVInstallProc>(m_batch.entries(), m_repository.user(),
                                         m_repository.password(), nullptr, m_call.world.paths());
     m_process->access = m_repository.access();
     m_process->imageQuestion = &confirmed;
@@ -174,7 +174,7 @@ void RVCtlInstallRun::run()
     });
 
     // An image of a list of sums is read, and not kept.
-    if (!m_batch.downloads.isEmpty() || m_batch.entries.first().trust) {
+    if (!m_batch.downloads.isEmpty() || m_batch.items.first().entry.trust) {
         m_progress =
             std::make_unique<RVCtlProgress>(&m_call.messages, QStringLiteral("Retrieving updates"));
     }
@@ -374,7 +374,7 @@ void RVCtlInstallRun::judge(RVCtlResult *result) const
     }
     QStringList left;
     for (int i = 0; i < m_batch.updates.size(); ++i) {
-        if (!m_batch.isReached(i)) {
+        if (!m_batch.items.at(i).isReached) {
             left.append(m_batch.updates.at(i).name());
         }
     }

@@ -88,7 +88,7 @@ RVCtlResult RVCtlCommands::plan(const RVCtlCall &call)
     if (!section.choose(call.arguments.mid(1), &chosen, &error)) {
         return RVCtlResult::failed(RVCtlExit::Usage, error);
     }
-    const RVCtlBatch plan = RVCtlBatch::of(section, chosen);
+    const RVCtlBatch plan = RVCtlBatch::of(section, chosen, call.world.system());
     result.text = toText(plan);
     result.json = toJson(plan);
     RVCtlOffers::judge(sections, &result);

@@ -35,9 +35,20 @@ RVSentence::RVSentence(const char *source, const QStringList &arguments)
 {
 }
 
+RVSentence RVSentence::counted(const char *source, int number, const QStringList &arguments)
+{
+    RVSentence result(source, arguments);
+    result.m_number = number;
+    return result;
+}
+
 QString RVSentence::english() const
 {
-    return filled(QString::fromUtf8(m_source), m_arguments);
+    QString text = QString::fromUtf8(m_source);
+    if (m_number >= 0) {
+        text.replace(QLatin1String("%n"), QString::number(m_number));
+    }
+    return filled(text, m_arguments);
 }
 
 QString RVSentence::translated() const
@@ -50,5 +61,7 @@ QString RVSentence::translated() const
     for (const QString &argument : m_arguments) {
         arguments.append(RVText::shown(argument, longestArgument));
     }
-    return filled(QCoreApplication::translate("RVSentence", m_source.constData()), arguments);
+    return filled(
+        QCoreApplication::translate("RVSentence", m_source.constData(), nullptr, m_number),
+        arguments);
 }

@@ -20,6 +20,9 @@ public:
     /// `source` holds "%1" to "%9" for the arguments. It is a text that translators see: mark it
     /// as above.
     explicit RVSentence(const char *source, const QStringList &arguments = {});
+    /// The same with a number, "%n", on which the form of the words depends: mark it with
+    /// QT_TRANSLATE_N_NOOP. English has one form: the number is two or more.
+    static RVSentence counted(const char *source, int number, const QStringList &arguments = {});
 
     bool isEmpty() const { return m_source.isEmpty(); }
     /// With the arguments as they came: whoever writes it sees to what is harmless there.
@@ -29,11 +32,14 @@ public:
 
     bool operator==(const RVSentence &other) const
     {
-        return m_source == other.m_source && m_arguments == other.m_arguments;
+        return m_source == other.m_source && m_arguments == other.m_arguments
+            && m_number == other.m_number;
     }
     bool operator!=(const RVSentence &other) const { return !(*this == other); }
 
 private:
     QByteArray m_source;
     QStringList m_arguments;
+    /// -1 for none.
+    int m_number = -1;
 };

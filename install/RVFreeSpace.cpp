@@ -5,7 +5,7 @@
 #include "core/ByteSize.h"
 #include "core/RVPaths.h"
 #include "core/RVSum.h"
-#include "install/RVInstallProc.h"
+#include "install/RVBatch.h"
 
 #include <QDir>
 #include <QFile>
@@ -49,7 +49,7 @@ qint64 temporaryBytes(const QVector<RVFreeSpace::Update> &batch)
         entries.append(update.data);
     }
     const bool isPackages = isPackage(entries.constFirst());
-    const QList<RVData> downloads = RVInstallProc::downloads(entries);
+    const QList<RVData> downloads = RVBatch::of(entries, nullptr).downloads;
     qint64 total = 0;
     qint64 smallest = most;
     for (const RVData &data : downloads) {

@@ -25,7 +25,6 @@
 #include <QProcessEnvironment>
 
 #include <algorithm>
-#include <iterator>
 #include <limits>
 #include <unistd.h>
 #include <utility>
@@ -108,6 +107,7 @@ RVInstallProc::RVInstallProc(const QList<RVData> &entries, const QString &user,
                              const QString &password, QObject *parent, const RVPaths &paths)
     : QProcess(parent)
     , m_entries(withArchiveOnce(entries))
+    , m_batch(RVBatch::of(m_entries, nullptr))
 {
     access.login = {user, password};
     setProcessEnvironment(installerEnvironment(paths));
@@ -137,19 +137,6 @@ RVInstallProc::~RVInstallProc()
         waitForFinished(-1);
     }
     leaveTemporaryDir();
-}
-
-QList<RVData> RVInstallProc::downloads(const QList<RVData> &entries)
-{
-    QList<RVData> result;
-    const QList<RVData> batch = withArchiveOnce(entries);
-    if (!batch.isEmpty() && batch.first().archive()->useExtract()) {
-        std::copy_if(batch.cbegin(), batch.cend(), std::back_inserter(result),
-                     [](const RVData &entry) {
-                         return entry.archive()->useExtract();
-                     });
-    }
-    return result;
 }
 
 void RVInstallProc::setupChildProcess()
@@ -250,7 +237,7 @@ void RVInstallProc::startDownload(int index)
     const RVData &entry = m_entries.at(index);
     ArchiveGeneric *archive = entry.archive().data();
     const QUrl &url = entry.archiveUrl();
-    if (!archive->useExtract()) {
+    if (!m_batch.items.at(index).isReached) {
         RVLogger().log(4, "'%s' cannot be installed together with other updates",
                        RVLogger::oneLine(url).constData());
         return;

@@ -4,6 +4,7 @@
 
 #include "core/RVLimits.h"
 #include "core/RVPaths.h"
+#include "install/RVBatch.h"
 #include "network/RVAccess.h"
 #include "repository/RVData.h"
 #include "repository/RVTrustFault.h"
@@ -47,9 +48,6 @@ public:
     explicit RVInstallProc(const RVData &entry, QObject *parent = nullptr,
                            const RVPaths &paths = {});
     ~RVInstallProc() override;
-    /// Of a batch, what start() downloads, in that order: nothing for an image, which the device
-    /// fetches itself; beside other archives an image is left out.
-    static QList<RVData> downloads(const QList<RVData> &entries);
 
     /// Written before start().
     RVAccess access;
@@ -136,6 +134,7 @@ private:
 
     /// Each with an archive, no archive twice. The copies keep the archives and descriptors alive.
     const QList<RVData> m_entries;
+    const RVBatch m_batch;
     State m_state = State::Idle;
     QString m_previousDir;
     std::unique_ptr<TemporaryDir> m_temporaryDir;

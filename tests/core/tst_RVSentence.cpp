@@ -36,6 +36,7 @@ private Q_SLOTS:
     void empty();
     void english();
     void translated();
+    void counted();
     void argumentsStayArguments();
     void foreignTextIsHarmlessWhenShown();
 };
@@ -68,6 +69,14 @@ void tst_RVSentence::translated()
     QCOMPARE(RVSentence().translated(), QString());
     QCoreApplication::removeTranslator(&german);
     QCOMPARE(sentence.translated(), sentence.english());
+}
+
+void tst_RVSentence::counted()
+{
+    const RVSentence sentence = RVSentence::counted("%1 of %n files", 5, {QStringLiteral("%n")});
+    QCOMPARE(sentence.english(), QStringLiteral("%n of 5 files"));
+    QCOMPARE(sentence.translated(), sentence.english());
+    QVERIFY(sentence != RVSentence("%1 of %n files", {QStringLiteral("%n")}));
 }
 
 void tst_RVSentence::argumentsStayArguments()
