@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/support/FtpServers.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QNetworkProxy>
+#include <QPointer>
 #include <QTcpSocket>
 
 #include <fcntl.h>
@@ -15,6 +17,8 @@
 
 namespace
 {
+
+constexpr int startTimeout = 20000;
 
 QString nextAddress()
 {
@@ -37,6 +41,46 @@ bool writeRaw(const QByteArray &path, const QByteArray &content, mode_t mode)
     return written;
 }
 
+/// The process that forks a server for each script: Python takes longer to start than most tests
+/// take. It ends with the application.
+class ScriptHost : public ServerProcess
+{
+public:
+    /// The answer's number, 0 if there is none.
+    static qint64 ask(const QByteArray &request)
+    {
+        static QPointer<ScriptHost> host;
+        if (!host) {
+            host = new ScriptHost;
+        }
+        host->write(request + '\n');
+        while (!host->canReadLine()) {
+            if (!host->waitForReadyRead(startTimeout)) {
+                delete host;
+                return 0;
+            }
+        }
+        return host->readLine().trimmed().toLongLong();
+    }
+
+private:
+    ScriptHost()
+        : ServerProcess(AllRights)
+    {
+        setParent(QCoreApplication::instance());
+        setStandardInputFile({});
+        setProcessChannelMode(ForwardedErrorChannel);
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        // Names on disk may be no UTF-8 and are passed on as they are.
+        environment.insert(QStringLiteral("PYTHONUTF8"), QStringLiteral("1"));
+        setProcessEnvironment(environment);
+        start(QStringLiteral("/usr/bin/python3"),
+              {QStringLiteral(RAVEL_TEST_SUPPORT "/ftp_server.py")});
+    }
+
+    ~ScriptHost() override { killGroup(); }
+};
+
 } // namespace
 
 FtpServer::FtpServer()
@@ -52,7 +96,6 @@ FtpServer::FtpServer()
 
 FtpServer::~FtpServer()
 {
-    stop();
     // Qt cannot remove a file whose name is no UTF-8.
     std::error_code ignored;
     std::filesystem::remove_all(QFile::encodeName(root()).toStdString(), ignored);
@@ -67,14 +110,14 @@ bool FtpServer::start()
         if (!keepsPort) {
             m_port = ServerProcess::freePort(QHostAddress(m_address));
         }
-        if (launch()) {
+        if (configure() && launch()) {
             return true;
         }
         m_report = program().toUtf8() + " did not start\n" + readRunFile(QStringLiteral("output"))
             + readRunFile(QStringLiteral("log"));
-        const bool hasEnded = m_process && m_process->state() == QProcess::NotRunning;
+        const bool mayTryAgain = hasEnded();
         stop();
-        if (!hasEnded) {
+        if (!mayTryAgain) {
             break;
         }
     }
@@ -82,38 +125,6 @@ bool FtpServer::start()
         m_port = 0;
     }
     return false;
-}
-
-bool FtpServer::launch()
-{
-    if (!configure()) {
-        return false;
-    }
-    m_process = std::make_unique<ServerProcess>(ServerProcess::AllRights);
-    m_process->setProcessEnvironment(environment());
-    return m_process->launch(runFile({}), program(), arguments(), [this] {
-        return isReady();
-    });
-}
-
-bool FtpServer::isReady() const
-{
-    QTcpSocket socket;
-    socket.setProxy(QNetworkProxy::NoProxy);
-    socket.connectToHost(QHostAddress(m_address), m_port);
-    const bool greeted = socket.waitForConnected(1000) && socket.waitForReadyRead(5000)
-        && socket.readAll().startsWith("220");
-    socket.abort();
-    return greeted;
-}
-
-void FtpServer::stop()
-{
-    if (m_process) {
-        // The sessions are children of the server.
-        m_process->killGroup();
-        m_process.reset();
-    }
 }
 
 const char *FtpServer::report()
@@ -137,11 +148,6 @@ QUrl FtpServer::url(const QString &path) const
     return QUrl(QStringLiteral("ftp://%1:%2").arg(m_address).arg(m_port) + path);
 }
 
-QProcessEnvironment FtpServer::environment() const
-{
-    return QProcessEnvironment::systemEnvironment();
-}
-
 QString FtpServer::runFile(const QString &name) const
 {
     return m_dir.filePath(QStringLiteral("run/")) + name;
@@ -156,6 +162,44 @@ QByteArray FtpServer::readRunFile(const QString &name) const
 {
     QFile file(runFile(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+FtpProgram::~FtpProgram()
+{
+    FtpProgram::stop();
+}
+
+bool FtpProgram::launch()
+{
+    m_process = std::make_unique<ServerProcess>(ServerProcess::AllRights);
+    return m_process->launch(runFile({}), program(), arguments(), [this] {
+        return isReady();
+    });
+}
+
+bool FtpProgram::hasEnded() const
+{
+    return m_process && m_process->state() == QProcess::NotRunning;
+}
+
+void FtpProgram::stop()
+{
+    if (m_process) {
+        // The sessions are children of the server.
+        m_process->killGroup();
+        m_process.reset();
+    }
+}
+
+bool FtpProgram::isReady() const
+{
+    QTcpSocket socket;
+    socket.setProxy(QNetworkProxy::NoProxy);
+    socket.connectToHost(QHostAddress(address()), port());
+    const bool greeted = socket.waitForConnected(1000) && socket.waitForReadyRead(5000)
+        && socket.readAll().startsWith("220");
+    socket.abort();
+    return greeted;
 }
 
 bool VsftpdServer::canChroot()
@@ -192,7 +236,10 @@ bool VsftpdServer::configure()
         && writeRunFile(QStringLiteral("vsftpd.conf"), configuration);
 }
 
-FtpScriptServer::FtpScriptServer() = default;
+FtpScriptServer::~FtpScriptServer()
+{
+    FtpScriptServer::stop();
+}
 
 void FtpScriptServer::addUser(const QString &user, const QString &password)
 {
@@ -232,36 +279,30 @@ int FtpScriptServer::count(const QByteArray &command) const
     return static_cast<int>(commands().count(command));
 }
 
-QStringList FtpScriptServer::arguments() const
-{
-    return {QStringLiteral(RAVEL_TEST_SUPPORT "/ftp_server.py"),
-            runFile(QStringLiteral("script.json"))};
-}
-
 bool FtpScriptServer::configure()
 {
     m_script[QStringLiteral("address")] = m_address;
     m_script[QStringLiteral("port")] = m_port;
     m_script[QStringLiteral("root")] = root();
     m_script[QStringLiteral("log")] = runFile(QStringLiteral("commands"));
-    m_script[QStringLiteral("ready")] = runFile(QStringLiteral("ready"));
+    m_script[QStringLiteral("output")] = runFile(QStringLiteral("output"));
     QFile::remove(runFile(QStringLiteral("commands")));
-    QFile::remove(runFile(QStringLiteral("ready")));
     return writeRunFile(QStringLiteral("script.json"), QJsonDocument(m_script).toJson());
 }
 
-QProcessEnvironment FtpScriptServer::environment() const
+bool FtpScriptServer::launch()
 {
-    QProcessEnvironment result = FtpServer::environment();
-    // Names on disk may be no UTF-8 and are passed on as they are.
-    result.insert(QStringLiteral("PYTHONUTF8"), QStringLiteral("1"));
-    return result;
+    m_process =
+        ScriptHost::ask("start " + QFile::encodeName(runFile(QStringLiteral("script.json"))));
+    return m_process != 0;
 }
 
-// Its greeting may be a part of the script.
-bool FtpScriptServer::isReady() const
+void FtpScriptServer::stop()
 {
-    return QFile::exists(runFile(QStringLiteral("ready")));
+    if (m_process != 0) {
+        ScriptHost::ask("stop " + QByteArray::number(m_process));
+        m_process = 0;
+    }
 }
 
 QStringList FtpProxyServer::arguments() const

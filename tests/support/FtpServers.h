@@ -5,7 +5,6 @@
 #include "tests/support/ServerProcess.h"
 
 #include <QJsonObject>
-#include <QProcessEnvironment>
 #include <QTemporaryDir>
 #include <QUrl>
 
@@ -25,7 +24,8 @@ public:
 
     /// Starts it and waits until it answers. False after 20 s, or when it ended.
     bool start();
-    void stop();
+    /// Ends it and its children at once.
+    virtual void stop() = 0;
     /// Why it did not start, with its own messages; valid until the next call.
     const char *report();
 
@@ -43,12 +43,13 @@ public:
 protected:
     FtpServer();
 
+    /// For the report.
     virtual QString program() const = 0;
-    virtual QStringList arguments() const = 0;
     /// Writes the configuration into `runFile()` names; the port is known.
     virtual bool configure() = 0;
-    virtual QProcessEnvironment environment() const;
-    virtual bool isReady() const;
+    /// Waits until it answers.
+    virtual bool launch() = 0;
+    virtual bool hasEnded() const = 0;
 
     QString runFile(const QString &name) const;
     bool writeRunFile(const QString &name, const QByteArray &content) const;
@@ -60,15 +61,30 @@ protected:
 private:
     Q_DISABLE_COPY_MOVE(FtpServer)
 
-    bool launch();
-
     QTemporaryDir m_dir;
-    std::unique_ptr<ServerProcess> m_process;
     QByteArray m_report;
 };
 
+/// A server of the distribution.
+class FtpProgram : public FtpServer
+{
+public:
+    ~FtpProgram() override;
+    void stop() override;
+
+protected:
+    virtual QStringList arguments() const = 0;
+    bool launch() override;
+    bool hasEnded() const override;
+
+private:
+    bool isReady() const;
+
+    std::unique_ptr<ServerProcess> m_process;
+};
+
 /// vsftpd. Its logins are anonymous ones.
-class VsftpdServer : public FtpServer
+class VsftpdServer : public FtpProgram
 {
 public:
     enum Jail {
@@ -105,7 +121,8 @@ private:
 class FtpScriptServer : public FtpServer
 {
 public:
-    FtpScriptServer();
+    ~FtpScriptServer() override;
+    void stop() override;
 
     void addUser(const QString &user, const QString &password);
     void refuseAnonymous() { m_script[QStringLiteral("anonymous")] = false; }
@@ -134,20 +151,22 @@ public:
     int count(const QByteArray &command) const;
 
 protected:
-    QString program() const override { return QStringLiteral("/usr/bin/python3"); }
-    QStringList arguments() const override;
+    QString program() const override { return QStringLiteral("ftp_server.py"); }
     bool configure() override;
-    QProcessEnvironment environment() const override;
-    bool isReady() const override;
+    bool launch() override;
+    /// It either listens or fails.
+    bool hasEnded() const override { return true; }
 
 private:
     void addTo(const QString &list, const QString &step);
 
     QJsonObject m_script;
+    /// 0 while it does not run.
+    qint64 m_process = 0;
 };
 
 /// An FTP proxy (ftp-proxy): USER user@host[:port]. For any user.
-class FtpProxyServer : public FtpServer
+class FtpProxyServer : public FtpProgram
 {
 protected:
     QString program() const override { return QStringLiteral("/usr/sbin/ftp-proxy"); }
