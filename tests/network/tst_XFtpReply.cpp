@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "network/XFtpReply.h"
 #include "network/XNetworkAccessManager.h"
+#include "tests/support/EventLoop.h"
 #include "tests/support/FtpServers.h"
 #include "tests/support/LogFile.h"
 #include "tests/support/WarningGuard.h"
@@ -14,7 +15,7 @@
 namespace
 {
 
-constexpr int shortLimitMs = 400;
+constexpr int shortLimitMs = 1000;
 constexpr int waitMs = 30000;
 
 /// One download, with a count of everything that its reply says.
@@ -45,13 +46,16 @@ public:
         });
     }
 
-    /// Ended, and nothing more comes after that.
-    bool endsOnce(int quietMs = 50)
+    /// Ended, and nothing more comes after that, not even when the server is gone.
+    bool endsOnce(FtpServer *server = nullptr)
     {
         if (ends == 0 && !QSignalSpy(reply, &QNetworkReply::finished).wait(waitMs)) {
             return false;
         }
-        QTest::qWait(quietMs);
+        if (server) {
+            server->stop();
+        }
+        runUntilIdle();
         return ends == 1 && errors == (code() == 0 ? 0 : 1) && reply->isFinished();
     }
 
@@ -109,6 +113,7 @@ private Q_SLOTS:
     void pathIsSentAsItStands();
     void failures_data();
     void failures();
+    void silentServers();
     void nobodyListens();
     void lineBreakInANameIsNotSent();
     void shortFileIsAnError();
@@ -257,13 +262,6 @@ void tst_XFtpReply::failures_data()
     row("refuse", "RETR", "451 Disk trouble.", 399);
     row("refuse", "RETR", "502 What?", 399);
     row("refuse", "RETR", "421 Going down.", 2);
-    row("stall", "CONNECT", "", 4);
-    row("stall", "USER", "", 4);
-    row("stall", "PASS", "", 4);
-    row("stall", "SIZE", "", 4);
-    row("stall", "RETR", "", 4);
-    row("stall", "DATA", "", 4);
-    row("stall", "QUIT", "", 0);
     row("drop", "CONNECT", "", 1);
     row("drop", "USER", "", 2);
     row("drop", "PASS", "", 2);
@@ -284,21 +282,57 @@ void tst_XFtpReply::failures()
     QVERIFY(server.write("a.deb", "abc"));
     if (how == QLatin1String("refuse")) {
         server.refuse(step, answer);
-    } else if (how == QLatin1String("stall")) {
-        server.stall(step);
     } else {
         server.drop(step);
     }
     QVERIFY2(server.start(), server.report());
-    Download download(server.url(QStringLiteral("/a.deb")),
-                      how == QLatin1String("stall") ? shortLimitMs : waitMs);
-    QVERIFY(download.endsOnce(how == QLatin1String("stall") ? shortLimitMs + 100 : 50));
+    Download download(server.url(QStringLiteral("/a.deb")));
+    QVERIFY(download.endsOnce(&server));
     QCOMPARE(download.code(), code);
     if (code == 0) {
         QCOMPARE(download.reply->readAll(), QByteArray("abc"));
     } else {
         QVERIFY(!download.reply->errorString().isEmpty());
         QCOMPARE(download.reply->bytesAvailable(), qint64(0));
+    }
+    QVERIFY2(guard.isClean(), guard.report());
+}
+
+// Side by side: each takes as long as the limit.
+void tst_XFtpReply::silentServers()
+{
+    struct Silence {
+        const char *step;
+        int code;
+        FtpScriptServer server;
+        std::unique_ptr<Download> download;
+    };
+    WarningGuard guard;
+    std::vector<std::unique_ptr<Silence>> silences;
+    for (const char *step : {"CONNECT", "USER", "PASS", "SIZE", "RETR", "DATA", "QUIT"}) {
+        // At QUIT the file is complete.
+        silences.emplace_back(new Silence{step, qstrcmp(step, "QUIT") == 0 ? 0 : 4, {}, {}});
+        FtpScriptServer &server = silences.back()->server;
+        QVERIFY(server.write("a.deb", "abc"));
+        server.stall(QLatin1String(step));
+        QVERIFY2(server.start(), server.report());
+    }
+    for (const auto &silence : silences) {
+        silence->download =
+            std::make_unique<Download>(silence->server.url(QStringLiteral("/a.deb")), shortLimitMs);
+    }
+    for (const auto &silence : silences) {
+        Download &download = *silence->download;
+        QVERIFY2(download.endsOnce(), silence->step);
+        QVERIFY2(download.code() == silence->code, silence->step);
+        QVERIFY2(download.reply->readAll() == (silence->code == 0 ? "abc" : ""), silence->step);
+        QVERIFY2(silence->code == 0 || !download.reply->errorString().isEmpty(), silence->step);
+    }
+    // A limit that began anew at an end would be over before that of one that began later.
+    Download later(silences.front()->server.url(QStringLiteral("/a.deb")), shortLimitMs);
+    QVERIFY(later.endsOnce(&silences.front()->server));
+    for (const auto &silence : silences) {
+        QVERIFY2(silence->download->endsOnce(&silence->server), silence->step);
     }
     QVERIFY2(guard.isClean(), guard.report());
 }
@@ -380,13 +414,20 @@ void tst_XFtpReply::questionHasNoLimit()
     FtpScriptServer server;
     wantLogin(&server);
     QVERIFY2(server.start(), server.report());
-    constexpr int limitMs = 1500;
-    Download download(server.url(QStringLiteral("/a.deb")), limitMs);
-    download.onQuestion = [](QAuthenticator *auth) {
-        QTest::qWait(limitMs + 300);
+    FtpScriptServer silent;
+    silent.stall(QStringLiteral("CONNECT"));
+    QVERIFY2(silent.start(), silent.report());
+    Download download(server.url(QStringLiteral("/a.deb")), shortLimitMs);
+    int siblingsCode = 0;
+    download.onQuestion = [&](QAuthenticator *auth) {
+        // One that begins now reaches the same limit before the answer is given.
+        Download sibling(silent.url(QStringLiteral("/a.deb")), shortLimitMs);
+        sibling.endsOnce();
+        siblingsCode = sibling.code();
         giveRightLogin(auth);
     };
     QVERIFY(download.endsOnce());
+    QCOMPARE(siblingsCode, 4);
     QCOMPARE(download.code(), 0);
 }
 
@@ -472,7 +513,7 @@ void tst_XFtpReply::abortEndsItOnce()
     QCOMPARE(download.ends, 1);
     QCOMPARE(download.code(), 5);
     download.reply->abort();
-    QVERIFY(download.endsOnce(300));
+    QVERIFY(download.endsOnce(&server));
     QVERIFY2(guard.isClean(), guard.report());
 }
 
@@ -512,7 +553,8 @@ void tst_XFtpReply::mayBeDeleted()
         connect(download.reply, &QNetworkReply::downloadProgress, this, drop);
     }
     QTRY_VERIFY_WITH_TIMEOUT(!download.reply, waitMs);
-    QTest::qWait(100);
+    server.stop();
+    runUntilIdle();
     QVERIFY2(guard.isClean(), guard.report());
 }
 
