@@ -19,6 +19,7 @@
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
+#include <vector>
 
 namespace
 {
@@ -147,11 +148,18 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(Unpacking)
 
+    struct Mode {
+        QByteArray path;
+        mode_t mode;
+    };
+
     void remember(const QByteArray &path, bool isDirectory);
     bool copyContents(archive *reader, archive_entry *entry);
 
     Writer m_writer;
     QByteArrayList m_added;
+    /// Of the directories that were there before, and take the mode that a member gives them.
+    std::vector<Mode> m_modes;
 };
 
 bool Unpacking::unpack(archive *reader, archive_entry *entry)
@@ -195,7 +203,10 @@ void Unpacking::remember(const QByteArray &path, bool isDirectory)
             m_added.append(parent);
         }
     }
-    if (!isDirectory || kindOf(path) != Kind::Directory) {
+    struct stat status = {};
+    if (isDirectory && ::lstat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode)) {
+        m_modes.push_back({path, status.st_mode & 07777U});
+    } else {
         m_added.append(path);
     }
 }
@@ -206,6 +217,13 @@ void Unpacking::undo()
     for (auto path = m_added.crbegin(); path != m_added.crend(); ++path) {
         if (isReachable(*path) && ::unlink(path->constData()) != 0) {
             ::rmdir(path->constData());
+        }
+    }
+    // It gives directories their modes at its end.
+    m_writer.reset();
+    for (auto was = m_modes.crbegin(); was != m_modes.crend(); ++was) {
+        if (isReachable(was->path) && kindOf(was->path) == Kind::Directory) {
+            ::chmod(was->path.constData(), was->mode);
         }
     }
 }
