@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "core/OSInfo.h"
+#include "tests/support/CpuCost.h"
 #include "tests/support/FakeRoot.h"
 #include "tests/support/LogFile.h"
 #include "tests/support/OrdinaryUser.h"
@@ -313,16 +314,20 @@ void tst_OSInfo::unreadableServicePackFile()
 
 void tst_OSInfo::manyServicePacks()
 {
-    QByteArray contents;
-    for (int i = 0; contents.size() < 300 * 1000; ++i) {
-        contents += QByteArray::number(i) + '\n';
+    constexpr int some = 12'500;
+    QHash<int, QByteArray> contents;
+    for (const int count : {some, 4 * some}) {
+        for (int i = 0; i < count; ++i) {
+            contents[count] += QByteArray::number(i) + '\n';
+        }
     }
-    m_root->addServicePackFile(QStringLiteral("list"), contents);
-    QElapsedTimer timer;
-    timer.start();
-    const OSInfo info(nullptr, m_root->paths());
-    QCOMPARE(info.servicePackList().size(), contents.count('\n'));
-    QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(CpuCost::isLinear(
+        [&](int count) {
+            m_root->addServicePackFile(QStringLiteral("list"), contents.value(count));
+            const OSInfo info(nullptr, m_root->paths());
+            QCOMPARE(info.servicePackList().size(), count);
+        },
+        some));
 }
 
 void tst_OSInfo::packages_data()
@@ -535,30 +540,23 @@ void tst_OSInfo::slowTool()
     const OSInfo info(nullptr, m_root->paths());
     const pid_t pid = info.thinClient().toInt();
     QVERIFY(pid > 0);
-    QVERIFY2(timer.elapsed() >= 950 && timer.elapsed() < 15000,
-             qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() >= 950, qPrintable(QString::number(timer.elapsed())));
     QTRY_VERIFY_WITH_TIMEOUT(::kill(pid, 0) == -1, 5000);
 }
 
 void tst_OSInfo::toolThatClosesItsOutput()
 {
-    m_root->setHardwareTool("echo T430; exec >&- 2>&-; exec sleep 20");
-    QElapsedTimer timer;
-    timer.start();
+    m_root->setHardwareTool("echo T430; exec >&- 2>&-; exec sleep 1000");
     const OSInfo info(nullptr, m_root->paths());
     QCOMPARE(info.thinClient(), QStringLiteral("T430"));
-    QVERIFY(timer.elapsed() < 15000);
 }
 
 void tst_OSInfo::endlessTool()
 {
     m_root->setHardwareTool("exec yes T430");
-    QElapsedTimer timer;
-    timer.start();
     const OSInfo info(nullptr, m_root->paths());
     QVERIFY(info.thinClient().startsWith(QLatin1String("T430\nT430\n")));
     QVERIFY(info.thinClient().size() <= 64 * 1024);
-    QVERIFY(timer.elapsed() < 15000);
 }
 
 void tst_OSInfo::toolLeavesNoZombie()

@@ -5,7 +5,6 @@
 #include "tests/support/SigningKeys.h"
 #include "tests/support/WarningGuard.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -303,14 +302,11 @@ void tst_RVSignature::hangingProgram()
 void tst_RVSignature::destroyedWhileItRuns()
 {
     setTool("exec sleep 1000");
-    QElapsedTimer timer;
-    timer.start();
     auto run = std::make_unique<RVSignature>(nullptr, m_paths);
     QSignalSpy ends(run.get(), &RVSignature::finished);
     run->start(list, "signature", "keys");
     run.reset();
     QCOMPARE(ends.count(), 0);
-    QVERIFY(timer.elapsed() < 20000);
 }
 
 void tst_RVSignature::givesNothingAway()
