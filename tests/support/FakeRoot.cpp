@@ -2,9 +2,24 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/support/FakeRoot.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+
+#include <sys/stat.h>
+
+namespace
+{
+
+/// As a system's own folders are, whatever the mask of who runs the test.
+bool makeFolder(const QString &path)
+{
+    const QFileInfo folder(path);
+    return folder.isDir()
+        || (makeFolder(folder.path()) && ::mkdir(QFile::encodeName(path).constData(), 0755) == 0
+            && ::chmod(QFile::encodeName(path).constData(), 0755) == 0);
+}
+
+} // namespace
 
 FakeRoot::FakeRoot()
     : m_paths(RVPaths::under(m_dir.path()))
@@ -16,9 +31,13 @@ FakeRoot::FakeRoot()
 void FakeRoot::write(const QString &path, const QByteArray &contents)
 {
     QFile file(path);
-    if (!QDir().mkpath(QFileInfo(path).path()) || !file.open(QIODevice::WriteOnly)
+    const bool isNew = !file.exists();
+    if (!makeFolder(QFileInfo(path).path()) || !file.open(QIODevice::WriteOnly)
         || file.write(contents) != contents.size()) {
         qFatal("Cannot write %s", qUtf8Printable(path));
+    }
+    if (isNew) {
+        ::chmod(QFile::encodeName(path).constData(), 0644);
     }
 }
 
