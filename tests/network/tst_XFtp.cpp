@@ -1042,7 +1042,7 @@ void tst_XFtp::slowReaderStopsTheSender()
     QCOMPARE(record.dones, 0);
     QVERIFY(server.data()->bytesToWrite() > 0);
     qint64 size = 0;
-    while (record.dones == 0 && clock.elapsed() < 60'000) {
+    while (record.dones == 0) {
         size += ftp.readAll().size();
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
     }
@@ -1333,11 +1333,9 @@ void tst_XFtp::hostileServersEndOnce()
                                              {"QUIT", "221 Bye\r\n"},
                                              {"LIST", "150 x\r\n226 y\r\n"},
                                              {"RETR", "150 x\r\n226 y\r\n"}};
-    QElapsedTimer clock;
-    clock.start();
-    int rounds = 0;
+    constexpr int rounds = 150;
     int failures = 0;
-    for (; rounds < 400 && clock.elapsed() < 2500; ++rounds) {
+    for (int round = 0; round < rounds; ++round) {
         InlineFtpServer server;
         server.setListing(unixLine("a"));
         QTimer hangUp;
@@ -1392,7 +1390,6 @@ void tst_XFtp::hostileServersEndOnce()
         QTRY_COMPARE(ftp.state(), XFtp::Unconnected);
         QCOMPARE(record.dones, 1);
     }
-    QVERIFY2(rounds >= 50, qPrintable(QString::number(rounds)));
     QVERIFY(failures > rounds / 4);
     QVERIFY(failures < rounds);
 }

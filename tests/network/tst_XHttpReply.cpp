@@ -880,8 +880,10 @@ void tst_XHttpReply::largeBody()
     QFETCH(bool, announced);
     QFETCH(bool, inChunks);
     QByteArray body(20 * 1024 * 1024 + 3, Qt::Uninitialized);
-    for (int i = 0; i < body.size(); ++i) {
-        body[i] = static_cast<char>(i * 7 + (i >> 10));
+    int position = 0;
+    for (char &byte : body) {
+        byte = static_cast<char>(position * 7 + (position >> 10));
+        ++position;
     }
     QByteArray answer = "HTTP/1.1 200 OK\r\nConnection: close\r\n";
     if (announced) {

@@ -83,9 +83,9 @@ public:
 QByteArray pattern(qint64 from, int size)
 {
     QByteArray bytes(size, Qt::Uninitialized);
-    for (int i = 0; i < size; ++i) {
-        const quint32 value = static_cast<quint32>(from + i) * 2654435761U;
-        bytes[i] = static_cast<char>(value >> 24);
+    qint64 at = from;
+    for (char &byte : bytes) {
+        byte = static_cast<char>((static_cast<quint32>(at++) * 2654435761U) >> 24);
     }
     return bytes;
 }
@@ -239,14 +239,15 @@ private Q_SLOTS:
         QCOMPARE(::mount("tmpfs", place.constData(), "tmpfs", 0, "size=100m"), 0);
         const QByteArray before = qgetenv("TMPDIR");
         qputenv("TMPDIR", place);
+        const QByteArray piece = pattern(0, mebibyte);
         std::vector<std::unique_ptr<Reply>> replies;
         for (int i = 0; i < 100; ++i) {
             replies.push_back(std::make_unique<Reply>());
         }
-        for (int piece = 0; piece < 2; ++piece) {
+        for (int round = 0; round < 2; ++round) {
             for (const auto &reply : replies) {
                 if (reply->error() == QNetworkReply::NoError) {
-                    reply->append(pattern(0, mebibyte), -1);
+                    reply->append(piece, -1);
                 }
             }
         }

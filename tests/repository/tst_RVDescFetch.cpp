@@ -3,6 +3,7 @@
 #include "descriptor/XmlCheck.h"
 #include "repository/RVDescFetch.h"
 #include "tests/support/BrokenDownload.h"
+#include "tests/support/EventLoop.h"
 #include "tests/support/HttpServer.h"
 #include "tests/support/InlineFtpServer.h"
 #include "tests/support/LogFile.h"
@@ -10,7 +11,6 @@
 
 #include <QAuthenticator>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QNetworkAccessManager>
 #include <QSignalSpy>
 #include <QTcpServer>
@@ -56,15 +56,6 @@ struct Spies {
     QList<int> codes;
     QList<QUrl> urls;
 };
-
-/// Gives signals that should not come the time to come.
-void letEverythingArrive()
-{
-    for (int i = 0; i < 10; ++i) {
-        QTest::qWait(1);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-}
 
 } // namespace
 
@@ -195,7 +186,7 @@ void tst_RVDescFetch::noEntries()
     fetch.fetchAll();
     QCOMPARE(spies.finished.count(), 1);
     QVERIFY(!fetch.isActive());
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(spies.finished.count(), 1);
     QCOMPARE(m_log->lines(), QStringList());
 }
@@ -213,7 +204,7 @@ void tst_RVDescFetch::readsLocalFiles()
     for (int i = 0; i < 3; ++i) {
         QCOMPARE(versionOf(entries.at(i)), QString::number(i));
     }
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(spies.finished.count(), 1);
     QCOMPARE(spies.codes.size(), 0);
     QVERIFY(fetch.children().isEmpty());
@@ -233,7 +224,7 @@ void tst_RVDescFetch::missingLocalFileAmongOthers()
     QCOMPARE(versionOf(entries.at(0)), QStringLiteral("0"));
     QCOMPARE(versionOf(entries.at(1)), QString());
     QCOMPARE(versionOf(entries.at(2)), QStringLiteral("1"));
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(spies.finished.count(), 1);
     QCOMPARE(spies.codes.size(), 1);
     QCOMPARE(m_log->lines(), QStringList());
@@ -251,7 +242,7 @@ void tst_RVDescFetch::allFailAtOnce()
     fetch.fetchAll();
     QCOMPARE(spies.codes.size(), 3);
     QVERIFY(!fetch.isActive());
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(spies.codes.size(), 3);
     QCOMPARE(spies.finished.count(), 0);
     QVERIFY(fetch.children().isEmpty());
@@ -269,7 +260,7 @@ void tst_RVDescFetch::nullDescriptors()
     RVDescFetch none(entries, {}, {});
     const Spies noneSpies(none);
     none.fetchAll();
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(noneSpies.finished.count(), 0);
     QCOMPARE(noneSpies.codes.size(), 0);
     const QStringList lines = {text.arg(0), text.arg(1)};
@@ -321,7 +312,7 @@ void tst_RVDescFetch::severalDownloadsAtATime()
     for (int i = 0; i < 3; ++i) {
         QCOMPARE(versionOf(entries.at(i)), QString::number(i));
     }
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(spies.finished.count(), 1);
     QVERIFY(fetch.children().isEmpty());
 }
@@ -344,7 +335,7 @@ void tst_RVDescFetch::notFoundAmongOthers()
     QCOMPARE(m_log->lines(),
              QStringList(QStringLiteral("Descriptor fetch error 203 from %1")
                              .arg(missing.toString(QUrl::RemovePassword))));
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(spies.finished.count(), 1);
 }
 
@@ -382,7 +373,7 @@ void tst_RVDescFetch::brokenDownload()
     QCOMPARE(versionOf(entries.at(1)), QString());
     QCOMPARE(versionOf(entries.at(2)), QStringLiteral("1"));
     QCOMPARE(versionOf(entries.at(3)), QStringLiteral("0"));
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(spies.finished.count(), 1);
     QCOMPARE(spies.codes.size(), 1);
     QVERIFY(fetch.children().isEmpty());
@@ -398,7 +389,7 @@ void tst_RVDescFetch::neverMoreThanTheLimit()
     const Spies spies(fetch);
     fetch.fetchAll();
     QTRY_COMPARE_WITH_TIMEOUT(m_server->waiting(), limit, patience);
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(m_server->requests().size(), limit);
     for (const QByteArray &head : m_server->requests()) {
         QVERIFY2(head.mid(5).split('.').first().toInt() < limit, head.constData());
@@ -406,20 +397,19 @@ void tst_RVDescFetch::neverMoreThanTheLimit()
 
     m_server->release();
     int mostFiles = 0;
-    QElapsedTimer timer;
-    timer.start();
-    while (spies.finished.isEmpty() && timer.elapsed() < patience) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    const auto hasFinished = [&] {
         const QDir files(QStringLiteral("/proc/self/fd"));
         mostFiles = qMax(mostFiles, files.entryList(QDir::Files | QDir::System).size());
-    }
+        return !spies.finished.isEmpty();
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(hasFinished(), patience);
     QCOMPARE(spies.finished.count(), 1);
     QVERIFY(m_server->mostWaiting() <= limit);
     QVERIFY2(mostFiles < 900, qPrintable(QString::number(mostFiles)));
     for (int i = 0; i < count; ++i) {
         QCOMPARE(versionOf(entries.at(i)), QString::number(i));
     }
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(spies.finished.count(), 1);
 }
 
@@ -435,7 +425,7 @@ void tst_RVDescFetch::laterEntriesFailAtOnce()
     QCOMPARE(spies.codes.size(), 0);
     QTRY_COMPARE_WITH_TIMEOUT(spies.finished.count(), 1, patience);
     QCOMPARE(spies.codes.size(), 50);
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(spies.finished.count(), 1);
 }
 
@@ -447,7 +437,7 @@ void tst_RVDescFetch::sharedDescriptorIsFetchedOnce()
     const Spies spies(fetch);
     fetch.fetchAll();
     QTRY_COMPARE_WITH_TIMEOUT(spies.finished.count(), 1, patience);
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(spies.finished.count(), 1);
     QCOMPARE(m_server->requests().size(), 1);
 }
@@ -681,7 +671,7 @@ void tst_RVDescFetch::requestsStayPlain()
     const Spies spies(fetch);
     fetch.fetchAll();
     QTRY_COMPARE_WITH_TIMEOUT(spies.finished.count(), 1, patience);
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(m_server->requests().size(), 1);
     QCOMPARE(versionOf(entries.first()), QString());
     const QByteArray head = m_server->requests().first();
@@ -712,7 +702,7 @@ void tst_RVDescFetch::oversizedXmlIsAborted()
     QCOMPARE(m_log->lines(),
              QStringList({QStringLiteral("Descriptor larger than 16777216 bytes, aborting ") + url,
                           QStringLiteral("Descriptor fetch error 5 from ") + url}));
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(spies.finished.count(), 1);
 }
 
@@ -757,7 +747,7 @@ void tst_RVDescFetch::cancelInFlight()
     QCOMPARE(m_log->lines().first(), QStringLiteral("DESCRIPTOR FETCH CANCEL, KILLING 2 FETCHES"));
     QVERIFY(m_log->lines().last().startsWith(QStringLiteral("Descriptor fetch error 5 from ")));
     QTRY_COMPARE_WITH_TIMEOUT(m_server->waiting(), 0, patience);
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(spies.finished.count(), 1);
     QCOMPARE(spies.codes.size(), 2);
     QVERIFY(fetch.children().isEmpty());
@@ -774,7 +764,7 @@ void tst_RVDescFetch::cancelLocalFiles()
     fetch.cancel();
     QCOMPARE(spies.finished.count(), 1);
     QVERIFY(m_log->contains(QStringLiteral("DESCRIPTOR FETCH CANCEL, KILLING 2 FETCHES")));
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(spies.finished.count(), 1);
     QVERIFY(versionOf(entries.first()).isEmpty());
     QVERIFY(fetch.children().isEmpty());
@@ -790,7 +780,7 @@ void tst_RVDescFetch::cancelDropsWhatWaits()
     QTRY_COMPARE_WITH_TIMEOUT(m_server->waiting(), RVLimits::transfersInFlight, patience);
     fetch.cancel();
     QVERIFY(m_log->contains(QStringLiteral("DESCRIPTOR FETCH CANCEL, KILLING 100 FETCHES")));
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(spies.finished.count(), 1);
     QCOMPARE(m_server->requests().size(), RVLimits::transfersInFlight);
 }
@@ -823,7 +813,7 @@ void tst_RVDescFetch::cancelFromAnErrorHandler()
     QVERIFY(!fetch.isActive());
     QCOMPARE(spies.finished.count(), 1);
     QVERIFY(m_log->contains(QStringLiteral("DESCRIPTOR FETCH CANCEL, KILLING 1 FETCHES")));
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(spies.finished.count(), 1);
     QVERIFY(fetch.children().isEmpty());
 }
@@ -845,7 +835,7 @@ void tst_RVDescFetch::cancelWhenALaterEntryFailsAtOnce()
     QTRY_COMPARE_WITH_TIMEOUT(m_server->waiting(), RVLimits::transfersInFlight, patience);
     m_server->release();
     QTRY_COMPARE_WITH_TIMEOUT(spies.finished.count(), 1, patience);
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(spies.finished.count(), 1);
     QVERIFY(fetch.children().isEmpty());
     QCOMPARE(versionOf(entries.last()), QString());
@@ -897,7 +887,7 @@ void tst_RVDescFetch::onlyOneEnd()
             }
         }
         QCOMPARE(spies.finished.count(), ends);
-        letEverythingArrive();
+        runUntilIdle();
         QCOMPARE(spies.finished.count(), ends);
     }
 }
@@ -928,7 +918,7 @@ void tst_RVDescFetch::deletedInFlight()
     fetch->fetchAll();
     fetch.reset();
     m_server->release();
-    letEverythingArrive();
+    runUntilIdle();
     QCOMPARE(m_log->lines(), QStringList());
 }
 
@@ -944,7 +934,7 @@ void tst_RVDescFetch::deletedByAnErrorHandler()
     });
     fetch->fetchAll();
     QVERIFY(!alive);
-    letEverythingArrive();
+    runUntilIdle();
 }
 
 void tst_RVDescFetch::manyEntriesThatFailAtOnce()

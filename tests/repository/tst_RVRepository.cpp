@@ -4,6 +4,7 @@
 #include "network/XNetworkReply.h"
 #include "repository/RVDescFetch.h"
 #include "repository/RVRepository.h"
+#include "tests/support/EventLoop.h"
 #include "tests/support/HttpServer.h"
 #include "tests/support/LogFile.h"
 #include "tests/support/Privileges.h"
@@ -11,7 +12,6 @@
 
 #include <QAuthenticator>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QPointer>
 #include <QSettings>
@@ -129,15 +129,6 @@ private:
     }
 };
 
-/// What a listing that nobody waits for any more would still deliver by now.
-void deliverEverything()
-{
-    for (int i = 0; i < 5; ++i) {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QTest::qWait(1);
-    }
-}
-
 } // namespace
 
 class tst_RVRepository : public QObject
@@ -237,7 +228,7 @@ void tst_RVRepository::init()
 
 void tst_RVRepository::cleanup()
 {
-    deliverEverything();
+    runUntilIdle();
     const bool clean = m_guard->isClean();
     const QByteArray report = m_guard->report();
     m_guard.reset();
@@ -403,7 +394,7 @@ void tst_RVRepository::listsReadsAndSorts()
     const RVData &first = watched.repository.entries().first();
     QCOMPARE(QFile::exists(first.archiveUrl().toLocalFile()), true);
     QVERIFY(!first.descriptor()->version().isEmpty());
-    deliverEverything();
+    runUntilIdle();
     QCOMPARE(watched.signalTexts.size(), 1);
 }
 
@@ -468,7 +459,7 @@ void tst_RVRepository::emptyResultReportsTwice()
              (QStringList{QStringLiteral("Descriptor fetch finished for '%1'").arg(url),
                           QStringLiteral("Beginning descriptor fetch for '%1'").arg(url),
                           QStringLiteral("Descriptor fetch finished for '%1'").arg(url)}));
-    deliverEverything();
+    runUntilIdle();
     QCOMPARE(watched.signalTexts, twice);
 }
 
@@ -568,7 +559,7 @@ void tst_RVRepository::listingThatCannotStart()
     QVERIFY(m_log->contains(QStringLiteral("Finished directory fetch('%1'), Err=%2")
                                 .arg(location.toString())
                                 .arg(error)));
-    deliverEverything();
+    runUntilIdle();
     QVERIFY(QFile::setPermissions(locked, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     QCOMPARE(watched.signalTexts, expected);
     QVERIFY(watched.repository.entries().isEmpty());
@@ -619,7 +610,7 @@ void tst_RVRepository::onlyDescriptorCannotBeRead()
     QVERIFY(QFile::setPermissions(path(QStringLiteral("a.xml")), {}));
     Watched watched(location());
     watched.refresh();
-    deliverEverything();
+    runUntilIdle();
     // Nothing could be asked for: the error is the last signal, and the page offers to try again.
     QCOMPARE(watched.signalTexts, QStringList(QStringLiteral("networkError 201")));
     QVERIFY(QFile::setPermissions(path(QStringLiteral("a.xml")), QFile::ReadOwner));
@@ -648,8 +639,6 @@ void tst_RVRepository::readsTwoThousandDescriptors()
                   "1." + QByteArray::number(i));
     }
     Watched watched(location());
-    QElapsedTimer timer;
-    timer.start();
     watched.refresh();
     QTRY_COMPARE_WITH_TIMEOUT(watched.signalTexts, QStringList(QStringLiteral("refreshDone 0")),
                               30000);
@@ -678,14 +667,14 @@ void tst_RVRepository::listingThatFailsLater()
     QCOMPARE(watched.signalTexts, QStringList(QStringLiteral("networkError 4")));
     reply->finish();
     QCOMPARE(watched.signalTexts.size(), 2);
-    deliverEverything();
+    runUntilIdle();
     QVERIFY(!reply);
 
     const QPointer<XNetworkReply> silent = watched.startListing();
     silent->setError(QNetworkReply::TimeoutError, QStringLiteral("slow"));
     silent->finish();
     QCOMPARE(watched.signalTexts.size(), 3);
-    deliverEverything();
+    runUntilIdle();
     QVERIFY(!silent);
     QCOMPARE(watched.count("refreshDone"), 0);
 }
@@ -700,7 +689,7 @@ void tst_RVRepository::listingThatEndsLater()
     reply->finish();
     QTRY_COMPARE(watched.signalTexts, QStringList(QStringLiteral("refreshDone 0")));
     QCOMPARE(watched.archives(), QStringLiteral("a.deb"));
-    deliverEverything();
+    runUntilIdle();
     QVERIFY(!reply);
     QVERIFY(!watched.repository.findChild<QNetworkAccessManager *>());
 }
@@ -725,7 +714,7 @@ void tst_RVRepository::cancelWhileListing()
     watched.repository.cancel();
     watched.repository.cancel();
     QCOMPARE(watched.signalTexts, QStringList(QStringLiteral("networkError 5")));
-    deliverEverything();
+    runUntilIdle();
     watched.repository.cancel();
     QCOMPARE(watched.signalTexts.size(), 1);
     QVERIFY(!reply);
@@ -742,7 +731,7 @@ void tst_RVRepository::cancelWhileFetching()
     QTRY_COMPARE(watched.count("refreshDone 0"), 1);
     QVERIFY(m_log->contains(QStringLiteral("DESCRIPTOR FETCH CANCEL, KILLING 2 FETCHES")));
     watched.repository.cancel();
-    deliverEverything();
+    runUntilIdle();
     QCOMPARE(watched.count("refreshDone"), 1);
     QCOMPARE(m_log->lines().filter(QStringLiteral("CANCEL")).size(), 1);
 }
@@ -754,7 +743,7 @@ void tst_RVRepository::cancelAfterTheEnd()
     watched.refresh();
     QTRY_COMPARE(watched.signalTexts.size(), 1);
     watched.repository.cancel();
-    deliverEverything();
+    runUntilIdle();
     QCOMPARE(watched.signalTexts, QStringList(QStringLiteral("refreshDone 0")));
 }
 
@@ -770,7 +759,7 @@ void tst_RVRepository::secondRefreshDropsTheFetch()
     watched.repository.setUrl(other);
     watched.refresh();
     QTRY_COMPARE(watched.count("refreshDone"), 1);
-    deliverEverything();
+    runUntilIdle();
     QCOMPARE(watched.signalTexts, QStringList(QStringLiteral("refreshDone 0")));
     QCOMPARE(watched.archives(), QStringLiteral("b.deb"));
     QVERIFY(!watched.repository.entries()[0].descriptor()->version().isEmpty());
@@ -788,7 +777,7 @@ void tst_RVRepository::secondRefreshDropsTheListing()
     reply->fail(QNetworkReply::OperationCanceledError, QStringLiteral("cancelled"));
     reply->finish();
     QTRY_COMPARE(watched.signalTexts, QStringList(QStringLiteral("refreshDone 0")));
-    deliverEverything();
+    runUntilIdle();
     QVERIFY(!reply);
     QCOMPARE(watched.signalTexts.size(), 1);
     QCOMPARE(watched.archives(), QStringLiteral("a.deb"));
@@ -830,7 +819,7 @@ void tst_RVRepository::refreshFromTheSlots()
     };
     watched.refresh();
     QTRY_COMPARE(watched.signalTexts, expected);
-    deliverEverything();
+    runUntilIdle();
     QCOMPARE(watched.signalTexts, expected);
     QCOMPARE(watched.archives(), QStringLiteral("a.deb"));
     QVERIFY(!watched.repository.entries()[0].descriptor()->version().isEmpty());
@@ -872,7 +861,7 @@ void tst_RVRepository::releasesWhatARefreshUsed()
         watched.refresh();
         QTRY_COMPARE(watched.signalTexts.size(), i);
     }
-    deliverEverything();
+    runUntilIdle();
     QVERIFY(!watched.repository.findChild<QNetworkAccessManager *>());
     QVERIFY(!watched.repository.findChild<RVDescFetch *>());
 }
