@@ -37,6 +37,7 @@ void RVAccess::configure(XNetworkAccessManager *manager, const QUrl &url) const
     manager->setKeyring(keyring);
     manager->inactivityLimit = inactivityLimit;
     manager->bodyLimit = bodyLimit;
+    manager->stored = stored;
     if (hasProxy()) {
         manager->setProxy(proxyFor(url));
     }

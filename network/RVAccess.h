@@ -10,6 +10,8 @@
 #include <QSharedPointer>
 #include <QUrl>
 
+#include <memory>
+
 class XNetworkAccessManager;
 
 /// Who may be given what: all that the transfers of one repository need beside their URLs, and the
@@ -34,6 +36,8 @@ public:
     /// See XSpooledReply::setInactivityLimit() and setBodyLimit().
     int inactivityLimit = XSpooledReply::defaultInactivityMs;
     qint64 bodyLimit = XSpooledReply::defaultBodyLimit;
+    /// See XSpooledReply::setStored(); never null. The copies share it.
+    std::shared_ptr<qint64> stored = std::make_shared<qint64>(0);
 
     bool hasProxy() const { return isProxy(proxyHost, proxyPort); }
     /// An FTP proxy for ftp, an HTTP proxy for everything else; DefaultProxy where none is set.

@@ -135,6 +135,7 @@ QNetworkReply *XNetworkAccessManager::createRequest(Operation operation,
         auto *reply = new XFtpReply(this, request);
         reply->setInactivityLimit(inactivityLimit);
         reply->setBodyLimit(bodyLimit);
+        reply->setStored(stored);
         return reply;
     }
     if (scheme != QLatin1String("http") && scheme != QLatin1String("https")) {
@@ -151,6 +152,7 @@ QNetworkReply *XNetworkAccessManager::createRequest(Operation operation,
     auto *wrapper = new XHttpReply(own, reply, this);
     wrapper->setInactivityLimit(inactivityLimit);
     wrapper->setBodyLimit(bodyLimit);
+    wrapper->setStored(stored);
     return wrapper;
 }
 

@@ -39,6 +39,8 @@ public:
     int inactivityLimit = XSpooledReply::defaultInactivityMs;
     /// As XSpooledReply::setBodyLimit().
     qint64 bodyLimit = XSpooledReply::defaultBodyLimit;
+    /// As XSpooledReply::setStored(); never null.
+    std::shared_ptr<qint64> stored = std::make_shared<qint64>(0);
     /// Whether a certificate that does not validate was accepted for a transfer of this manager;
     /// its replies say so.
     bool hasIgnoredErrors = false;

@@ -15,6 +15,7 @@
 #include <fcntl.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
+#include <utility>
 
 namespace
 {
@@ -88,9 +89,7 @@ XSpooledReply::XSpooledReply(QNetworkAccessManager::Operation operation,
 
 XSpooledReply::~XSpooledReply()
 {
-    if (m_file >= 0) {
-        ::close(m_file);
-    }
+    dropBody();
 }
 
 void XSpooledReply::setInactivityLimit(int milliseconds)
@@ -262,13 +261,29 @@ bool XSpooledReply::store(const QByteArray &data)
     }
     if (m_file < 0) {
         m_memory.append(data);
-    } else if (!leavesRoom(m_file, data.size())) {
-        errno = ENOSPC;
-        return false;
-    } else if (!writeAt(m_file, data.constData(), data.size(), m_writePosition)) {
+    } else if (!storeInFile(data, m_writePosition)) {
         return false;
     }
     m_writePosition += data.size();
+    return true;
+}
+
+// False with errno.
+bool XSpooledReply::storeInFile(const QByteArray &data, qint64 position)
+{
+    if (data.size() > storedLimit - *m_stored) {
+        errno = EDQUOT;
+        return false;
+    }
+    if (!leavesRoom(m_file, data.size())) {
+        errno = ENOSPC;
+        return false;
+    }
+    if (!writeAt(m_file, data.constData(), data.size(), position)) {
+        return false;
+    }
+    *m_stored += data.size();
+    m_ownStored += data.size();
     return true;
 }
 
@@ -290,11 +305,7 @@ bool XSpooledReply::openFile()
         }
         ::unlink(name.constData());
     }
-    if (!leavesRoom(m_file, m_memory.size())) {
-        errno = ENOSPC;
-        return false;
-    }
-    if (!writeAt(m_file, m_memory.constData(), m_memory.size(), 0)) {
+    if (!storeInFile(m_memory, 0)) {
         return false;
     }
     m_memory = QByteArray();
@@ -311,6 +322,7 @@ void XSpooledReply::dropBody()
         ::close(m_file);
         m_file = -1;
     }
+    *m_stored -= std::exchange(m_ownStored, 0);
 }
 
 // False when a receiver has deleted this, or ended it.

@@ -7,6 +7,8 @@
 #include <QNetworkReply>
 #include <QTimer>
 
+#include <memory>
+
 /// A reply whose body is kept as it comes: a little of it in memory, more in an unnamed temporary
 /// file, so that memory does not grow with the update. What is unread stays readable after the end.
 ///
@@ -22,6 +24,7 @@ class XSpooledReply : public QNetworkReply
 public:
     static constexpr int defaultInactivityMs = 120'000;
     static constexpr qint64 defaultBodyLimit = qint64(1) << 31;
+    static constexpr qint64 storedLimit = defaultBodyLimit;
 
     ~XSpooledReply() override;
 
@@ -30,6 +33,9 @@ public:
     void setInactivityLimit(int milliseconds);
     /// A body of so many bytes or more, received or announced, ends it with ProtocolFailure.
     void setBodyLimit(qint64 bytes) { m_bodyLimit = bytes; }
+    /// The bytes on disk of all replies with this counter: at most storedLimit, or a server with
+    /// many bodies that never end fills the disk. Set before anything is stored.
+    void setStored(const std::shared_ptr<qint64> &bytes) { m_stored = bytes; }
     /// Bytes of the body that came so far, read or not.
     qint64 received() const { return m_received; }
 
@@ -70,6 +76,7 @@ protected:
 private:
     void failAndStop(NetworkError code, const QString &text);
     bool store(const QByteArray &data);
+    bool storeInFile(const QByteArray &data, qint64 position);
     bool openFile();
     void dropBody();
     bool tellProgress(bool last);
@@ -78,6 +85,9 @@ private:
     QByteArray m_memory;
     /// The descriptor of the temporary file, -1 while memory is enough.
     int m_file = -1;
+    /// What of m_stored is ours.
+    qint64 m_ownStored = 0;
+    std::shared_ptr<qint64> m_stored = std::make_shared<qint64>(0);
     qint64 m_readPosition = 0;
     /// The end of what is stored, in memory or in the file.
     qint64 m_writePosition = 0;

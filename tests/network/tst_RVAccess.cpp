@@ -121,6 +121,20 @@ private Q_SLOTS:
         QCOMPARE(manager.bodyLimit, qint64(4711));
     }
 
+    void transfersOfCopiesAreCountedTogether()
+    {
+        const RVAccess access;
+        const RVAccess copy = access;
+        XNetworkAccessManager one;
+        XNetworkAccessManager other;
+        access.configure(&one, QUrl(QStringLiteral("http://h/")));
+        copy.configure(&other, QUrl(QStringLiteral("ftp://h/")));
+        QVERIFY(one.stored);
+        QCOMPARE(one.stored, other.stored);
+        const RVAccess another;
+        QVERIFY(another.stored != access.stored);
+    }
+
     void copiesShareTheKeyring()
     {
         const RVAccess access;

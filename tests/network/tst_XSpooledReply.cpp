@@ -264,6 +264,38 @@ private Q_SLOTS:
         QCOMPARE(::umount(place.constData()), 0);
     }
 
+    void bodiesShareALimit()
+    {
+        constexpr int size = 2 * mebibyte;
+        const auto stored = std::make_shared<qint64>(XSpooledReply::storedLimit - 3 * size);
+        const qint64 before = *stored;
+        std::vector<std::unique_ptr<Reply>> replies;
+        for (int i = 0; i < 4; ++i) {
+            replies.push_back(std::make_unique<Reply>());
+            replies.back()->setStored(stored);
+            QCOMPARE(replies.back()->append(pattern(0, size), -1), i < 3);
+        }
+        QCOMPARE(*stored, XSpooledReply::storedLimit);
+        QCOMPARE(replies[3]->error(), QNetworkReply::UnknownNetworkError);
+        QCOMPARE(replies[3]->stops, 1);
+        QVERIFY(!replies[2]->append("x", -1));
+        QCOMPARE(replies[2]->error(), QNetworkReply::UnknownNetworkError);
+        // What is in memory does not count.
+        Reply small;
+        small.setStored(stored);
+        QVERIFY(small.append(pattern(0, mebibyte), -1));
+
+        // Room comes back when a body is read, dropped, or goes with its reply.
+        replies[0]->end();
+        QCOMPARE(replies[0]->readAll(), pattern(0, size));
+        QCOMPARE(*stored, XSpooledReply::storedLimit - size);
+        replies[1]->close();
+        QCOMPARE(*stored, XSpooledReply::storedLimit - 2 * size);
+        replies.clear();
+        QCOMPARE(*stored, before);
+        QVERIFY(small.append(pattern(0, size), -1));
+    }
+
     void missingDirectoryEndsIt()
     {
         const QByteArray before = qgetenv("TMPDIR");
