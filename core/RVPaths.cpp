@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "core/RVPaths.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSettings>
+
+#include <unistd.h>
 
 RVPaths RVPaths::under(const QString &root)
 {
@@ -12,7 +15,7 @@ RVPaths RVPaths::under(const QString &root)
          {&paths.imageId, &paths.servicePackDir, &paths.hardwareTool, &paths.definitionDir,
           &paths.packageDatabase, &paths.rootLog, &paths.userLog, &paths.xarInstaller,
           &paths.rebootTool, &paths.etcDir, &paths.writableDir, &paths.keyringDir, &paths.stateDir,
-          &paths.writableStateDir}) {
+          &paths.writableStateDir, &paths.runDir}) {
         path->prepend(root);
     }
     paths.userStateDir = root + QStringLiteral("/.local/state/ravel");
@@ -39,4 +42,28 @@ RVPaths RVPaths::enterRoot(const QString &root)
 bool RVPaths::isEtcReadOnly() const
 {
     return QFileInfo(etcDir).isSymLink() && QFileInfo(writableDir).isDir();
+}
+
+QString RVPaths::stateFolder() const
+{
+    if (::geteuid() == 0) {
+        return isEtcReadOnly() ? writableStateDir : stateDir;
+    }
+    if (!userStateDir.isEmpty()) {
+        return userStateDir;
+    }
+    const QString home = qEnvironmentVariable("XDG_STATE_HOME");
+    return (QDir::isAbsolutePath(home) ? home : QDir::homePath() + QStringLiteral("/.local/state"))
+        + QStringLiteral("/ravel");
+}
+
+QString RVPaths::runFolder() const
+{
+    if (::geteuid() == 0) {
+        return runDir;
+    }
+    const QString run = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return userStateDir.isEmpty() && QDir::isAbsolutePath(run)
+        ? run + QStringLiteral("/ravel")
+        : stateFolder() + QStringLiteral("/run");
 }

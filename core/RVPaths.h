@@ -29,12 +29,13 @@ struct RVPaths {
     QString writableDir = QStringLiteral("/writable");
     /// The keyrings that definitions name.
     QString keyringDir = QStringLiteral("/etc/cvtc-ravel/keys");
-    /// What a program of root's remembers of signed repositories; the second where /etc is
-    /// read-only.
+    /// What a program of root's remembers; the second where /etc is read-only.
     QString stateDir = QStringLiteral("/var/lib/ravel");
     QString writableStateDir = QStringLiteral("/writable/ravel");
     /// The same of any other user's program; empty means the one of the running user.
     QString userStateDir;
+    /// What concerns a running installation of root's.
+    QString runDir = QStringLiteral("/run/ravel");
     /// Belong to the running program and not to the system that it updates: under() leaves them.
     QString shell = QStringLiteral("/bin/bash");
     QString trueTool = QStringLiteral("/bin/true");
@@ -50,6 +51,10 @@ struct RVPaths {
     static RVPaths under(const QString &root);
     /// Whether the system keeps what changes in writableDir, because /etc is read-only.
     bool isEtcReadOnly() const;
+    /// Where a program of the running user keeps what it remembers, and what concerns its running
+    /// installation.
+    QString stateFolder() const;
+    QString runFolder() const;
     /// under() for a program that works on `root` alone: its settings are read and stored there
     /// too, and the package tool finds its own configuration there.
     static RVPaths enterRoot(const QString &root);

@@ -2,15 +2,15 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "repository/RVTrustState.h"
 
+#include "core/RVOwnFolder.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 
 #include <cerrno>
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace
 {
@@ -52,74 +52,6 @@ QString shown(qint64 seconds)
     return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate);
 }
 
-/// The open folder, made where it is missing; nobody else may put a file there.
-class Folder
-{
-public:
-    explicit Folder(const QString &path)
-    {
-        QDir().mkpath(QFileInfo(path).path());
-        const QByteArray name = QFile::encodeName(path);
-        if (::mkdir(name.constData(), 0700) != 0 && errno != EEXIST) {
-            return;
-        }
-        m_handle = ::open(name.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-        struct stat status = {};
-        if (m_handle >= 0
-            && (::fstat(m_handle, &status) != 0 || status.st_uid != ::geteuid()
-                || (status.st_mode & (S_IWGRP | S_IWOTH)) != 0)) {
-            ::close(m_handle);
-            m_handle = -1;
-            errno = EPERM;
-        }
-    }
-    ~Folder()
-    {
-        if (m_handle >= 0) {
-            ::close(m_handle);
-        }
-    }
-
-    /// False with errno.
-    bool isOpen() const { return m_handle >= 0; }
-    bool write(const QByteArray &name, const QByteArray &text) const;
-    bool remove(const QByteArray &name) const
-    {
-        return ::unlinkat(m_handle, name.constData(), 0) == 0 || errno == ENOENT;
-    }
-
-private:
-    Q_DISABLE_COPY_MOVE(Folder)
-
-    int m_handle = -1;
-};
-
-bool Folder::write(const QByteArray &name, const QByteArray &text) const
-{
-    const QByteArray part = '.' + name + ".part";
-    if (!remove(part)) {
-        return false;
-    }
-    const int file = ::openat(m_handle, part.constData(),
-                              O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
-    if (file < 0) {
-        return false;
-    }
-    const bool isStored =
-        ::write(file, text.constData(), static_cast<size_t>(text.size())) == text.size()
-        && ::fsync(file) == 0;
-    ::close(file);
-    // The name last: after a loss of power it stands for what is on the disk.
-    if (isStored && ::renameat(m_handle, part.constData(), m_handle, name.constData()) == 0
-        && ::fsync(m_handle) == 0) {
-        return true;
-    }
-    const int error = errno;
-    remove(part);
-    errno = error;
-    return false;
-}
-
 } // namespace
 
 RVClock RVClock::now()
@@ -128,22 +60,9 @@ RVClock RVClock::now()
 }
 
 RVTrustState::RVTrustState(const RVPaths &paths, const RVClock &clock)
-    : m_folder(folder(paths))
+    : m_folder(paths.stateFolder())
     , m_clock(clock)
 {
-}
-
-QString RVTrustState::folder(const RVPaths &paths)
-{
-    if (::geteuid() == 0) {
-        return paths.isEtcReadOnly() ? paths.writableStateDir : paths.stateDir;
-    }
-    if (!paths.userStateDir.isEmpty()) {
-        return paths.userStateDir;
-    }
-    const QString home = qEnvironmentVariable("XDG_STATE_HOME");
-    return (QDir::isAbsolutePath(home) ? home : QDir::homePath() + QStringLiteral("/.local/state"))
-        + QStringLiteral("/ravel");
 }
 
 bool RVTrustState::read(const QString &repositoryId, const QString &keyring,
@@ -240,9 +159,9 @@ bool RVTrustState::remember(const QString &repositoryId, const QString &keyring,
             return true;
         }
     }
-    const Folder folder(m_folder);
+    const RVOwnFolder folder(m_folder);
     if (folder.isOpen()
-        && folder.write(QFile::encodeName(fileName(repositoryId, keyring)), toText(next))) {
+        && folder.replaceFile(QFile::encodeName(fileName(repositoryId, keyring)), toText(next))) {
         return true;
     }
     *reason = QStringLiteral("'%1': %2").arg(m_folder, qt_error_string(errno));
@@ -254,8 +173,8 @@ bool RVTrustState::forget(const QString &repositoryId, const QString &keyring, Q
     if (!QFileInfo::exists(m_folder)) {
         return true;
     }
-    const Folder folder(m_folder);
-    if (folder.isOpen() && folder.remove(QFile::encodeName(fileName(repositoryId, keyring)))) {
+    const RVOwnFolder folder(m_folder);
+    if (folder.isOpen() && folder.removeFile(QFile::encodeName(fileName(repositoryId, keyring)))) {
         return true;
     }
     *reason = QStringLiteral("'%1': %2").arg(m_folder, qt_error_string(errno));

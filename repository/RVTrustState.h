@@ -43,9 +43,6 @@ public:
 
     explicit RVTrustState(const RVPaths &paths, const RVClock &clock = RVClock::now());
 
-    /// Where the running user's programs keep it.
-    static QString folder(const RVPaths &paths);
-
     /// Whether a list, whose signature is good, is the newest one and still valid.
     RVTrustFault judge(const QString &repositoryId, const QString &keyring, const Seen &list,
                        const QDateTime &validUntil) const;

@@ -1,8 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "core/RVPaths.h"
+#include "tests/support/FakeRoot.h"
+#include "tests/support/OrdinaryUser.h"
 
+#include <QDir>
 #include <QTest>
+
+#include <unistd.h>
 
 class tst_RVPaths : public QObject
 {
@@ -13,6 +18,8 @@ private Q_SLOTS:
     void paths();
     void packageDatabase();
     void installerEnvironment();
+    void stateFolder();
+    void runFolder();
 };
 
 using Field = QString RVPaths::*;
@@ -41,6 +48,7 @@ void tst_RVPaths::paths_data()
     row("keyrings", &RVPaths::keyringDir, "/etc/cvtc-ravel/keys", true);
     row("root's state", &RVPaths::stateDir, "/var/lib/ravel", true);
     row("root's state on a read-only system", &RVPaths::writableStateDir, "/writable/ravel", true);
+    row("root's running installation", &RVPaths::runDir, "/run/ravel", true);
     row("gpgv", &RVPaths::signatureTool, "/usr/bin/gpgv", false);
     row("shell", &RVPaths::shell, "/bin/bash", false);
     row("true", &RVPaths::trueTool, "/bin/true", false);
@@ -70,6 +78,46 @@ void tst_RVPaths::installerEnvironment()
     const QStringList expected{QStringLiteral("DPKG_ROOT=/srv/x"),
                                QStringLiteral("DPKG_FORCE=not-root,script-chrootless,bad-path")};
     QCOMPARE(RVPaths::under(QStringLiteral("/srv/x")).installerEnvironment, expected);
+}
+
+void tst_RVPaths::stateFolder()
+{
+    const bool isRoot = ::geteuid() == 0;
+    const FakeRoot root;
+    const RVPaths &paths = root.paths();
+    QCOMPARE(paths.stateFolder(),
+             root.path() + QLatin1String(isRoot ? "/var/lib/ravel" : "/.local/state/ravel"));
+    QVERIFY(QDir().mkpath(paths.writableDir + QStringLiteral("/etc")));
+    QCOMPARE(paths.stateFolder().contains(QStringLiteral("writable")), false);
+    QVERIFY(QDir().rename(paths.etcDir, paths.etcDir + QStringLiteral(".real")));
+    QVERIFY(QFile::link(paths.etcDir + QStringLiteral(".real"), paths.etcDir));
+    QCOMPARE(paths.stateFolder(),
+             root.path() + QLatin1String(isRoot ? "/writable/ravel" : "/.local/state/ravel"));
+
+    const QString check = OrdinaryUser::run(QStringLiteral("/"), []() -> QString {
+        qputenv("XDG_STATE_HOME", "/srv/state");
+        const QString given = RVPaths().stateFolder();
+        qputenv("XDG_STATE_HOME", "relative");
+        qputenv("HOME", "/home/somebody");
+        return given + QLatin1Char(' ') + RVPaths().stateFolder();
+    });
+    QCOMPARE(check, QStringLiteral("/srv/state/ravel /home/somebody/.local/state/ravel"));
+}
+
+void tst_RVPaths::runFolder()
+{
+    const FakeRoot root;
+    QCOMPARE(root.paths().runFolder(),
+             root.path()
+                 + QLatin1String(::geteuid() == 0 ? "/run/ravel" : "/.local/state/ravel/run"));
+    const QString check = OrdinaryUser::run(QStringLiteral("/"), []() -> QString {
+        qputenv("XDG_STATE_HOME", "/srv/state");
+        qputenv("XDG_RUNTIME_DIR", "/run/user/7");
+        const QString given = RVPaths().runFolder();
+        qputenv("XDG_RUNTIME_DIR", "relative");
+        return given + QLatin1Char(' ') + RVPaths().runFolder();
+    });
+    QCOMPARE(check, QStringLiteral("/run/user/7/ravel /srv/state/ravel/run"));
 }
 
 QTEST_APPLESS_MAIN(tst_RVPaths)

@@ -156,7 +156,7 @@ void tst_RVTrust::nothingMoreWithoutTheElements()
     QCOMPARE(m_world->server.requests().size(), 3);
     QCOMPARE(m_world->requests("SHA256SUMS"), 0);
     QVERIFY(!repository->trust());
-    QVERIFY(!QDir(RVTrustState::folder(m_world->paths)).exists());
+    QVERIFY(!QDir(m_world->paths.stateFolder()).exists());
 }
 
 void tst_RVTrust::signedRepository()
@@ -218,7 +218,7 @@ void tst_RVTrust::sumsAlone()
     QCOMPARE(names(*repository), QStringList{QStringLiteral("a")});
     QCOMPARE(verdictOf(*repository, "b.deb").reason, RVEligibility::NotListed);
     QCOMPARE(m_world->requests("SHA256SUMS.gpg"), 0);
-    QVERIFY(!QDir(RVTrustState::folder(m_world->paths)).exists());
+    QVERIFY(!QDir(m_world->paths.stateFolder()).exists());
 
     m_world->lose("SHA256SUMS");
     QVERIFY(refresh(repository.get()));
@@ -320,7 +320,7 @@ void tst_RVTrust::refused_data()
     });
     row("a damaged memory", F::State, [](SignedWorld *world) {
         FakeRoot::write(
-            RVTrustState::folder(world->paths)
+            world->paths.stateFolder()
                 + QStringLiteral("/%1@%2.seen").arg(SignedWorld::id, SignedWorld::keyring),
             "?");
     });
@@ -497,13 +497,13 @@ void tst_RVTrust::readingRemembersNothing()
     repository->setRememberingTrust(false);
     QVERIFY(refresh(repository.get()));
     QVERIFY(!repository->trustFault().isSet());
-    QVERIFY(!QDir(RVTrustState::folder(m_world->paths)).exists());
+    QVERIFY(!QDir(m_world->paths.stateFolder()).exists());
 }
 
 void tst_RVTrust::readOnlyState()
 {
     QVERIFY(obeyFilePermissions());
-    const QString folder = RVTrustState::folder(m_world->paths);
+    const QString folder = m_world->paths.stateFolder();
     QVERIFY(QDir().mkpath(folder));
     QVERIFY(::chmod(QFile::encodeName(folder).constData(), 0500) == 0);
     const auto repository = m_world->repository(m_world->policy());

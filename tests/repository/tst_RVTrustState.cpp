@@ -42,7 +42,6 @@ class tst_RVTrustState : public QObject
 private Q_SLOTS:
     void initTestCase();
     void init();
-    void folder();
     void judge_data();
     void judge();
     void remembersTheHighest();
@@ -65,8 +64,7 @@ private:
     }
     QString file() const
     {
-        return RVTrustState::folder(m_root->paths())
-            + QStringLiteral("/%1@%2.seen").arg(id, keyring);
+        return m_root->paths().stateFolder() + QStringLiteral("/%1@%2.seen").arg(id, keyring);
     }
     void remember(const RVTrustState::Seen &list)
     {
@@ -88,29 +86,6 @@ void tst_RVTrustState::initTestCase()
 void tst_RVTrustState::init()
 {
     m_root = std::make_unique<FakeRoot>();
-}
-
-void tst_RVTrustState::folder()
-{
-    const bool isRoot = ::geteuid() == 0;
-    const RVPaths &paths = m_root->paths();
-    QCOMPARE(RVTrustState::folder(paths),
-             m_root->path() + QLatin1String(isRoot ? "/var/lib/ravel" : "/.local/state/ravel"));
-    QVERIFY(QDir().mkpath(paths.writableDir + QStringLiteral("/etc")));
-    QCOMPARE(RVTrustState::folder(paths).contains(QStringLiteral("writable")), false);
-    QVERIFY(QDir().rename(paths.etcDir, paths.etcDir + QStringLiteral(".real")));
-    QVERIFY(QFile::link(paths.etcDir + QStringLiteral(".real"), paths.etcDir));
-    QCOMPARE(RVTrustState::folder(paths),
-             m_root->path() + QLatin1String(isRoot ? "/writable/ravel" : "/.local/state/ravel"));
-
-    const QString check = OrdinaryUser::run(QStringLiteral("/"), []() -> QString {
-        qputenv("XDG_STATE_HOME", "/srv/state");
-        const QString given = RVTrustState::folder(RVPaths());
-        qputenv("XDG_STATE_HOME", "relative");
-        qputenv("HOME", "/home/somebody");
-        return given + QLatin1Char(' ') + RVTrustState::folder(RVPaths());
-    });
-    QCOMPARE(check, QStringLiteral("/srv/state/ravel /home/somebody/.local/state/ravel"));
 }
 
 void tst_RVTrustState::judge_data()
