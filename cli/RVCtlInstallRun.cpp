@@ -72,19 +72,18 @@ bool RVCtlInstallRun::awaitDatabase(QString *error)
     QElapsedTimer waiting;
     waiting.start();
     bool isTold = false;
-    QString holder;
-    while (!(holder = database.lockHolder()).isEmpty()) {
+    RVLockHolder holder;
+    while ((holder = database.lockHolder()).isSet) {
+        const QString locked = RVPackageDatabase::lockedBy(holder).english();
         if (m_call.deadline.isOver()) {
             return false;
         }
         if (waiting.elapsed() >= qint64(m_lockTimeoutSeconds) * 1000) {
-            *error = QStringLiteral("The package database is locked by %1.").arg(holder);
+            *error = locked;
             return false;
         }
         if (!isTold) {
-            m_call.messages.note(
-                QStringLiteral("Waiting for the package database, which is locked by %1...")
-                    .arg(holder));
+            m_call.messages.note(QStringLiteral("Waiting for the package database: ") + locked);
             isTold = true;
         }
         QEventLoop loop;

@@ -13,15 +13,8 @@
 namespace
 {
 
-QString processName(pid_t process)
-{
-    QFile file(QStringLiteral("/proc/%1/comm").arg(process));
-    return file.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(file.readAll()).trimmed()
-                                          : QString();
-}
-
 /// The holder of a lock of the kind that dpkg takes: a write lock on the whole file.
-QString holderOf(const QString &file)
+RVLockHolder holderOf(const QString &file)
 {
     // A pipe that somebody put there would be waited for.
     const int handle =
@@ -37,13 +30,7 @@ QString holderOf(const QString &file)
     if (!isAnswered || lock.l_type == F_UNLCK) {
         return {};
     }
-    if (lock.l_pid <= 0) {
-        // Of another container, or of a file that several processes share.
-        return QStringLiteral("another process");
-    }
-    const QString name = processName(lock.l_pid);
-    return name.isEmpty() ? QStringLiteral("process %1").arg(lock.l_pid)
-                          : QStringLiteral("%1 (process %2)").arg(name).arg(lock.l_pid);
+    return RVLockHolder::ofProcess(lock.l_pid);
 }
 
 } // namespace
@@ -54,14 +41,30 @@ RVPackageDatabase::RVPackageDatabase(const RVPaths &paths)
 {
 }
 
-QString RVPackageDatabase::lockHolder() const
+RVLockHolder RVPackageDatabase::lockHolder() const
 {
-    QString holder;
+    RVLockHolder holder;
     // Who runs us as a front end says so, and holds that lock for us.
     if (qEnvironmentVariableIsEmpty("DPKG_FRONTEND_LOCKED")) {
         holder = holderOf(m_adminDir + QLatin1String("/lock-frontend"));
     }
-    return holder.isEmpty() ? holderOf(m_adminDir + QLatin1String("/lock")) : holder;
+    return !holder.isSet ? holderOf(m_adminDir + QLatin1String("/lock")) : holder;
+}
+
+RVSentence RVPackageDatabase::lockedBy(const RVLockHolder &holder)
+{
+    const QString process = QString::number(holder.process);
+    if (holder.process <= 0) {
+        return RVSentence(
+            QT_TRANSLATE_NOOP("RVSentence", "The package database is locked by another process."));
+    }
+    return holder.program.isEmpty()
+        ? RVSentence(
+            QT_TRANSLATE_NOOP("RVSentence", "The package database is locked by process %1."),
+            {process})
+        : RVSentence(
+            QT_TRANSLATE_NOOP("RVSentence", "The package database is locked by %1 (process %2)."),
+            {holder.program, process});
 }
 
 bool RVPackageDatabase::hasJournal() const

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "core/RVPaths.h"
+#include "core/RVSentence.h"
+#include "install/RVLockHolder.h"
 
 #include <QString>
 #include <QStringList>
@@ -14,9 +16,10 @@ class RVPackageDatabase
 public:
     explicit RVPackageDatabase(const RVPaths &paths);
 
-    /// Who holds a lock that dpkg takes: "apt-get (process 4711)"; empty when nobody does, or when
-    /// the locks may not be looked at.
-    QString lockHolder() const;
+    /// Who holds a lock that dpkg takes; not set when nobody does, or when the locks may not be
+    /// looked at.
+    RVLockHolder lockHolder() const;
+    static RVSentence lockedBy(const RVLockHolder &holder);
     /// Whether the journal of an interrupted run is left.
     bool hasJournal() const;
     /// The packages that are neither installed nor gone, "NAME is half-installed"; those named in
