@@ -15,6 +15,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <sys/stat.h>
 
 /// What real web servers list is what lies in the directory, whatever it is called, and each entry
 /// leads back to its file.
@@ -93,7 +94,9 @@ bool writeRaw(const QByteArray &path, const QByteArray &content)
 {
     FILE *file = std::fopen(path.constData(), "wb");
     const auto size = static_cast<size_t>(content.size());
-    const bool written = file && std::fwrite(content.constData(), 1, size, file) == size;
+    // The server is not who runs the test.
+    const bool written = file && ::fchmod(::fileno(file), 0644) == 0
+        && std::fwrite(content.constData(), 1, size, file) == size;
     return file && std::fclose(file) == 0 && written;
 }
 
@@ -192,7 +195,7 @@ QUrl tst_WebListing::startServer(const QString &kind)
         m_manager->setProxy(
             QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), m_proxy->port()));
     }
-    QDir(m_server->root()).mkdir(folder());
+    ServerProcess::makeOpenFolder(m_server->root() + QLatin1Char('/') + folder());
     const QString path = QStringLiteral("/up%20dates%20%2520/");
     return hasTls ? static_cast<NginxServer &>(*m_server).tlsUrl(path) : m_server->url(path);
 }
@@ -230,7 +233,7 @@ void tst_WebListing::listsWhatIsThere()
         QVERIFY(writeRaw(QFile::encodeName(directory) + name, contentOf(name)));
         written.insert(contentOf(name));
     }
-    QVERIFY(QDir(directory).mkdir(QStringLiteral("sub 1")));
+    ServerProcess::makeOpenFolder(directory + QStringLiteral("/sub 1"));
 
     const XNetworkReply *reply = list(url);
     QCOMPARE(reply->error(), QNetworkReply::NoError);
