@@ -43,8 +43,7 @@ QString toText(const RVCtlOffers::Entry &entry)
         {QStringLiteral("Name"), RVText::shortened(entry.name(), longestText)},
         {QStringLiteral("Title"), RVText::shortened(entry.title(), longestText)},
         {QStringLiteral("Version"), RVText::shortened(entry.version(), longestText)},
-        {QStringLiteral("Installed"),
-         entry.proposal.installed.isEmpty() ? QStringLiteral("none") : entry.proposal.installed},
+        {QStringLiteral("Installed"), entry.installed()},
         {QStringLiteral("Offered"),
          entry.isOffered() ? QStringLiteral("yes")
                            : QStringLiteral("no: ") + reasonWord(entry.reason)},

@@ -63,10 +63,21 @@ QString RVCtlOffers::Entry::version() const
     return description ? DataXML::plainText(description->version().toString()) : QString();
 }
 
+QString RVCtlOffers::Entry::installed() const
+{
+    if (proposal.current == RVProposal::NotConfigured) {
+        return QStringLiteral("not configured");
+    }
+    return proposal.installed.isEmpty() ? QStringLiteral("none") : proposal.installed;
+}
+
 QString RVCtlOffers::Entry::state() const
 {
     if (!description || proposal.upToDate) {
         return description ? QStringLiteral("current") : QString();
+    }
+    if (proposal.current == RVProposal::NotConfigured) {
+        return QStringLiteral("not-configured");
     }
     return proposal.installed.isEmpty() ? QStringLiteral("new") : QStringLiteral("update");
 }

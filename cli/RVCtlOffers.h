@@ -38,7 +38,9 @@ public:
         QString englishName() const;
         QString title() const;
         QString version() const;
-        /// "new", "update" or "current".
+        /// The installed version, "none" or "not configured".
+        QString installed() const;
+        /// "new", "update", "not-configured" or "current".
         QString state() const;
         QJsonObject toJson() const;
     };

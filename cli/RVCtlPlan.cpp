@@ -21,10 +21,7 @@ QString toText(const RVCtlBatch &plan)
     }
     QVector<QStringList> rows;
     for (const RVCtlOffers::Entry &entry : plan.updates) {
-        rows.append(
-            {entry.name(),
-             entry.proposal.installed.isEmpty() ? QStringLiteral("none") : entry.proposal.installed,
-             entry.version()});
+        rows.append({entry.name(), entry.installed(), entry.version()});
     }
     QString text = RVCtlText::table(
         {QStringLiteral("UPDATE"), QStringLiteral("INSTALLED"), QStringLiteral("OFFERED")}, rows);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "core/OSInfo.h"
 
-#include "core/AptErrors.h"
+#include "core/RVInstalledPackages.h"
 #include "core/RVLogger.h"
 
 #include <QDir>
@@ -10,18 +10,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
-#include <QSet>
-
-#include <apt-pkg/cmndline.h>
-#include <apt-pkg/configuration.h>
-#include <apt-pkg/init.h>
-#include <apt-pkg/mmap.h>
-#include <apt-pkg/pkgcache.h>
-#include <apt-pkg/pkgcachegen.h>
-#include <apt-pkg/pkgsystem.h>
-#include <apt-pkg/progress.h>
 
 #include <fcntl.h>
+#include <set>
 #include <sys/stat.h>
 
 namespace
@@ -93,40 +84,7 @@ QString runHardwareTool(const QString &path)
     return text;
 }
 
-/// Sets the package library up, and points it at `status` or, when that is empty, at its own
-/// database.
-bool usePackageDatabase(const QString &status)
-{
-    static bool configured = false;
-    static std::string ownStatus;
-    if (!configured) {
-        CommandLine commandLine(nullptr, _config);
-        const char *arguments[] = {"OSInfo", nullptr};
-        if (!pkgInitConfig(*_config) || !commandLine.Parse(1, arguments)
-            || !pkgInitSystem(*_config, _system)) {
-            return false;
-        }
-        ownStatus = _config->FindFile("Dir::State::status");
-        configured = true;
-    }
-    // The library keeps the database that it was set up for until it is set up again.
-    _config->Set("Dir::State::status",
-                 status.isEmpty() ? ownStatus : QFile::encodeName(status).toStdString());
-    return pkgInitSystem(*_config, _system);
-}
-
 } // namespace
-
-struct OSInfo::PackageCache {
-    explicit PackageCache(std::unique_ptr<MMap> cacheMap)
-        : map(std::move(cacheMap))
-        , cache(map.get())
-    {
-    }
-
-    std::unique_ptr<MMap> map;
-    pkgCache cache;
-};
 
 OSInfo::OSInfo(QObject *parent, const RVPaths &paths)
     : OSInfoBaseClass(parent)
@@ -154,34 +112,18 @@ QList<VersionString> OSInfo::servicePackList() const
 
 QString OSInfo::versionInstalled(const QString &packageName) const
 {
-    if (!m_packages) {
-        return QString();
-    }
-    const AptErrors errors;
-    const std::string name = packageName.toLatin1().toStdString();
-    // Below another root the device's packages are foreign to the library, which looks among the
-    // native ones; packages for all architectures count as native.
-    pkgCache &cache = m_packages->cache;
-    for (const pkgCache::PkgIterator &package :
-         {cache.FindPkg(name, m_arch.toStdString()), cache.FindPkg(name)}) {
-        if (!package.end() && !package.CurrentVer().end()) {
-            return QString::fromUtf8(package.CurrentVer().VerStr());
-        }
-    }
-    return QString();
+    const RVInstalledPackages::Package package = m_packages->package(packageName);
+    return package.state == RVInstalledPackages::State::Installed ? package.version : QString();
+}
+
+bool OSInfo::isNotConfigured(const QString &packageName) const
+{
+    return m_packages->package(packageName).state == RVInstalledPackages::State::NotConfigured;
 }
 
 int OSInfo::installedPackageCount() const
 {
-    if (!m_packages) {
-        return -1;
-    }
-    const AptErrors errors;
-    int count = 0;
-    for (pkgCache::PkgIterator package = m_packages->cache.PkgBegin(); !package.end(); ++package) {
-        count += package.CurrentVer().end() ? 0 : 1;
-    }
-    return count;
+    return m_packages->count();
 }
 
 QString OSInfo::architecture() const
@@ -197,8 +139,15 @@ QString OSInfo::thinClient() const
 void OSInfo::refresh()
 {
     readImageId();
-    readServicePacks();
-    readPackageCache();
+    m_servicePacks = servicePacks(m_paths);
+    RVLogger logger;
+    logger.log(5, "Service Pack List:");
+    for (const VersionString &servicePack : qAsConst(m_servicePacks)) {
+        logger.log(5, "    -> %s", qUtf8Printable(servicePack.toString()));
+    }
+    // Two of them at a time take twice the memory.
+    m_packages.reset();
+    m_packages = std::make_unique<RVInstalledPackages>(m_paths, m_arch);
 }
 
 void OSInfo::readThinClientModel()
@@ -217,16 +166,16 @@ void OSInfo::readImageId()
     RVLogger().log(5, "Base OS: %s", qUtf8Printable(m_baseOS.toString()));
 }
 
-void OSInfo::readServicePacks()
+QList<VersionString> OSInfo::servicePacks(const RVPaths &paths)
 {
-    m_servicePacks.clear();
-    QSet<QString> known;
-    const QDir dir(m_paths.servicePackDir);
+    QList<VersionString> result;
+    std::set<QString> known;
+    const QDir dir(paths.servicePackDir);
     const QStringList names = dir.entryList(
         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
     for (const QString &name : names) {
         QByteArray contents;
-        if (!readFile(m_paths.servicePackDir + QLatin1Char('/') + name, &contents)) {
+        if (!readFile(paths.servicePackDir + QLatin1Char('/') + name, &contents)) {
             continue;
         }
         QList<QByteArray> lines = contents.split('\n');
@@ -236,37 +185,10 @@ void OSInfo::readServicePacks()
         }
         for (const QByteArray &line : qAsConst(lines)) {
             const QString text = decoded(line);
-            if (!known.contains(text)) {
-                known.insert(text);
-                m_servicePacks.append(VersionString(text));
+            if (known.insert(text).second) {
+                result.append(VersionString(text));
             }
         }
     }
-    RVLogger logger;
-    logger.log(5, "Service Pack List:");
-    for (const VersionString &servicePack : qAsConst(m_servicePacks)) {
-        logger.log(5, "    -> %s", qUtf8Printable(servicePack.toString()));
-    }
-}
-
-void OSInfo::readPackageCache()
-{
-    m_packages.reset();
-    const AptErrors errors;
-    if (!usePackageDatabase(m_paths.packageStatus)) {
-        return;
-    }
-    // Only what is installed is asked for: the cache of the package sources would take a hundred
-    // times as long and answer the same.
-    OpProgress silentProgress;
-    DynamicMMap *made = nullptr;
-    const bool good = pkgCacheGenerator::MakeOnlyStatusCache(&silentProgress, &made);
-    std::unique_ptr<MMap> map(made);
-    if (!good || !map) {
-        return;
-    }
-    m_packages = std::make_unique<PackageCache>(std::move(map));
-    if (errors.any()) {
-        m_packages.reset();
-    }
+    return result;
 }

@@ -7,6 +7,8 @@
 
 #include <memory>
 
+class RVInstalledPackages;
+
 /// The running system: its image, service packs, hardware model and package database.
 /// Construction waits at most a second, for the hardware tool.
 class OSInfo : public OSInfoBaseClass
@@ -22,26 +24,26 @@ public:
     VersionString baseOSName() const override;
     QList<VersionString> servicePackList() const override;
     QString versionInstalled(const QString &packageName) const override;
+    bool isNotConfigured(const QString &packageName) const override;
     QString architecture() const override;
     QString thinClient() const override;
-    /// How many packages are installed; -1 when the package database cannot be read.
+    /// What the service-pack files say, each pack once.
+    static QList<VersionString> servicePacks(const RVPaths &paths);
+    /// How many packages are installed, configured or not; -1 when the package database cannot be
+    /// read.
     int installedPackageCount() const;
 
 public Q_SLOTS:
     void refresh() override;
 
 private:
-    struct PackageCache;
-
     void readThinClientModel();
     void readImageId();
-    void readServicePacks();
-    void readPackageCache();
 
     const RVPaths m_paths;
     VersionString m_baseOS;
     QList<VersionString> m_servicePacks;
-    std::unique_ptr<PackageCache> m_packages;
+    std::unique_ptr<RVInstalledPackages> m_packages;
     QString m_arch;
     QString m_thinClientModel;
 };

@@ -8,3 +8,9 @@ OSInfoBaseClass::OSInfoBaseClass(QObject *parent)
 }
 
 OSInfoBaseClass::~OSInfoBaseClass() = default;
+
+bool OSInfoBaseClass::isNotConfigured(const QString &packageName) const
+{
+    Q_UNUSED(packageName)
+    return false;
+}

@@ -24,10 +24,14 @@ public:
 
     virtual VersionString baseOSName() const = 0;
     virtual QList<VersionString> servicePackList() const = 0;
-    /// The installed version of a package (epoch and revision included), or the empty text.
+    /// The installed version of a package (epoch and revision included), or the empty text, also of
+    /// one that was not configured.
     virtual QString versionInstalled(const QString &packageName) const = 0;
     virtual QString architecture() const = 0;
     virtual QString thinClient() const = 0;
     /// Reads everything again.
     virtual void refresh() = 0;
+    /// Whether an installation of the package began and did not come to its end: it is not
+    /// installed, and not gone either.
+    virtual bool isNotConfigured(const QString &packageName) const;
 };

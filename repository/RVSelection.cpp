@@ -12,11 +12,14 @@ RVProposal proposal(const DescriptorGeneric &descriptor, const OSInfoBaseClass *
 {
     RVProposal result;
     if (system) {
-        result.installed = system->versionInstalled(descriptor.name(QStringLiteral("en")));
-        result.current = result.installed.isEmpty() ? RVProposal::NotInstalled : RVProposal::Known;
+        const QString name = descriptor.name(QStringLiteral("en"));
+        result.installed = system->versionInstalled(name);
+        result.current = !result.installed.isEmpty() ? RVProposal::Known
+            : system->isNotConfigured(name)          ? RVProposal::NotConfigured
+                                                     : RVProposal::NotInstalled;
     }
-    result.upToDate =
-        VersionString(result.installed).compare(descriptor.version(), Qt::CaseSensitive) >= 0;
+    result.upToDate = result.current != RVProposal::NotConfigured
+        && VersionString(result.installed).compare(descriptor.version(), Qt::CaseSensitive) >= 0;
     result.preselected = isEligible && !result.upToDate;
     return result;
 }

@@ -14,6 +14,7 @@ struct RVProposal {
         Unknown = 0, ///< the system cannot be asked
         NotInstalled = 1,
         Known = 2,
+        NotConfigured = 3, ///< an installation began and did not come to its end
     };
 
     Installed current = Unknown;

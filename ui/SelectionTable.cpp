@@ -382,6 +382,8 @@ void SelectionTable::retranslateUi()
         ->setData(Qt::AccessibleTextRole,
                   tr("Selection", "accessible text of the column of check boxes"));
     const QString unknown = tr("unknown", "small word for 'cannot determine version installed'");
+    const QString notConfigured =
+        tr("not configured", "small words for 'its installation was not completed'");
     const QString none = tr("none", "small word for 'not currently installed'");
     // Slanted Chinese characters are hard to read.
     const bool italic =
@@ -401,7 +403,9 @@ void SelectionTable::retranslateUi()
         update->setData(Qt::AccessibleDescriptionRole, title);
         if (m_rows.at(row).current != VersionKnown) {
             QTableWidgetItem *installed = item(row, InstalledColumn);
-            const QString &word = m_rows.at(row).current == NotInstalled ? none : unknown;
+            const QString &word = m_rows.at(row).current == NotInstalled ? none
+                : m_rows.at(row).current == NotConfigured                ? notConfigured
+                                                                         : unknown;
             setVersion(installed, word);
             QFont font = installed->font();
             font.setItalic(italic && takesItalics(word));

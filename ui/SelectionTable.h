@@ -42,6 +42,7 @@ public:
         VersionUnknown = RVProposal::Unknown,
         NotInstalled = RVProposal::NotInstalled,
         VersionKnown = RVProposal::Known,
+        NotConfigured = RVProposal::NotConfigured,
     };
     enum Column {
         ChoiceColumn,

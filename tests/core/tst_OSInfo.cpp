@@ -46,6 +46,8 @@ private Q_SLOTS:
 
     void packages_data();
     void packages();
+    void packageStates_data();
+    void packageStates();
     void packagesOfAnotherArchitecture_data();
     void packagesOfAnotherArchitecture();
     void packageNamesFromAnyone();
@@ -336,12 +338,41 @@ void tst_OSInfo::packages_data()
     QTest::addColumn<QString>("version");
     QTest::newRow("installed") << QStringLiteral("editor") << QStringLiteral("2.0-1");
     QTest::newRow("with an epoch") << QStringLiteral("viewer") << QStringLiteral("1:3.4~rc1-5");
-    QTest::newRow("unpacked only") << QStringLiteral("half") << QStringLiteral("1.1");
+    QTest::newRow("unpacked only") << QStringLiteral("half") << QString();
     QTest::newRow("known but not installed") << QStringLiteral("removed") << QString();
     QTest::newRow("known by a dependency only") << QStringLiteral("needed") << QString();
     QTest::newRow("unknown") << QStringLiteral("nothing") << QString();
     QTest::newRow("empty name") << QString() << QString();
     QTest::newRow("case counts") << QStringLiteral("Editor") << QString();
+}
+
+void tst_OSInfo::packageStates_data()
+{
+    QTest::addColumn<QByteArray>("status");
+    QTest::addColumn<QString>("version");
+    QTest::addColumn<bool>("isNotConfigured");
+    const auto row = [](const char *status, const char *version, bool isNotConfigured) {
+        QTest::newRow(status) << QByteArray(status) << QString::fromLatin1(version)
+                              << isNotConfigured;
+    };
+    row("install ok installed", "1.1", false);
+    row("hold ok installed", "1.1", false);
+    row("install ok unpacked", "", true);
+    row("install ok half-configured", "", true);
+    row("install reinstreq half-installed", "", true);
+    row("install ok triggers-awaited", "", true);
+    row("install ok triggers-pending", "", true);
+    row("deinstall ok config-files", "", false);
+    row("purge ok not-installed", "", false);
+}
+
+void tst_OSInfo::packageStates()
+{
+    QFETCH(QByteArray, status);
+    m_root->addPackage("tool", "1.1", status);
+    const OSInfo info(nullptr, m_root->paths());
+    QTEST(info.versionInstalled(QStringLiteral("tool")), "version");
+    QTEST(info.isNotConfigured(QStringLiteral("tool")), "isNotConfigured");
 }
 
 void tst_OSInfo::packages()

@@ -48,8 +48,8 @@ class CheckLayers(unittest.TestCase):
 
     def test_fences(self):
         self.assertTrue(self.found({"core/RVLogger.cpp": "#include <apt-pkg/error.h>\n"}))
-        self.assertTrue(self.found({"core/OSInfo.h": "#include <apt-pkg/error.h>\n"}))
-        self.assertFalse(self.found({"core/OSInfo.cpp": "#include <apt-pkg/error.h>\n"}))
+        self.assertTrue(self.found({"core/RVInstalledPackages.h": "#include <apt-pkg/error.h>\n"}))
+        self.assertFalse(self.found({"core/RVInstalledPackages.cpp": "#include <apt-pkg/error.h>\n"}))
         self.assertTrue(self.found({"ui/A.cpp": "#include <private/qobject_p.h>\n"}))
 
     def test_circle(self):

@@ -14,6 +14,7 @@ class TestSystem : public OSInfoBaseClass
 {
 public:
     QHash<QString, QString> installed;
+    QStringList notConfigured;
 
     QString imageId;
 
@@ -23,6 +24,10 @@ public:
     QString architecture() const override { return {}; }
     QString thinClient() const override { return {}; }
     void refresh() override { }
+    bool isNotConfigured(const QString &name) const override
+    {
+        return notConfigured.contains(name);
+    }
 };
 
 RVData entryOf(const QString &name, const QString &version,
@@ -76,6 +81,8 @@ void tst_RVSelection::versions_data()
     row("not installed", "", "1.1", RVProposal::NotInstalled, true);
     row("neither has a version", "", "", RVProposal::NotInstalled, false);
     row("an offer without a version", "1.0", "", RVProposal::Known, false);
+    row("not configured", "~", "1.1", RVProposal::NotConfigured, true);
+    row("not configured, an offer without a version", "~", "", RVProposal::NotConfigured, true);
 }
 
 void tst_RVSelection::versions()
@@ -85,6 +92,10 @@ void tst_RVSelection::versions()
     QFETCH(int, current);
     QFETCH(bool, preselected);
     TestSystem system;
+    if (installed == QLatin1String("~")) {
+        installed.clear();
+        system.notConfigured.append(QStringLiteral("tool"));
+    }
     system.installed.insert(QStringLiteral("tool"), installed);
     const QVector<RVProposal> result =
         proposals({entryOf(QStringLiteral("tool"), offered)}, &system, false);

@@ -24,8 +24,13 @@ public:
     QString architecture() const override { return QStringLiteral("armel"); }
     QString thinClient() const override { return QStringLiteral("X90"); }
     void refresh() override { ++refreshes; }
+    bool isNotConfigured(const QString &packageName) const override
+    {
+        return notConfigured.contains(packageName);
+    }
 
     QHash<QString, QString> installed;
+    QStringList notConfigured;
     QList<VersionString> servicePacks;
     int refreshes = 0;
 };

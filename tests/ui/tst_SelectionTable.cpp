@@ -138,6 +138,7 @@ private Q_SLOTS:
     void comparesVersions_data();
     void comparesVersions();
     void asksForTheEnglishName();
+    void proposesWhatWasNotConfigured();
     void knowsNothingWithoutSystem();
     void proposesTheFirstRadioRow();
     void proposesNoRadioRowWhenTheFirstIsInstalled();
@@ -325,6 +326,16 @@ void tst_SelectionTable::asksForTheEnglishName()
     QLocale::setDefault(before);
     QCOMPARE(text(table, 0, Table::UpdateColumn), QStringLiteral("<b>Werkzeug</b><br />Title"));
     QCOMPARE(text(table, 0, Table::InstalledColumn), QStringLiteral("1"));
+}
+
+void tst_SelectionTable::proposesWhatWasNotConfigured()
+{
+    m_system->notConfigured = QStringList{QStringLiteral("a")};
+    const Table table(
+        {m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"))},
+        Table::CheckBoxes, m_system.get());
+    QCOMPARE(text(table, 0, Table::InstalledColumn), QStringLiteral("not configured"));
+    QCOMPARE(state(table, 0), Qt::Checked);
 }
 
 void tst_SelectionTable::knowsNothingWithoutSystem()
