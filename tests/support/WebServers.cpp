@@ -301,7 +301,9 @@ void SquidProxy::protect(const QString &user, const QString &password, const QSt
 
 QStringList SquidProxy::arguments() const
 {
-    return {QStringLiteral("-N"), QStringLiteral("-f"), runFile(QStringLiteral("squid.conf"))};
+    // What it keeps in shared memory bears the name of its service.
+    return {QStringLiteral("-N"), QStringLiteral("-n"), QStringLiteral("tests%1").arg(m_port),
+            QStringLiteral("-f"), runFile(QStringLiteral("squid.conf"))};
 }
 
 bool SquidProxy::configure()
