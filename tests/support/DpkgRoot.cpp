@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
 
@@ -71,7 +72,8 @@ QString DpkgRoot::build(const Package &package, const QString &file)
     }
     const QByteArray control = "Package: " + package.name.toUtf8()
         + "\nVersion: " + package.version.toUtf8()
-        + "\nArchitecture: all\nMaintainer: Ravel developers <ravel@example.org>\n" + package.fields
+        + "\nArchitecture: " + package.architecture.toUtf8()
+        + "\nMaintainer: Ravel developers <ravel@example.org>\n" + package.fields
         + "Description: package for a test\n";
     bool written = write(dir.filePath(QStringLiteral("DEBIAN/control")), control)
         && write(dir.filePath(QStringLiteral("usr/share/doc/%1/version").arg(package.name)),
@@ -80,12 +82,16 @@ QString DpkgRoot::build(const Package &package, const QString &file)
         written =
             written && write(dir.filePath(QStringLiteral("DEBIAN/") + it.key()), it.value(), true);
     }
+    for (auto it = package.files.cbegin(); it != package.files.cend(); ++it) {
+        written = written && dir.mkpath(QFileInfo(it.key()).path())
+            && write(dir.filePath(it.key()), it.value());
+    }
     if (!written) {
         return QStringLiteral("no package tree");
     }
     QProcess process;
     return run(&process, QStringLiteral("dpkg-deb"),
-               {QStringLiteral("--root-owner-group"), QStringLiteral("-Znone"),
+               {QStringLiteral("--root-owner-group"), QStringLiteral("-Z") + package.compression,
                 QStringLiteral("--build"), tree.path(), file});
 }
 

@@ -21,6 +21,11 @@ public:
         QByteArray fields = {};
         /// Maintainer scripts by name ("preinst", "postinst").
         QMap<QString, QByteArray> scripts = {};
+        /// By their paths in the package, "etc/x.conf".
+        QMap<QString, QByteArray> files = {};
+        QString architecture = QStringLiteral("all");
+        /// dpkg-deb's name of it.
+        QString compression = QStringLiteral("none");
     };
 
     DpkgRoot();
