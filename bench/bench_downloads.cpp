@@ -38,7 +38,7 @@ double peakMemory()
 
 qint64 installAs(const QUrl &url, const QString &directory)
 {
-    RVPaths paths;
+    RVPaths paths = RVPaths::under(directory);
     paths.rootLog = paths.userLog = directory + QStringLiteral("/log");
     // Nothing is installed of it.
     paths.shell = paths.trueTool;

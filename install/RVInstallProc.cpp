@@ -26,7 +26,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <unistd.h>
 #include <utility>
 
 namespace
@@ -108,11 +107,26 @@ RVInstallProc::RVInstallProc(const QList<RVData> &entries, const QString &user,
     : QProcess(parent)
     , m_entries(withArchiveOnce(entries))
     , m_batch(RVBatch::of(m_entries, nullptr))
+    , m_keeper(paths)
 {
     access.login = {user, password};
     setProcessEnvironment(installerEnvironment(paths));
     setStandardInputFile(nullDevice());
 
+    // Whichever archive starts the installer.
+    connect(this, &QProcess::stateChanged, this, [this](QProcess::ProcessState state) {
+        switch (state) {
+        case QProcess::Starting:
+            m_keeper.prepare(processChannelMode() == MergedChannels, heldLocks);
+            break;
+        case QProcess::Running:
+            m_keeper.release();
+            break;
+        case QProcess::NotRunning:
+            m_keeper.forget();
+            break;
+        }
+    });
     connect(this, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this, [this] {
         m_state = State::Ended;
     });
@@ -141,9 +155,7 @@ RVInstallProc::~RVInstallProc()
 
 void RVInstallProc::setupChildProcess()
 {
-    // The interrupt key and the end of a terminal reach everything that belongs to it, and a
-    // script that reads the terminal waits for it: the installer has none.
-    ::setsid();
+    m_keeper.keep();
 }
 
 void RVInstallProc::start()

@@ -5,6 +5,7 @@
 #include "core/RVLimits.h"
 #include "core/RVPaths.h"
 #include "install/RVBatch.h"
+#include "install/RVKeeper.h"
 #include "network/RVAccess.h"
 #include "repository/RVData.h"
 #include "repository/RVTrustFault.h"
@@ -53,9 +54,15 @@ public:
     RVAccess access;
     QString &proxyHost = access.proxyHost;
     int &proxyPort = access.proxyPort;
+    /// Written before start(): locks that hold until the installer has ended, although this program
+    /// may be gone by then.
+    QVector<int> heldLocks;
     /// Written before start(); not owned, and alive until the installation has begun. Without one a
     /// full image is never installed.
     ImageQuestion *imageQuestion = nullptr;
+
+    /// Where the installer's output is kept, or was kept last; empty when it is not.
+    const QString &outputFile() const { return m_keeper.outputFile(); }
 
     /// Why nothing was installed, where an archive is not the one that its repository lists.
     const RVTrustFault &trustFault() const { return m_trustFault; }
@@ -135,6 +142,7 @@ private:
     /// Each with an archive, no archive twice. The copies keep the archives and descriptors alive.
     const QList<RVData> m_entries;
     const RVBatch m_batch;
+    RVKeeper m_keeper;
     State m_state = State::Idle;
     QString m_previousDir;
     std::unique_ptr<TemporaryDir> m_temporaryDir;

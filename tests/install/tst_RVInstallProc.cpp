@@ -7,6 +7,7 @@
 #include "tests/support/HttpServer.h"
 #include "tests/support/InlineFtpServer.h"
 #include "tests/support/LogFile.h"
+#include "tests/support/PrivateState.h"
 #include "tests/support/TestAuthority.h"
 #include "tests/support/WarningGuard.h"
 
@@ -291,7 +292,7 @@ void tst_RVInstallProc::cleanup()
 
 RVPaths tst_RVInstallProc::installer(const QByteArray &lines)
 {
-    RVPaths paths;
+    RVPaths paths = rememberingBelow(m_dir->path());
     paths.shell = m_dir->filePath(QStringLiteral("shell"));
     if (!writeProgram(paths.shell, lines)) {
         paths.shell.clear();
@@ -464,7 +465,7 @@ void tst_RVInstallProc::startsTheInstallerAtOnce()
 {
     // A full image is never downloaded. Nobody agrees to it here, so its process ends at once.
     HttpServer server;
-    RVPaths paths;
+    RVPaths paths = rememberingBelow(m_dir->path());
     const QList<RVData> batch{entry(server.url(QStringLiteral("/image.dd.gz")), paths, 1000),
                               entry(server.url(QStringLiteral("/a.deb")), paths, 1000)};
     RVInstallProc procedure(batch, QString(), QString(), nullptr, paths);
@@ -550,7 +551,7 @@ void tst_RVInstallProc::installerThatCannotStart()
 {
     HttpServer server;
     server.serve(QStringLiteral("/a.deb"), "package");
-    RVPaths paths;
+    RVPaths paths = rememberingBelow(m_dir->path());
     paths.shell = m_dir->filePath(QStringLiteral("missing"));
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
                             QString(), nullptr, paths);

@@ -3,14 +3,15 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 #
 # outside.sh note|compare FILE: notes in FILE what tests have to leave alone, or fails when that has
-# changed since: the log of a Ravel that is installed here, and the home of who runs the tests.
+# changed since: the log and the state of a Ravel that is installed here, and the home of who runs
+# the tests.
 set -euo pipefail
 export LC_ALL=C
 home=${HOME:-/nonexistent}
 
 outside()
 {
-  find /var/log/Ravel.log /tmp/Ravel.log -printf '%p %i %s %T@\n' || true
+  find /var/log/Ravel.log /tmp/Ravel.log /var/lib/ravel /run/ravel -printf '%p %i %s %T@\n' || true
   # New things of any name, and ours at any depth.
   find "$home" "$home"/.config "$home"/.cache "$home"/.local/share -mindepth 1 -maxdepth 1 -printf '%p\n' || true
   find "$home"/.config "$home"/.cache "$home"/.local/share \

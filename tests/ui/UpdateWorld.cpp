@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/ui/UpdateWorld.h"
 
+#include "tests/support/PrivateState.h"
+
 #include <QDir>
 #include <QFile>
 
@@ -19,6 +21,7 @@ void write(const QString &path, const QByteArray &content)
 } // namespace
 
 UpdateWorld::UpdateWorld()
+    : m_paths(rememberingBelow(m_dir.path()))
 {
     QDir(m_dir.path()).mkdir(QStringLiteral("repository"));
     m_paths.shell = file(QStringLiteral("installer"));

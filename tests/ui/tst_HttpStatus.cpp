@@ -3,6 +3,7 @@
 #include "install/RVInstallProc.h"
 #include "repository/RVRepository.h"
 #include "tests/support/LogFile.h"
+#include "tests/support/PrivateState.h"
 #include "tests/support/WarningGuard.h"
 #include "tests/support/WebServers.h"
 #include "ui/RVErrorDialog.h"
@@ -226,7 +227,8 @@ void tst_HttpStatus::package()
 {
     QFETCH(int, status);
     const QUrl url = m_server->url(pathFor("package", status) + QStringLiteral("a.deb"));
-    RVPaths paths;
+    const QTemporaryDir state;
+    RVPaths paths = rememberingBelow(state.path());
     paths.shell = paths.trueTool;
     RVInstallProc procedure(RVData(url, QUrl(), nullptr, paths), nullptr, paths);
     const Dialog dialog(&procedure);

@@ -522,7 +522,7 @@ void tst_SelectionTable::hidesRowsWithoutDescriptor()
     bare.clearDescriptor();
     Table table(
         {bare, m_world->entry(QStringLiteral("b"), QStringLiteral("b"), QStringLiteral("1"))},
-        Table::CheckBoxes, m_system.get());
+        Table::CheckBoxes, m_system.get(), nullptr, m_world->paths());
     QVERIFY(table.isRowHidden(0));
     QVERIFY(!table.isRowHidden(1));
     QCOMPARE(state(table, 0), Qt::Unchecked);
