@@ -18,16 +18,9 @@ namespace
 {
 
 // dpkg gets every package of the directory in one run, so that packages of a batch may need each
-// other. The root file system is locked again only if it was this script that unlocked it.
-const char installScript[] = "#!/bin/bash\n"
-                             "fsunlock >/dev/null 2>&1\n"
-                             "lockstate=$?\n"
-                             "dpkg --install --no-force-downgrade --no-debsig --force-confdef"
-                             " --force-confnew --force-confmiss ./*.deb\n"
-                             "retval=$?\n"
-                             "cd /tmp\n"
-                             "[ $lockstate -eq 0 ] && fslock >/dev/null 2>&1\n"
-                             "exit $retval\n";
+// other.
+const char installCommandLine[] = "dpkg --install --no-force-downgrade --no-debsig --force-confdef"
+                                  " --force-confnew --force-confmiss ./*.deb";
 
 bool isPlainFileName(const QString &name)
 {
@@ -125,7 +118,7 @@ void ArchiveDeb::install(QProcess *proc)
 
 InstallCommand ArchiveDeb::installCommand() const
 {
-    return {m_paths.shell, {QStringLiteral("./RVinstall.sh")}, installScript};
+    return {m_paths.shell, {QStringLiteral("./RVinstall.sh")}, unlockedScript(installCommandLine)};
 }
 
 void ArchiveDeb::setProxy(const QString &host, int port)

@@ -12,6 +12,19 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+QByteArray unlockedScript(const QByteArray &command)
+{
+    return "#!/bin/bash\n"
+           "fsunlock >/dev/null 2>&1\n"
+           "lockstate=$?\n"
+        + command
+        + "\n"
+          "retval=$?\n"
+          "cd /tmp\n"
+          "[ $lockstate -eq 0 ] && fslock >/dev/null 2>&1\n"
+          "exit $retval\n";
+}
+
 bool writeInstallScript(const QByteArray &lines)
 {
     constexpr char fileName[] = "./RVinstall.sh";

@@ -17,6 +17,10 @@ struct InstallCommand {
     QByteArray script;
 };
 
+/// The text of a script that runs `command` on a system whose root file system is unlocked for it,
+/// and locked again only if it was this script that unlocked it. Its exit status is the command's.
+QByteArray unlockedScript(const QByteArray &command);
+
 /// Puts `lines` into "./RVinstall.sh", the script that an installer process runs. It replaces
 /// whatever has that name: a planted link is never followed. Mode 0700, since a script can hold a
 /// password. False, and no script, when it could not be written whole; errno says why.

@@ -8,6 +8,7 @@
 #include "core/RVSum.h"
 #include "core/RVUrl.h"
 #include "descriptor/DescriptorGeneric.h"
+#include "install/RVInstallerEnvironment.h"
 #include "install/RVShown.h"
 #include "network/XHttpReply.h"
 #include "network/XNetworkAccessManager.h"
@@ -22,7 +23,6 @@
 #include <QFileInfo>
 #include <QNetworkRequest>
 #include <QPointer>
-#include <QProcessEnvironment>
 
 #include <algorithm>
 #include <limits>
@@ -53,53 +53,6 @@ QList<RVData> withArchiveOnce(const QList<RVData> &entries)
     return result;
 }
 
-/// The search path with the folders of the system's own tools, which an ordinary user's login
-/// leaves out. Relative folders would find what lies among the archives.
-QString searchPath()
-{
-    QStringList folders = qEnvironmentVariable("PATH").split(QLatin1Char(':'));
-    folders.erase(std::remove_if(folders.begin(), folders.end(),
-                                 [](const QString &folder) {
-                                     return !folder.startsWith(QLatin1Char('/'));
-                                 }),
-                  folders.end());
-    folders.removeDuplicates();
-    for (const char *folder :
-         {"/usr/local/sbin", "/usr/local/bin", "/usr/sbin", "/usr/bin", "/sbin", "/bin"}) {
-        if (!folders.contains(QLatin1String(folder))) {
-            folders.append(QLatin1String(folder));
-        }
-    }
-    return folders.join(QLatin1Char(':'));
-}
-
-/// What an installer needs of the program's environment, and nothing else of it: settings of the
-/// shell, the loader and the package tool would make it run or find something else.
-QProcessEnvironment installerEnvironment(const RVPaths &paths)
-{
-    const QProcessEnvironment own = QProcessEnvironment::systemEnvironment();
-    QProcessEnvironment environment;
-    for (const QString &name : own.keys()) {
-        static const QStringList kept{
-            QStringLiteral("HOME"),   QStringLiteral("LANG"), QStringLiteral("LOGNAME"),
-            QStringLiteral("TMPDIR"), QStringLiteral("TZ"),   QStringLiteral("USER"),
-        };
-        if (kept.contains(name)
-            || (name.startsWith(QLatin1String("LC_")) && name != QLatin1String("LC_ALL"))) {
-            environment.insert(name, own.value(name));
-        }
-    }
-    environment.insert(QStringLiteral("PATH"), searchPath());
-    environment.insert(QStringLiteral("DEBIAN_FRONTEND"), QStringLiteral("noninteractive"));
-    // Its messages are searched for their causes.
-    environment.insert(QStringLiteral("LC_MESSAGES"), QStringLiteral("C.UTF-8"));
-    for (const QString &assignment : paths.installerEnvironment) {
-        environment.insert(assignment.section(QLatin1Char('='), 0, 0),
-                           assignment.section(QLatin1Char('='), 1));
-    }
-    return environment;
-}
-
 } // namespace
 
 RVInstallProc::RVInstallProc(const QList<RVData> &entries, const QString &user,
@@ -110,7 +63,7 @@ RVInstallProc::RVInstallProc(const QList<RVData> &entries, const QString &user,
     , m_keeper(paths)
 {
     access.login = {user, password};
-    setProcessEnvironment(installerEnvironment(paths));
+    setProcessEnvironment(RVInstallerEnvironment::of(paths));
     setStandardInputFile(nullDevice());
 
     // Whichever archive starts the installer.
