@@ -51,9 +51,11 @@ QString exitCodes()
     return QStringLiteral(
         "Exit codes:\n"
         "  0 done, 1 unusable system or settings, or lint found defects, 2 usage,\n"
-        "  3 network, 4 damaged archive, 5 not enough space, 6 package database locked,\n"
-        "  7 installer failed, 8 done in part, 9 wrong or missing signature or sum,\n"
-        "  10 something is new (list --exit-code), 124 timeout, 128+N ended by signal N\n");
+        "  3 network, 4 damaged archive, 5 not enough space,\n"
+        "  6 package database locked or interrupted, or another installation under way,\n"
+        "  7 installer failed or cannot run, 8 done in part, 9 wrong or missing signature\n"
+        "  or sum, 10 something is new (list --exit-code), 124 timeout,\n"
+        "  128+N ended by signal N\n");
 }
 
 QString optionsText(const QList<QCommandLineOption> &options)

@@ -23,6 +23,8 @@ const std::vector<RVCtlCommand> &RVCtlCommand::all()
          "Refresh and show what an installation would download and run."},
         {"install", "SECTION [NAME...]", 1, anyNumber, 0, installOptions(), install,
          "Download and install updates, by default those that the window preselects."},
+        {"repair", "", 0, 0, 0, repairOptions(), repair,
+         "Set right what an interrupted installation of packages left."},
         {"download", "SECTION [NAME...] --to DIR", 1, anyNumber, never, downloadOptions(), download,
          "Download updates into a folder that is itself a repository."},
         {"lint", "[FILE or SECTION...]", 0, anyNumber, never, lintOptions(), lint,

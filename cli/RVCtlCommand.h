@@ -61,6 +61,7 @@ RVCtlResult explain(const RVCtlCall &call);
 RVCtlResult details(const RVCtlCall &call);
 RVCtlResult plan(const RVCtlCall &call);
 RVCtlResult install(const RVCtlCall &call);
+RVCtlResult repair(const RVCtlCall &call);
 RVCtlResult download(const RVCtlCall &call);
 RVCtlResult lint(const RVCtlCall &call);
 RVCtlResult location(const RVCtlCall &call);
@@ -70,6 +71,7 @@ RVCtlResult sums(const RVCtlCall &call);
 
 QList<QCommandLineOption> listOptions();
 QList<QCommandLineOption> installOptions();
+QList<QCommandLineOption> repairOptions();
 QList<QCommandLineOption> downloadOptions();
 QList<QCommandLineOption> lintOptions();
 QList<QCommandLineOption> sumsOptions();

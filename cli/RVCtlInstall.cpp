@@ -6,52 +6,24 @@
 #include "cli/RVCtlDeadline.h"
 #include "cli/RVCtlInstallRun.h"
 #include "cli/RVCtlMessages.h"
+#include "cli/RVCtlObstacle.h"
 #include "cli/RVCtlOffers.h"
+#include "cli/RVCtlQuestion.h"
 #include "cli/RVCtlTrust.h"
 #include "core/RVLogger.h"
-#include "install/RVFreeSpace.h"
+#include "install/RVPackageDatabase.h"
 
 #include <QCommandLineParser>
-#include <QEventLoop>
 #include <QFile>
 #include <QJsonArray>
-#include <QSocketNotifier>
 
+#include <algorithm>
 #include <csignal>
-#include <cstdio>
-#include <unistd.h>
 
 namespace
 {
 
 const QString yesOption = QStringLiteral("yes");
-const QString lockTimeoutOption = QStringLiteral("lock-timeout");
-constexpr int longestLockTimeout = 1000000;
-constexpr int longestAnswer = 80;
-
-/// The next line of standard input, or nothing when the deadline comes first.
-QByteArray readAnswer(RVCtlDeadline *deadline)
-{
-    QByteArray answer;
-    QEventLoop loop;
-    QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
-    QObject::connect(&input, &QSocketNotifier::activated, &loop, [&] {
-        char byte = 0;
-        if (::read(STDIN_FILENO, &byte, 1) != 1 || byte == '\n' || answer.size() >= longestAnswer) {
-            loop.quit();
-        } else {
-            answer += byte;
-        }
-    });
-    QObject::connect(deadline, &RVCtlDeadline::over, &loop, [&] {
-        answer.clear();
-        loop.quit();
-    });
-    if (!deadline->isOver()) {
-        loop.exec();
-    }
-    return answer.trimmed().toLower();
-}
 
 /// A full image wipes the device: it needs a yes. False, and why, without one.
 bool isConfirmed(const RVCtlCall &call, const RVCtlBatch &batch, QString *error)
@@ -59,7 +31,7 @@ bool isConfirmed(const RVCtlCall &call, const RVCtlBatch &batch, QString *error)
     if (call.parser.isSet(yesOption)) {
         return true;
     }
-    if (::isatty(STDIN_FILENO) != 1 || ::isatty(STDERR_FILENO) != 1) {
+    if (!RVCtlQuestion::canAsk()) {
         *error = QStringLiteral("An image replaces everything on the device and restarts it, so it "
                                 "needs --yes. Nothing was started.");
         return false;
@@ -73,23 +45,19 @@ bool isConfirmed(const RVCtlCall &call, const RVCtlBatch &batch, QString *error)
                            "After the restart the device fetches it again and checks nothing: a "
                            "hostile server can then deliver another one."));
     }
-    std::fputs("Install it? [y/N] ", stderr);
-    std::fflush(stderr);
-    const QByteArray answer = readAnswer(&call.deadline);
-    if (answer == "y" || answer == "yes") {
+    if (RVCtlQuestion::isYes(QStringLiteral("Install it?"), &call.deadline)) {
         return true;
     }
     *error = QStringLiteral("The image was not confirmed. Nothing was started.");
     return false;
 }
 
-QVector<RVFreeSpace::Update> spaceOf(const RVCtlBatch &batch)
+bool hasPackages(const RVCtlOffers &section)
 {
-    QVector<RVFreeSpace::Update> result;
-    for (int i = 0; i < batch.updates.size(); ++i) {
-        result.append({batch.items.at(i).entry, !batch.items.at(i).installed.isEmpty()});
-    }
-    return result;
+    const QVector<RVCtlOffers::Entry> &entries = section.entries();
+    return std::any_of(entries.cbegin(), entries.cend(), [](const RVCtlOffers::Entry &entry) {
+        return entry.archive.path().endsWith(QLatin1String(".deb"), Qt::CaseInsensitive);
+    });
 }
 
 } // namespace
@@ -98,10 +66,7 @@ QList<QCommandLineOption> RVCtlCommands::installOptions()
 {
     QList<QCommandLineOption> options{
         {yesOption, QStringLiteral("Install an image without asking.")},
-        {lockTimeoutOption,
-         QStringLiteral(
-             "Wait up to SECONDS for the lock of the package database; the default is 0."),
-         QStringLiteral("SECONDS")},
+        RVCtlObstacle::timeoutOption(),
     };
     return options + RVCtlAccess::options();
 }
@@ -109,15 +74,9 @@ QList<QCommandLineOption> RVCtlCommands::installOptions()
 RVCtlResult RVCtlCommands::install(const RVCtlCall &call)
 {
     int lockTimeout = 0;
-    if (call.parser.isSet(lockTimeoutOption)) {
-        bool isNumber = false;
-        lockTimeout = call.parser.value(lockTimeoutOption).toInt(&isNumber);
-        if (!isNumber || lockTimeout < 0 || lockTimeout > longestLockTimeout) {
-            return RVCtlResult::failed(
-                RVCtlExit::Usage,
-                QStringLiteral("--lock-timeout takes a number of seconds, from 0 to %1.")
-                    .arg(longestLockTimeout));
-        }
+    QString error;
+    if (!RVCtlObstacle::readTimeout(call, &lockTimeout, &error)) {
+        return RVCtlResult::failed(RVCtlExit::Usage, error);
     }
     // A reader that goes away must not take the installer with it.
     std::signal(SIGPIPE, SIG_IGN);
@@ -136,39 +95,51 @@ RVCtlResult RVCtlCommands::install(const RVCtlCall &call)
                            RVCtlTrust::toJson(*section.section().repository));
         return result;
     }
-    QString error;
     QVector<RVCtlOffers::Entry> chosen;
     if (!section.choose(call.arguments.mid(1), &chosen, &error)) {
         return RVCtlResult::failed(RVCtlExit::Usage, error);
     }
     const RVCtlBatch batch = RVCtlBatch::of(section, chosen, call.world.system());
+    RVPreflight preflight(call.world.paths());
+    const auto refused = [&batch](const RVCtlResult &refusal) {
+        RVLogger().log(3, "%s", RVLogger::oneLine(refusal.error).constData());
+        RVCtlResult result = refusal;
+        result.json = batch.toJson();
+        result.json.insert(QStringLiteral("installer"), QJsonValue());
+        return result;
+    };
     if (batch.updates.isEmpty()) {
+        // What an earlier run left does not get better by itself.
+        const auto interrupted = hasPackages(section) ? preflight.interruption({}) : std::nullopt;
+        if (interrupted && !RVPackageDatabase(call.world.paths()).lockHolder().isSet) {
+            return refused(RVCtlObstacle::result(*interrupted));
+        }
         result.text = QStringLiteral("Nothing is new.\n");
         result.json = batch.toJson();
         result.json.insert(QStringLiteral("installer"), QJsonValue());
         return result;
     }
 
-    RVCtlInstallRun run(call, &access, section, batch, lockTimeout);
-    const auto refused = [&batch](RVCtlExit exit, const QString &reason) {
-        RVLogger().log(3, "%s", RVLogger::oneLine(reason).constData());
-        RVCtlResult refusal = RVCtlResult::failed(exit, reason);
-        refusal.json = batch.toJson();
-        refusal.json.insert(QStringLiteral("installer"), QJsonValue());
-        return refusal;
-    };
     if (batch.isImage() && !isConfirmed(call, batch, &error)) {
-        return refused(RVCtlExit::Usage, error);
+        return refused(RVCtlResult::failed(RVCtlExit::Usage, error));
     }
-    if (const auto shortage = RVFreeSpace::shortage(spaceOf(batch), call.world.paths())) {
-        return refused(RVCtlExit::NoSpace, shortage->sentence().english());
-    }
-    if (batch.isPackages() && !run.awaitDatabase(&error)) {
-        return refused(RVCtlExit::DatabaseLocked, error);
-    }
+    const auto first = RVCtlObstacle::takeLocks(call, &preflight, batch.kind, lockTimeout);
     if (call.deadline.isOver()) {
         return result;
     }
+    if (first) {
+        return refused(RVCtlObstacle::result(*first));
+    }
+    if (preflight.runLock().state() == RVRunLock::State::Unavailable) {
+        call.messages.warning(
+            QStringLiteral("Nothing keeps another installation from running beside this one: %1.")
+                .arg(preflight.runLock().reason()));
+    }
+    const QVector<RVObstacle> obstacles = preflight.obstacles(batch);
+    if (!obstacles.isEmpty()) {
+        return refused(RVCtlObstacle::result(obstacles.constFirst()));
+    }
+    RVCtlInstallRun run(call, &access, section, batch, &preflight, lockTimeout);
     run.run();
     return run.result(result);
 }

@@ -7,6 +7,7 @@
 #include "cli/RVCtlArchive.h"
 #include "cli/RVCtlDeadline.h"
 #include "cli/RVCtlMessages.h"
+#include "cli/RVCtlObstacle.h"
 #include "cli/RVCtlText.h"
 #include "cli/RVCtlTrust.h"
 #include "core/RVUrl.h"
@@ -17,19 +18,15 @@
 
 #include <QCommandLineParser>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QTimer>
 
 #include <algorithm>
 
 namespace
 {
-
-constexpr int lockLookMs = 250;
 
 /// It was asked before anything was started.
 class Confirmed : public ImageQuestion
@@ -52,11 +49,12 @@ bool isSameFile(const QUrl &a, const QUrl &b)
 
 RVCtlInstallRun::RVCtlInstallRun(const RVCtlCall &call, RVCtlAccess *access,
                                  const RVCtlOffers &section, const RVCtlBatch &batch,
-                                 int lockTimeoutSeconds)
+                                 RVPreflight *preflight, int lockTimeoutSeconds)
     : m_call(call)
     , m_access(access)
     , m_repository(*section.section().repository)
     , m_batch(batch)
+    , m_preflight(preflight)
     , m_lockTimeoutSeconds(lockTimeoutSeconds)
     , m_isJson(call.parser.isSet(QStringLiteral("json")))
     , m_output(m_isJson ? (call.messages.isQuiet() ? nullptr : stderr) : stdout, &call.messages)
@@ -66,49 +64,27 @@ RVCtlInstallRun::RVCtlInstallRun(const RVCtlCall &call, RVCtlAccess *access,
 
 RVCtlInstallRun::~RVCtlInstallRun() = default;
 
-bool RVCtlInstallRun::awaitDatabase(QString *error)
+bool RVCtlInstallRun::isDatabaseReady()
 {
-    const RVPackageDatabase database(m_call.world.paths());
-    QElapsedTimer waiting;
-    waiting.start();
-    bool isTold = false;
-    RVLockHolder holder;
-    while ((holder = database.lockHolder()).isSet) {
-        const QString locked = RVPackageDatabase::lockedBy(holder).english();
-        if (m_call.deadline.isOver()) {
-            return false;
-        }
-        if (waiting.elapsed() >= qint64(m_lockTimeoutSeconds) * 1000) {
-            *error = locked;
-            return false;
-        }
-        if (!isTold) {
-            m_call.messages.note(QStringLiteral("Waiting for the package database: ") + locked);
-            isTold = true;
-        }
-        QEventLoop loop;
-        QTimer::singleShot(lockLookMs, &loop, &QEventLoop::quit);
-        connect(&m_call.deadline, &RVCtlDeadline::over, &loop, &QEventLoop::quit);
-        loop.exec();
+    m_refusal = RVCtlObstacle::takeLocks(m_call, m_preflight, m_batch.kind, m_lockTimeoutSeconds);
+    QStringList names;
+    for (const RVBatch::Item &item : m_batch.items) {
+        names.append(item.name);
     }
-
-    QStringList repaired;
-    for (const RVCtlOffers::Entry &entry : m_batch.updates) {
-        repaired.append(entry.englishName());
-    }
-    const QStringList broken = database.brokenPackages(repaired);
-    if (database.hasJournal() || !broken.isEmpty()) {
-        *error = QStringLiteral("An earlier run of dpkg was interrupted%1. Repair it with '%2' or "
-                                "by installing the packages again, then try again.")
-                     .arg(broken.isEmpty()
-                              ? QString()
-                              : QStringLiteral(" (%1)").arg(broken.join(QLatin1String(", "))),
-                          database.repairCommand());
+    if (m_call.deadline.isOver()) {
+        m_refusal.reset();
         return false;
     }
-    const QStringList all = database.brokenPackages({});
-    for (const QString &package : all) {
-        m_call.messages.warning(QStringLiteral("%1; it is installed again now.").arg(package));
+    if (!m_refusal) {
+        m_refusal = m_preflight->interruption(names);
+    }
+    if (m_refusal) {
+        return false;
+    }
+    const auto unfinished = RVPackageDatabase(m_call.world.paths()).unfinished();
+    for (const RVPackageDatabase::Package &package : unfinished) {
+        m_call.messages.warning(QStringLiteral("%1 is %2; it is installed again now.")
+                                    .arg(package.name, package.state));
     }
     return true;
 }
@@ -121,6 +97,9 @@ void RVCtlInstallRun::run()
                                         m_repository.password(), nullptr, m_call.world.paths());
     m_process->access = m_repository.access();
     m_process->imageQuestion = &confirmed;
+    if (m_preflight->runLock().handle() >= 0) {
+        m_process->heldLocks.append(m_preflight->runLock().handle());
+    }
     // What it writes stays in its order.
     m_process->setProcessChannelMode(QProcess::MergedChannels);
 
@@ -237,8 +216,8 @@ void RVCtlInstallRun::beforeInstaller()
         judgeArchive(i);
     }
     const bool hasNothing = !m_faults.isEmpty() && faults() == m_faults.size();
-    const bool isReady = !hasNothing && !m_call.deadline.isOver()
-        && (!m_batch.isPackages() || awaitDatabase(&m_refusal));
+    const bool isReady =
+        !hasNothing && !m_call.deadline.isOver() && (!m_batch.isPackages() || isDatabaseReady());
     if (!isReady || !m_call.deadline.hold()) {
         m_process->cancel();
         return;
@@ -344,8 +323,9 @@ void RVCtlInstallRun::judge(RVCtlResult *result) const
              QStringLiteral("Nothing was installed: %1").arg(m_imageFault.text));
         return;
     }
-    if (!m_refusal.isEmpty()) {
-        fail(RVCtlExit::DatabaseLocked, m_refusal);
+    if (m_refusal) {
+        const RVCtlResult refusal = RVCtlObstacle::result(*m_refusal);
+        fail(refusal.exit, refusal.error);
         return;
     }
     if (!m_faults.isEmpty() && faults() == m_faults.size()) {

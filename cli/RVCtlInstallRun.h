@@ -6,6 +6,7 @@
 #include "cli/RVCtlFault.h"
 #include "cli/RVCtlOutput.h"
 #include "cli/RVCtlProgress.h"
+#include "install/RVPreflight.h"
 
 #include <QJsonObject>
 #include <QNetworkReply>
@@ -27,13 +28,9 @@ class RVCtlInstallRun : public QObject
 
 public:
     RVCtlInstallRun(const RVCtlCall &call, RVCtlAccess *access, const RVCtlOffers &section,
-                    const RVCtlBatch &batch, int lockTimeoutSeconds);
+                    const RVCtlBatch &batch, RVPreflight *preflight, int lockTimeoutSeconds);
     ~RVCtlInstallRun() override;
 
-    /// Whether dpkg can work now: nobody holds its locks, or nobody does any more before the time
-    /// for waiting is up, and no interrupted run has to be repaired. False, and why, when not;
-    /// without a reason when the deadline is over.
-    bool awaitDatabase(QString *error);
     /// Runs an event loop until there is nothing more to come.
     void run();
     /// `refreshed` says what went wrong before.
@@ -54,6 +51,8 @@ private:
     void archiveRefused(const QUrl &archive, const QString &reason);
     /// Everything is downloaded that can be: the last moment at which nothing is changed yet.
     void beforeInstaller();
+    /// Whether dpkg can work now; m_refusal says why not, unless the deadline is over.
+    bool isDatabaseReady();
     void judgeArchive(int index);
     void end(int exitCode, QProcess::ExitStatus status);
     int faults() const;
@@ -64,6 +63,7 @@ private:
     RVCtlAccess *m_access;
     const RVRepository &m_repository;
     const RVCtlBatch &m_batch;
+    RVPreflight *m_preflight;
     const int m_lockTimeoutSeconds;
     const bool m_isJson;
 
@@ -76,7 +76,7 @@ private:
     /// One for each download.
     QVector<RVCtlFault> m_faults;
     /// Why the installer was not started in the last moment.
-    QString m_refusal;
+    std::optional<RVObstacle> m_refusal;
     bool m_isInstallerRun = false;
     bool m_isCrashed = false;
     int m_exitCode = 0;

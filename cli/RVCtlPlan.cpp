@@ -3,6 +3,7 @@
 #include "cli/RVCtlAccess.h"
 #include "cli/RVCtlBatch.h"
 #include "cli/RVCtlCommand.h"
+#include "cli/RVCtlObstacle.h"
 #include "cli/RVCtlOffers.h"
 #include "cli/RVCtlText.h"
 #include "cli/RVCtlTrust.h"
@@ -14,7 +15,15 @@
 namespace
 {
 
-QString toText(const RVCtlBatch &plan)
+/// What no description tells.
+const QStringList unforeseen{
+    QStringLiteral("what the scripts of packages and service packs do"),
+    QStringLiteral("needs and conflicts of packages that are described beside themselves"),
+    QStringLiteral("files that several packages have"),
+    QStringLiteral("damage inside an archive"),
+};
+
+QString toText(const RVCtlBatch &plan, const QVector<RVObstacle> &obstacles)
 {
     if (plan.updates.isEmpty()) {
         return QStringLiteral("Nothing would be installed.\n");
@@ -32,6 +41,17 @@ QString toText(const RVCtlBatch &plan)
         text += QLatin1String("  ") + RVText::safe(RVUrl::shown(data.archiveUrl()))
             + (size.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(size)) + QLatin1Char('\n');
     }
+    if (!obstacles.isEmpty()) {
+        text += QStringLiteral("\nStands in the way:\n");
+        for (const RVObstacle &obstacle : obstacles) {
+            text += QLatin1String("  ") + RVText::safe(RVCtlObstacle::text(obstacle))
+                + QLatin1Char('\n');
+        }
+    }
+    text += QStringLiteral("\nKnown only when installing:\n");
+    for (const QString &line : unforeseen) {
+        text += QLatin1String("  ") + line + QLatin1Char('\n');
+    }
     if (plan.installer.program.isEmpty()) {
         return text + QStringLiteral("\nThere is no installer for this archive.\n");
     }
@@ -46,9 +66,12 @@ QString toText(const RVCtlBatch &plan)
     return text;
 }
 
-QJsonObject toJson(const RVCtlBatch &plan)
+QJsonObject toJson(const RVCtlBatch &plan, const QVector<RVObstacle> &obstacles)
 {
     QJsonObject object = plan.toJson();
+    object.insert(QStringLiteral("obstacles"), RVCtlObstacle::toJson(obstacles));
+    object.insert(QStringLiteral("unforeseen"),
+                  plan.items.isEmpty() ? QJsonArray() : QJsonArray::fromStringList(unforeseen));
     QJsonValue installer;
     if (!plan.installer.program.isEmpty()) {
         installer = QJsonObject{
@@ -86,8 +109,9 @@ RVCtlResult RVCtlCommands::plan(const RVCtlCall &call)
         return RVCtlResult::failed(RVCtlExit::Usage, error);
     }
     const RVCtlBatch plan = RVCtlBatch::of(section, chosen, call.world.system());
-    result.text = toText(plan);
-    result.json = toJson(plan);
+    const QVector<RVObstacle> obstacles = RVPreflight(call.world.paths()).obstacles(plan);
+    result.text = toText(plan, obstacles);
+    result.json = toJson(plan, obstacles);
     RVCtlOffers::judge(sections, &result);
     return result;
 }

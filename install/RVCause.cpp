@@ -522,10 +522,11 @@ void RVCause::Reader::readDependency(const QString &subject, const QString &pack
             continue;
         } else if (const auto match = missing.match(line); match.hasMatch()) {
             const QString needed = withoutArchitecture(match.captured(1));
-            const QStringList broken = RVPackageDatabase(m_paths).brokenPackages({});
-            const bool isBroken =
-                std::any_of(broken.cbegin(), broken.cend(), [&needed](const QString &state) {
-                    return state.startsWith(needed + QLatin1String(" is half-installed"));
+            const auto unfinished = RVPackageDatabase(m_paths).unfinished();
+            const bool isBroken = std::any_of(
+                unfinished.cbegin(), unfinished.cend(),
+                [&needed](const RVPackageDatabase::Package &other) {
+                    return other.name == needed && other.state == QLatin1String("half-installed");
                 });
             add(subject,
                 isBroken ? answer(Kind::DependencyBroken, {package, needed})

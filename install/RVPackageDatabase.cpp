@@ -37,7 +37,6 @@ RVLockHolder holderOf(const QString &file)
 
 RVPackageDatabase::RVPackageDatabase(const RVPaths &paths)
     : m_adminDir(paths.packageDatabase)
-    , m_root(m_adminDir.chopped(RVPaths().packageDatabase.size()))
 {
 }
 
@@ -78,14 +77,14 @@ bool RVPackageDatabase::hasJournal() const
     });
 }
 
-QStringList RVPackageDatabase::brokenPackages(const QStringList &repaired) const
+QVector<RVPackageDatabase::Package> RVPackageDatabase::unfinished() const
 {
-    static const QStringList broken{
-        QStringLiteral("half-installed"),
-        QStringLiteral("half-configured"),
-        QStringLiteral("unpacked"),
+    static const QStringList finished{
+        QStringLiteral("installed"),
+        QStringLiteral("config-files"),
+        QStringLiteral("not-installed"),
     };
-    QStringList result;
+    QVector<Package> result;
     QFile file(m_adminDir + QLatin1String("/status"));
     if (!file.open(QIODevice::ReadOnly)) {
         return result;
@@ -96,18 +95,13 @@ QStringList RVPackageDatabase::brokenPackages(const QStringList &repaired) const
         if (line.startsWith("Package:")) {
             package = QString::fromUtf8(line.mid(8)).trimmed();
         } else if (line.startsWith("Status:")) {
-            const QString state =
-                QString::fromUtf8(line).simplified().section(QLatin1Char(' '), 3, 3);
-            if (broken.contains(state) && !repaired.contains(package)) {
-                result.append(QStringLiteral("%1 is %2").arg(package, state));
+            // "want flag state"
+            const QStringList words =
+                QString::fromUtf8(line.mid(7)).simplified().split(QLatin1Char(' '));
+            if (words.size() == 3 && !finished.contains(words.at(2))) {
+                result.append({package, words.at(2)});
             }
         }
     }
     return result;
-}
-
-QString RVPackageDatabase::repairCommand() const
-{
-    return m_root.isEmpty() ? QStringLiteral("dpkg --configure -a")
-                            : QStringLiteral("dpkg --root=%1 --configure -a").arg(m_root);
 }

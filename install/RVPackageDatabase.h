@@ -7,13 +7,19 @@
 #include "install/RVLockHolder.h"
 
 #include <QString>
-#include <QStringList>
+#include <QVector>
 
 /// The package database as the next dpkg will find it. Looks only: nothing is locked, made or
 /// changed.
 class RVPackageDatabase
 {
 public:
+    struct Package {
+        QString name;
+        /// dpkg's word: "unpacked", "half-configured" and the like.
+        QString state;
+    };
+
     explicit RVPackageDatabase(const RVPaths &paths);
 
     /// Who holds a lock that dpkg takes; not set when nobody does, or when the locks may not be
@@ -22,13 +28,10 @@ public:
     static RVSentence lockedBy(const RVLockHolder &holder);
     /// Whether the journal of an interrupted run is left.
     bool hasJournal() const;
-    /// The packages that are neither installed nor gone, "NAME is half-installed"; those named in
-    /// `repaired` are left out: to install them again is what repairs them.
-    QStringList brokenPackages(const QStringList &repaired) const;
-    /// What an administrator runs to repair it.
-    QString repairCommand() const;
+    /// The packages whose installation, removal or triggers did not come to their end: those that
+    /// the next `dpkg --configure -a` would work on, or that have to be installed again.
+    QVector<Package> unfinished() const;
 
 private:
     QString m_adminDir;
-    QString m_root;
 };

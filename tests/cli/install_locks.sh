@@ -48,7 +48,7 @@ for lock in lock lock-frontend; do
   "$ravelctl" --json --root "$root" --definitions "$definitions" install plain tc-audio --lock-timeout 50 \
     >"$work/out" 2>"$work/err" 8>&- &
   waiting=$!
-  await_text "$work/err" 'Waiting for the package database'
+  await_text "$work/err" 'is locked by.*Waiting'
   release
   status=0
   wait "$waiting" || status=$?
@@ -62,7 +62,7 @@ check "looking at the locks makes none" test "$state_before" = "$(cd "$root" && 
 sed 's/^Status: install ok installed$/Status: install ok unpacked/' "$work/root.saved/var/lib/dpkg/status" > "$work/unpacked"
 fresh
 cp -- "$work/unpacked" "$root/var/lib/dpkg/status"
-run 6 '.error.text | contains("tc-session is unpacked") and contains("--configure -a")' install plain
+run 6 '.error.text | contains("tc-session is unpacked") and contains("ravelctl repair")' install plain
 check "  and nothing was started" test ! -e "$work/ran/command"
 fresh
 : > "$root/var/lib/dpkg/updates/tmp.i"
@@ -78,6 +78,33 @@ cp -- "$work/half-installed" "$root/var/lib/dpkg/status"
 run 6 '.error.text | contains("tc-audio is half-installed")' install plain tc-network
 run 0 '.error == null' install plain tc-audio
 check "what is broken is repaired by its own installation" test "$(version tc-audio)" = 1.0-1
+# The repair, and what cannot be repaired.
+fresh
+run 0 '.found == [] and .removed == [] and .left == []' repair
+cp -- "$work/unpacked" "$root/var/lib/dpkg/status"
+rm -f -- "$root/var/lib/dpkg/info/"*.postinst
+run 0 '(.found | length) > 0 and .left == []' repair
+run 0 '.error == null' install plain
+fresh
+cp -- "$work/half-installed" "$root/var/lib/dpkg/status"
+run 6 '.removed == [] and [.left[].name] == ["tc-audio"] and (.error.text | contains("repair --yes"))' repair
+run 0 '.obstacles[0].kind == "interrupted" and .obstacles[0].code == 6' plan plain tc-network
+run 0 '.removed == ["tc-audio"] and .left == []' repair --yes
+check "  it is gone" test -z "$(version tc-audio 2>/dev/null)"
+run 0 '.error == null' install plain tc-network
+# A package whose needs nobody fulfils: refused by dpkg, and everything works after the repair.
+mkdir -- "$work/needy" "$work/needy/tree" "$work/needy/tree/DEBIAN"
+printf 'Package: tc-needy\nVersion: 1\nArchitecture: all\nMaintainer: x <x@example.org>\nDepends: tc-missing\nDescription: x\n' \
+  > "$work/needy/tree/DEBIAN/control"
+chmod 755 "$work/needy/tree/DEBIAN"
+dpkg-deb --root-owner-group --build "$work/needy/tree" "$work/needy/tc-needy.deb" >/dev/null
+printf '<update_data><name>tc-needy</name><version>1</version><thin_client>all</thin_client></update_data>' > "$work/needy/tc-needy.xml"
+define needy "file://$work/needy"
+fresh
+run 7 '.installer.exitCode == 1' install needy
+run 6 '.error.text | contains("tc-needy is unpacked")' install plain
+run 0 '.removed == ["tc-needy"]' repair --yes
+run 0 '.error == null' install plain
 mkdir -- "$work/named"
 cp -- "$repos/packages/tc-audio_1.0-1_all".* "$work/named"
 sed -i 's,<name>tc-audio</name>,&<name xml:lang="de">Ton</name>,' "$work/named/"*.xml

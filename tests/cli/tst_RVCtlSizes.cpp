@@ -76,6 +76,8 @@ void tst_RVCtlSizes::sumsSaturate()
 
     const FakeRoot root;
     root.addPackage("update0", "0.1");
+    FakeRoot::write(root.paths().xarInstaller, "#!/bin/sh\n");
+    QVERIFY(QFile::setPermissions(root.paths().xarInstaller, QFile::ReadOwner | QFile::ExeOwner));
     const QString repository = root.path() + QStringLiteral("/updates");
     for (int i = 0; i < updates; ++i) {
         const QByteArray name = "update" + QByteArray::number(i);

@@ -119,7 +119,7 @@ keys '.repositories[].entries[]' "$entry" list --all
 keys '.repositories[]' "archives $section" explain
 keys '.repositories[].archives[]' 'archive offered reason text' explain
 keys . 'architectures archive baseReleases contents descriptor error installed installedSize models name notes notesText offered preselected reason size state title unpackedSize version' details 2 tc-audio
-keys . 'downloadSize downloads error installer trust updates' plan 2
+keys . 'downloadSize downloads error installer obstacles trust unforeseen updates' plan 2
 keys '.installer' 'arguments program script' plan 2
 keys '.downloads[]' 'size url' plan 2
 keys . 'default error index isDefault location settingsKey' location 2
