@@ -36,7 +36,16 @@ RVOwnFolder::~RVOwnFolder()
     }
 }
 
-int RVOwnFolder::openFile(const QByteArray &name) const
+bool RVOwnFolder::shareWith(unsigned int group) const
+{
+    struct stat status = {};
+    return ::fstat(m_handle, &status) == 0
+        && ((status.st_gid == group && (status.st_mode & 0777U) == 0750)
+            || (::fchown(m_handle, static_cast<uid_t>(-1), group) == 0
+                && ::fchmod(m_handle, 0750) == 0));
+}
+
+int RVOwnFolder::openFile(const QByteArray &name, std::optional<unsigned int> readers) const
 {
     // A pipe that lies there would be waited for.
     const int file =
@@ -47,7 +56,9 @@ int RVOwnFolder::openFile(const QByteArray &name) const
         return -1;
     }
     if (::fstat(file, &status) != 0 || !S_ISREG(status.st_mode) || status.st_uid != ::geteuid()
-        || status.st_nlink != 1 || ::fchmod(file, 0600) != 0) {
+        || status.st_nlink != 1
+        || (readers && ::fchown(file, static_cast<uid_t>(-1), *readers) != 0)
+        || ::fchmod(file, readers ? 0640 : 0600) != 0) {
         ::close(file);
         errno = EPERM;
         return -1;
@@ -79,6 +90,16 @@ bool RVOwnFolder::replaceFile(const QByteArray &name, const QByteArray &text) co
     removeFile(part);
     errno = error;
     return false;
+}
+
+bool RVOwnFolder::renameFile(const QByteArray &name, const QByteArray &newName) const
+{
+    return ::renameat(m_handle, name.constData(), m_handle, newName.constData()) == 0;
+}
+
+bool RVOwnFolder::sync() const
+{
+    return ::fsync(m_handle) == 0;
 }
 
 bool RVOwnFolder::removeFile(const QByteArray &name) const

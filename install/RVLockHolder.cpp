@@ -17,3 +17,14 @@ RVLockHolder RVLockHolder::ofProcess(qint64 process)
     }
     return holder;
 }
+
+QByteArray RVLockHolder::beginOf(qint64 process)
+{
+    constexpr int field = 19; // 22 of proc(5), counted from behind the name
+    QFile file(QStringLiteral("/proc/%1/stat").arg(process));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    const QByteArray text = file.readAll();
+    return text.mid(text.lastIndexOf(')') + 2).split(' ').value(field);
+}

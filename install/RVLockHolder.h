@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 /// The process that holds a lock. A value.
@@ -14,6 +15,8 @@ struct RVLockHolder {
     QString program;
 
     static RVLockHolder ofProcess(qint64 process);
+    /// When a process began: its number may be another's later. Empty when it is gone.
+    static QByteArray beginOf(qint64 process);
     bool operator==(const RVLockHolder &other) const
     {
         return isSet == other.isSet && process == other.process && program == other.program;

@@ -26,22 +26,10 @@ struct flock wholeFile()
     return lock;
 }
 
-/// When the process began: its number may be another's later. Empty when it is gone.
-QByteArray beginOf(qint64 process)
-{
-    constexpr int field = 19; // 22 of proc(5), counted from behind the name
-    QFile file(QStringLiteral("/proc/%1/stat").arg(process));
-    if (!file.open(QIODevice::ReadOnly)) {
-        return {};
-    }
-    const QByteArray text = file.readAll();
-    return text.mid(text.lastIndexOf(')') + 2).split(' ').value(field);
-}
-
 QByteArray ownText()
 {
     const qint64 process = ::getpid();
-    return QByteArray::number(process) + ' ' + beginOf(process) + '\n';
+    return QByteArray::number(process) + ' ' + RVLockHolder::beginOf(process) + '\n';
 }
 
 RVLockHolder holderIn(int handle)
@@ -52,7 +40,7 @@ RVLockHolder holderIn(int handle)
         text.left(static_cast<int>(qMax<ssize_t>(length, 0))).trimmed().split(' ');
     const qint64 process = words.value(0).toLongLong();
     const bool isAlive =
-        process > 0 && !words.value(1).isEmpty() && beginOf(process) == words.at(1);
+        process > 0 && !words.value(1).isEmpty() && RVLockHolder::beginOf(process) == words.at(1);
     return RVLockHolder::ofProcess(isAlive ? process : 0);
 }
 
