@@ -174,6 +174,7 @@ RVLintDocument::Elements RVLintDocument::check(const QDomElement &scope, const R
     m_known = fields.all();
     m_elements.clear();
     m_nested.clear();
+    m_meant.clear();
     walk(scope, {});
     for (const QString &tag : fields.values + fields.sizes) {
         checkRepeated(m_elements.value(tag));
@@ -215,7 +216,11 @@ void RVLintDocument::walk(const QDomElement &parent, const QString &field)
         if (m_fields.onlyInParts.contains(tag)) {
             add(RVLintKind::PatternOutsideFilter, element, quoted(tag));
         } else if (field.isEmpty() && !m_report->isFull(RVLintKind::ElementUnknown, m_file)) {
-            const QString better = meant(tag, m_known + m_fields.parts + m_fields.onlyInParts);
+            // A document may hold the same one a hundred thousand times.
+            if (!m_meant.contains(tag)) {
+                m_meant[tag] = meant(tag, m_known + m_fields.parts + m_fields.onlyInParts);
+            }
+            const QString better = m_meant.value(tag);
             add(RVLintKind::ElementUnknown, element,
                 better.isEmpty()
                     ? quoted(tag)

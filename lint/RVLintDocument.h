@@ -82,4 +82,6 @@ private:
     Elements m_elements;
     /// The last one of each name that stands in another field.
     QHash<QString, QDomElement> m_nested;
+    /// The known names that unknown ones come close to, or none.
+    QHash<QString, QString> m_meant;
 };
