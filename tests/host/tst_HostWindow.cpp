@@ -359,7 +359,6 @@ private Q_SLOTS:
         font.setPixelSize(20);
         QApplication::setFont(font);
         WarningGuard guard;
-        guard.allow(QStringLiteral("propagateSizeHints"));
         {
             HostWindow window;
             auto *title = new TitlePage(QStringLiteral("t"), QStringLiteral("d"), QString());

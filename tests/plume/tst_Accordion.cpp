@@ -303,7 +303,6 @@ private Q_SLOTS:
         QFETCH(bool, dark);
         QFETCH(bool, rightToLeft);
         WarningGuard guard;
-        guard.allow(QStringLiteral("propagateSizeHints"));
         addAll();
         QPalette palette;
         palette.setColor(QPalette::Window, dark ? Qt::black : Qt::white);

@@ -167,7 +167,6 @@ void tst_HttpStatus::init()
     m_log = std::make_unique<LogFile>();
     m_guard = std::make_unique<WarningGuard>();
     // The offscreen platform says so of every window that has a minimum size.
-    m_guard->allow(QStringLiteral("propagateSizeHints"));
 }
 
 void tst_HttpStatus::cleanup()

@@ -55,7 +55,6 @@ void tst_ImageInstallBox::saysWhatWillHappen()
 {
     const LogFile log;
     WarningGuard warnings;
-    warnings.allow(QStringLiteral("^This plugin does not support propagateSizeHints"));
     ask([](QMessageBox *box) {
         const RVStyle style;
         QCOMPARE(box->parentWidget(), nullptr);
@@ -82,7 +81,6 @@ void tst_ImageInstallBox::saysWhatACheckFinds()
 {
     const LogFile log;
     WarningGuard warnings;
-    warnings.allow(QStringLiteral("^This plugin does not support propagateSizeHints"));
     for (const bool isChecked : {false, true}) {
         ask(
             [isChecked](QMessageBox *box) {
@@ -112,7 +110,6 @@ void tst_ImageInstallBox::answers()
 {
     QFETCH(QString, act);
     WarningGuard warnings;
-    warnings.allow(QStringLiteral("^This plugin does not support propagateSizeHints"));
     const bool confirmed = ask([&act](QMessageBox *box) {
         if (act == QLatin1String("apply")) {
             QTest::mouseClick(box->button(QMessageBox::Apply), Qt::LeftButton);

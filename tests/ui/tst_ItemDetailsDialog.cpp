@@ -98,7 +98,6 @@ private Q_SLOTS:
         m_guard.reset();
         m_guard = std::make_unique<WarningGuard>();
         // The offscreen platform says so of every window that has a minimum size.
-        m_guard->allow(QStringLiteral("propagateSizeHints"));
     }
     void cleanup() { QVERIFY2(m_guard->isClean(), m_guard->report()); }
 

@@ -86,7 +86,6 @@ private:
 void tst_RVAdvPage::init()
 {
     m_guard = std::make_unique<WarningGuard>();
-    m_guard->allow(QStringLiteral("propagateSizeHints"));
     m_log = std::make_unique<LogFile>();
     QSettings(QStringLiteral("Corvane"), QStringLiteral("Ravel")).clear();
     m_page = std::make_unique<RVAdvPage>(nullptr);

@@ -146,7 +146,6 @@ void tst_RVControlFrame::initTestCase()
 void tst_RVControlFrame::init()
 {
     m_guard = std::make_unique<WarningGuard>();
-    m_guard->allow(QStringLiteral("propagateSizeHints"));
     m_log = std::make_unique<LogFile>();
     m_world = std::make_unique<UpdateWorld>();
     m_system = std::make_unique<FakeSystem>();

@@ -17,11 +17,7 @@ class tst_RVDetailsBox : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_guard = std::make_unique<WarningGuard>();
-        m_guard->allow(QStringLiteral("propagateSizeHints"));
-    }
+    void init() { m_guard = std::make_unique<WarningGuard>(); }
     void cleanup()
     {
         const bool clean = m_guard->isClean();

@@ -241,7 +241,6 @@ void tst_RVMainPage::initTestCase()
 void tst_RVMainPage::init()
 {
     m_guard = std::make_unique<WarningGuard>();
-    m_guard->allow(QStringLiteral("propagateSizeHints"));
     m_log = std::make_unique<LogFile>();
     m_world = std::make_unique<UpdateWorld>();
     QSettings(QStringLiteral("Corvane"), QStringLiteral("Ravel")).clear();

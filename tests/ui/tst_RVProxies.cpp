@@ -148,7 +148,6 @@ private:
 void tst_RVProxies::init()
 {
     m_guard = std::make_unique<WarningGuard>();
-    m_guard->allow(QStringLiteral("propagateSizeHints"));
     m_log = std::make_unique<LogFile>();
     settings().clear();
 }

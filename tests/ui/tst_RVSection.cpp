@@ -106,7 +106,6 @@ void tst_RVSection::init()
 {
     qRegisterMetaType<QNetworkReply::NetworkError>();
     m_guard = std::make_unique<WarningGuard>();
-    m_guard->allow(QStringLiteral("propagateSizeHints"));
     m_log = std::make_unique<LogFile>();
     m_world = std::make_unique<UpdateWorld>();
     m_settings = std::make_unique<QSettings>(QStringLiteral("Corvane"), QStringLiteral("Ravel"));

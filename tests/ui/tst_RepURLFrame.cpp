@@ -103,7 +103,6 @@ private:
 void tst_RepURLFrame::init()
 {
     m_guard = std::make_unique<WarningGuard>();
-    m_guard->allow(QStringLiteral("propagateSizeHints"));
     m_log = std::make_unique<LogFile>();
     m_frame = std::make_unique<RepURLFrame>(QStringLiteral("Title"), QStringLiteral("Description"),
                                             QIcon());

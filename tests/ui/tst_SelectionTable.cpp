@@ -204,7 +204,6 @@ void tst_SelectionTable::initTestCase()
 void tst_SelectionTable::init()
 {
     m_guard = std::make_unique<WarningGuard>();
-    m_guard->allow(QStringLiteral("propagateSizeHints"));
     m_log = std::make_unique<LogFile>();
     m_world = std::make_unique<UpdateWorld>();
     m_system = std::make_unique<FakeSystem>();

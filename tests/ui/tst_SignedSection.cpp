@@ -62,7 +62,6 @@ void tst_SignedSection::init()
 {
     m_log = std::make_unique<LogFile>();
     m_guard = std::make_unique<WarningGuard>();
-    m_guard->allow(QStringLiteral("^This plugin does not support propagateSizeHints"));
     m_world = std::make_unique<SignedWorld>(m_keys.get());
 }
 

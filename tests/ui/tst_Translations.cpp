@@ -214,7 +214,6 @@ private:
 void tst_Translations::initTestCase()
 {
     m_guard = std::make_unique<WarningGuard>();
-    m_guard->allow(QStringLiteral("propagateSizeHints"));
     speak({});
     m_gallery = std::make_unique<Gallery>();
     for (const Gallery::View &view : m_gallery->views()) {

@@ -217,7 +217,6 @@ private:
 void tst_Trust::init()
 {
     m_guard = std::make_unique<WarningGuard>();
-    m_guard->allow(QStringLiteral("propagateSizeHints"));
     m_log = std::make_unique<LogFile>();
     m_world = std::make_unique<UpdateWorld>();
     QSettings(QStringLiteral("Corvane"), QStringLiteral("Ravel")).clear();
