@@ -3,6 +3,7 @@
 #include "tests/support/Privileges.h"
 
 #include <linux/capability.h>
+#include <sys/prctl.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -18,4 +19,11 @@ bool obeyFilePermissions()
     data[0].permitted &= ~overrides;
     data[0].inheritable &= ~overrides;
     return syscall(SYS_capset, &header, data) == 0;
+}
+
+void obeyFilePermissionsAfterExec()
+{
+    // An ordinary user may not, and need not.
+    prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE);
+    prctl(PR_CAPBSET_DROP, CAP_DAC_READ_SEARCH);
 }

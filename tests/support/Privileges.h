@@ -6,3 +6,7 @@
 /// when the tests run as root: gives up the capabilities that override them. For good; false on
 /// failure. Nothing changes for an ordinary user.
 bool obeyFilePermissions();
+
+/// The same for a program that this process becomes, also one of root's: to be called by
+/// QProcess::setupChildProcess().
+void obeyFilePermissionsAfterExec();

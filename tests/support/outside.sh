@@ -3,15 +3,20 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 #
 # outside.sh note|compare FILE: notes in FILE what tests have to leave alone, or fails when that has
-# changed since: the log and the state of a Ravel that is installed here, and the home of who runs
-# the tests.
+# changed since: the system that a Ravel installed here would work on, the package database with it,
+# and the home of who runs the tests. Other suites may run beside this one: what stays behind in the
+# folders of temporary files is looked at by .ci/run, which is alone on its machine.
 set -euo pipefail
 export LC_ALL=C
 home=${HOME:-/nonexistent}
 
+# What RVPaths names, and what dpkg writes.
+system=(/etc/imageid /etc/service-packs /etc/cvtc-ravel /etc/auto-update /var/lib/ravel /run/ravel /writable
+  /var/log/Ravel.log /tmp/Ravel.log /var/lib/dpkg/status /var/log/dpkg.log)
+
 outside()
 {
-  find /var/log/Ravel.log /tmp/Ravel.log /var/lib/ravel /run/ravel -printf '%p %i %s %T@\n' || true
+  find "${system[@]}" -printf '%p %i %s %T@\n' || true
   # New things of any name, and ours at any depth.
   find "$home" "$home"/.config "$home"/.cache "$home"/.local/share -mindepth 1 -maxdepth 1 -printf '%p\n' || true
   find "$home"/.config "$home"/.cache "$home"/.local/share \
