@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 # SPDX-FileCopyrightText: 2026 Ravel developers
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""ftp-server.py PORT DIRECTORY: serves the directory on the loopback interface, read-only, to anybody."""
+"""ftp-server.py PORT DIRECTORY: serves the directory on the loopback interface, read-only, to anybody.
+It says "listening" once it does."""
 import logging
 import sys
 
@@ -19,4 +20,6 @@ if __name__ == "__main__":
         sys.exit(f"usage: {sys.argv[0]} PORT DIRECTORY")
     logging.basicConfig(level=logging.ERROR)
     Handler.authorizer.add_anonymous(sys.argv[2])
-    FTPServer(("127.0.0.1", int(sys.argv[1])), Handler).serve_forever()
+    server = FTPServer(("127.0.0.1", int(sys.argv[1])), Handler)
+    print("listening", flush=True)
+    server.serve_forever()

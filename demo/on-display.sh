@@ -35,28 +35,30 @@ stop()
 }
 trap stop EXIT
 
-# await FILE WHAT LOG: until FILE is there with something in it
+# await PIPE WHAT LOG: the line that comes through PIPE
 await()
 {
-  local i
-  for ((i = 0; i < 300; ++i)); do
-    [ ! -s "$1" ] || return 0
-    sleep 0.1
-  done
-  echo "${0##*/}: no $2" >&2
-  cat "$3" >&2
-  return 1
+  local fd line
+  exec {fd}<>"$1"
+  if ! read -r -t 60 -u "$fd" line; then
+    echo "${0##*/}: no $2" >&2
+    cat "$3" >&2
+    return 1
+  fi
+  exec {fd}>&-
+  echo "$line"
 }
 
+mkfifo -- "$home/display" "$home/managed"
 Xvfb -displayfd 3 -screen 0 2560x2000x24 -nolisten tcp 3>"$home/display" 2>"$home/xvfb.log" &
 pids=("$!")
-await "$home/display" 'virtual display' "$home/xvfb.log"
-DISPLAY=:$(cat "$home/display")
+DISPLAY=:$(await "$home/display" 'virtual display' "$home/xvfb.log")
 export DISPLAY
 # A window manager gives dialogs their frames and the focus, but not to windows that were there first.
-openbox --sm-disable --startup "cp '$home/display' '$home/managed'" >"$home/openbox.log" 2>&1 &
+echo "$DISPLAY" > "$home/number"
+openbox --sm-disable --startup "cp '$home/number' '$home/managed'" >"$home/openbox.log" 2>&1 &
 pids=("$!" "${pids[@]}")
-await "$home/managed" 'window manager' "$home/openbox.log"
+await "$home/managed" 'window manager' "$home/openbox.log" >/dev/null
 
 status=0
 "$@" || status=$?

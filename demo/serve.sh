@@ -50,14 +50,10 @@ print(*(s.getsockname()[1] for s in sockets))
 PYTHON
 }
 
-# await_port PORT LOG
-await_port()
+# await TEXT LOG: until the server has written so
+await()
 {
-  local i
-  for ((i = 0; i < 100; ++i)); do
-    ! (exec 3<>"/dev/tcp/127.0.0.1/$1") 2>/dev/null || return 0
-    sleep 0.1
-  done
+  grep -q -- "$1" < <(timeout 60 tail -n +1 -f -- "$2" 2>/dev/null) && return 0
   echo "${0##*/}: no server" >&2
   cat "$2" >&2
   return 1
@@ -76,7 +72,7 @@ cat > "$run/nginx.conf" <<NGINX
 daemon off;
 master_process off;
 pid "$run/pid";
-error_log "$run/log";
+error_log "$run/log" notice;
 events {}
 http {
   access_log off;
@@ -101,13 +97,15 @@ http {
   }
 }
 NGINX
+: > "$run/log"
+: > "$run/ftp"
 nginx -c "$run/nginx.conf" -e "$run/log" 2>"$run/nginx.err" &
 pids+=("$!")
-"$python" "$demo/ftp-server.py" "$ftp" "$world/repos/ftp" 2>"$run/ftp.err" &
+"$python" "$demo/ftp-server.py" "$ftp" "$world/repos/ftp" >"$run/ftp" 2>&1 &
 pids+=("$!")
-await_port "$https" "$run/nginx.err"
-await_port "$http" "$run/nginx.err"
-await_port "$ftp" "$run/ftp.err"
+# It has opened its ports by then.
+await 'event method' "$run/log"
+await listening "$run/ftp"
 
 status=0
 "$@" || status=$?

@@ -47,18 +47,30 @@ def listen():
         pass
 
 
+def holds_within(seconds, condition):
+    """What the condition is at last; it is asked after each event, and where none tells, at times."""
+    end = time.monotonic() + seconds
+    tick = GLib.timeout_add(50, lambda: True)
+    try:
+        while True:
+            try:
+                listen()
+                found = condition()
+                if found:
+                    return found
+            except GLib.Error:
+                pass  # an object went away while it was asked
+            if time.monotonic() > end:
+                return None
+            GLib.MainContext.default().iteration(True)
+    finally:
+        GLib.source_remove(tick)
+
+
 def wait_for(condition, what):
-    end = time.monotonic() + PATIENCE
-    while time.monotonic() < end:
-        try:
-            listen()
-            found = condition()
-            if found:
-                return found
-        except GLib.Error:
-            pass  # an object went away while it was asked
-        time.sleep(0.05)
-    raise Failure(f"no {what}")
+    found = holds_within(PATIENCE, condition)
+    require(found, f"no {what}")
+    return found
 
 
 def has(accessible, *states):
@@ -151,8 +163,6 @@ class Access:
 
     def key(self, name):
         Atspi.generate_keyboard_event(KEYS[name], None, Atspi.KeySynthType.SYM)
-        time.sleep(0.1)
-        listen()
 
     def go_to(self, role, name, key="Tab"):
         """Presses the key until the focus is where it is meant to be."""
@@ -163,7 +173,13 @@ class Access:
                 return here
             passed.append(describe(here))
             self.key(key)
+            # Some keys leave the focus where it is.
+            holds_within(2, lambda: self.has_moved(here, passed[-1]))
         raise Failure(f"{key} does not lead to {role} '{name}': {'; '.join(passed)}")
+
+    def has_moved(self, before, description):
+        here = self.focused()
+        return here and (here != before or describe(here) != description)
 
     def look(self):
         for top in self.windows():
@@ -267,10 +283,11 @@ class Access:
         wait_for(lambda: not self.dialogs(), "end of the progress dialog")
 
     def type(self, text):
-        for letter in text:
+        """Types into the empty field that has the focus; each letter arrives before the next one."""
+        field = self.focused()
+        for number, letter in enumerate(text, 1):
             Atspi.generate_keyboard_event(ord(letter), None, Atspi.KeySynthType.SYM)
-            time.sleep(0.02)
-        listen()
+            wait_for(lambda n=number: Atspi.Text.get_character_count(field) == n, f"'{text}' in the field")
 
     def open_remote(self, title):
         self.go_to("check box", title)

@@ -10,6 +10,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCursor>
+#include <QDeadlineTimer>
 #include <QDialog>
 #include <QDir>
 #include <QGroupBox>
@@ -40,6 +41,7 @@ namespace
 {
 
 constexpr int stepTimeout = 15000;
+constexpr int stillTimeout = 2000;
 
 struct Failure {
     QString reason;
@@ -123,6 +125,48 @@ void type(const QString &text)
     for (const QChar key : text) {
         QTest::keyClick(QApplication::focusWidget(), key.toLatin1());
     }
+}
+
+/// Notes whether something was laid out or painted, or is to be.
+class Movement : public QObject
+{
+public:
+    bool seen = false;
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        switch (event->type()) {
+        case QEvent::LayoutRequest:
+        case QEvent::LanguageChange:
+        case QEvent::Move:
+        case QEvent::Resize:
+        case QEvent::Show:
+        case QEvent::Expose:
+        case QEvent::UpdateRequest:
+        case QEvent::Paint:
+            seen = true;
+            break;
+        default:
+            break;
+        }
+        return false;
+    }
+};
+
+/// Waits until nothing moves any more in a round of events and one of the display's.
+void settle(QScreen *screen)
+{
+    Movement movement;
+    qApp->installEventFilter(&movement);
+    // What never stands still, such as a bar that runs to and fro, is taken as it is.
+    QDeadlineTimer deadline(stillTimeout);
+    do {
+        movement.seen = false;
+        // Answered once the display has done all that it was asked for.
+        screen->grabWindow(0, 0, 0, 1, 1);
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    } while (movement.seen && !deadline.hasExpired());
 }
 
 class Walk
@@ -336,15 +380,19 @@ void Walk::picture(const QString &name)
     if (!m_window) {
         return;
     }
-    QRect area = m_window->frameGeometry();
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        if (widget->isVisible() && QTest::qWaitForWindowExposed(widget)) {
-            area |= widget->frameGeometry();
-        }
-    }
-    QTest::qWait(100);
     QScreen *screen = m_window->screen();
+    QWidgetList shown = QApplication::topLevelWidgets();
+    shown.erase(std::remove_if(shown.begin(), shown.end(),
+                               [](QWidget *widget) {
+                                   return !widget->isVisible()
+                                       || !QTest::qWaitForWindowExposed(widget);
+                               }),
+                shown.end());
+    settle(screen);
+    QRect area = m_window->frameGeometry();
+    for (const QWidget *widget : qAsConst(shown)) {
+        area |= widget->frameGeometry();
+    }
     screen->grabWindow(0, area.x(), area.y(), area.width(), area.height())
         .save(QDir(m_screenshots).filePath(name + QLatin1String(".png")));
 }

@@ -119,9 +119,9 @@ private Q_SLOTS:
         QProcess program;
         program.start(QStringLiteral(RAVEL_HOST), {QStringLiteral("--root"), root.path()});
         QByteArray errors;
-        QTRY_VERIFY_WITH_TIMEOUT(
-            (errors += program.readAllStandardError()).contains("ravel-host: The file that identifies"),
-            timeout);
+        QTRY_VERIFY_WITH_TIMEOUT((errors += program.readAllStandardError())
+                                     .contains("ravel-host: The file that identifies"),
+                                 timeout);
         program.terminate();
         QVERIFY(program.waitForFinished(timeout));
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);

@@ -7,6 +7,9 @@
 #include <QDir>
 #include <QFile>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+
 namespace
 {
 
@@ -71,6 +74,22 @@ void UpdateWorld::setInstaller(const QByteArray &script)
     QFile::remove(m_paths.shell);
     write(m_paths.shell, "#!/bin/sh\n" + script + '\n');
     QFile::setPermissions(m_paths.shell, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+QByteArray UpdateWorld::untilGo()
+{
+    const QByteArray pipe = QFile::encodeName(file(QStringLiteral("go")));
+    // Open at both ends, so that neither side waits for the other to open it.
+    const int end = ::mkfifo(pipe.constData(), 0600) == 0 ? ::open(pipe.constData(), O_RDWR) : -1;
+    if (!m_go.open(end, QIODevice::WriteOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle)) {
+        qFatal("no pipe");
+    }
+    return "read -r line <'" + pipe + "'\n";
+}
+
+void UpdateWorld::go()
+{
+    m_go.write("\n");
 }
 
 void UpdateWorld::removeInstaller() const

@@ -6,6 +6,7 @@
 #include "core/RVPaths.h"
 #include "repository/RVData.h"
 
+#include <QFile>
 #include <QHash>
 #include <QTemporaryDir>
 
@@ -58,6 +59,9 @@ public:
     RVData remoteEntry(const QUrl &archive) const;
     /// The installer becomes this shell script; it runs in the directory of the unpacked archives.
     void setInstaller(const QByteArray &script);
+    /// A line for that script: it waits there until go().
+    QByteArray untilGo();
+    void go();
     /// There is no installer any more.
     void removeInstaller() const;
 
@@ -66,4 +70,5 @@ private:
 
     QTemporaryDir m_dir;
     RVPaths m_paths;
+    QFile m_go;
 };

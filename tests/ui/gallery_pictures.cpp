@@ -3,12 +3,12 @@
 //
 // ravel-gallery CODE DIRECTORY: pictures of every page and dialog in a language, for a translator
 // to look at.
+#include "tests/support/EventLoop.h"
 #include "tests/ui/Gallery.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QPixmap>
-#include <QTest>
 #include <QWidget>
 
 #include <cstdio>
@@ -26,9 +26,9 @@ int main(int argc, char *argv[])
     for (const Gallery::View &view : gallery.views()) {
         view.enter();
         view.window->show();
-        QTest::qWait(100);
+        runUntilIdle();
         view.window->resize(view.window->size().expandedTo(view.window->sizeHint()));
-        QTest::qWait(100);
+        runUntilIdle();
         const QString file =
             QStringLiteral("%1/%2-%3.png")
                 .arg(arguments.at(2), arguments.at(1),

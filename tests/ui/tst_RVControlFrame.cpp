@@ -895,10 +895,9 @@ void tst_RVControlFrame::installsAndReports()
 void tst_RVControlFrame::keepsABusyTableAlive()
 {
     m_world->add(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"));
-    m_world->setInstaller(
-        "touch " + QFile::encodeName(m_world->file(QStringLiteral("started"))) + "; while [ ! -e "
-        + QFile::encodeName(m_world->file(QStringLiteral("go"))) + " ]; do sleep 0.02; done; touch "
-        + QFile::encodeName(m_world->file(QStringLiteral("done"))));
+    m_world->setInstaller("touch " + QFile::encodeName(m_world->file(QStringLiteral("started")))
+                          + '\n' + m_world->untilGo() + "touch "
+                          + QFile::encodeName(m_world->file(QStringLiteral("done"))));
     const auto frame = this->frame();
     retrieve(frame.get());
     const QPointer<SelectionTable> busy = table(*frame);
@@ -927,8 +926,7 @@ void tst_RVControlFrame::keepsABusyTableAlive()
     busy->relayNetworkError(nullptr);
     QCOMPARE(network.size(), 1);
 
-    QFile go(m_world->file(QStringLiteral("go")));
-    QVERIFY(go.open(QIODevice::WriteOnly));
+    m_world->go();
     QTRY_COMPARE(finished.size(), 1);
     QVERIFY(QFile::exists(m_world->file(QStringLiteral("done"))));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
