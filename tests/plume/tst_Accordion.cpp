@@ -322,7 +322,6 @@ private Q_SLOTS:
             }
             QVERIFY2(lightest - darkest > 51, qPrintable(heading(item)->text()));
         }
-        QVERIFY2(guard.isClean(), guard.report());
     }
 
     void closedItemsTakeNoMoreThanTheirHeadings()

