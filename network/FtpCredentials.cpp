@@ -33,6 +33,11 @@ Remembered &remembered()
     return all;
 }
 
+RVLogin anonymous()
+{
+    return {QStringLiteral("anonymous"), QStringLiteral("anonymous@example.org")};
+}
+
 QString firstOf(const QString &own, const Texts &byUrl, const Texts &byHost, const QUrl &url,
                 const QString &anonymous)
 {
@@ -64,9 +69,16 @@ RVLogin forUrl(const QUrl &url)
 {
     const Remembered &all = remembered();
     return {firstOf(url.userName(QUrl::FullyDecoded), all.userByUrl, all.userByHost, url,
-                    QStringLiteral("anonymous")),
+                    anonymous().user),
             firstOf(url.password(QUrl::FullyDecoded), all.passwordByUrl, all.passwordByHost, url,
-                    QStringLiteral("anonymous@example.org"))};
+                    anonymous().password)};
+}
+
+RVLogin ofUrl(const QUrl &url)
+{
+    return url.userName().isEmpty()
+        ? anonymous()
+        : RVLogin{url.userName(QUrl::FullyDecoded), url.password(QUrl::FullyDecoded)};
 }
 
 Answer ask(XNetworkAccessManager *manager, QNetworkReply *reply, const QUrl &url,

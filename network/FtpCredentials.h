@@ -21,6 +21,8 @@ namespace FtpCredentials
 /// User and password are looked for apart, each in the URL itself, then among what was given for
 /// this URL, then for its host and port; else they are those of an anonymous login.
 RVLogin forUrl(const QUrl &url);
+/// What stands in the URL, and that of an anonymous login where no user does.
+RVLogin ofUrl(const QUrl &url);
 
 enum Answer {
     /// Nobody was asked, nobody answered, or the answer was the refused login again.

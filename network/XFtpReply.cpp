@@ -27,7 +27,9 @@ void XFtpReply::start()
     if (proxy.type() == QNetworkProxy::FtpCachingProxy) {
         m_ftp->setProxy(proxy.hostName(), proxy.port());
     }
-    const RVLogin login = FtpCredentials::forUrl(url());
+    const RVLogin login = request().attribute(XNetworkAccessManager::plainAttribute).toBool()
+        ? FtpCredentials::ofUrl(url())
+        : FtpCredentials::forUrl(url());
     m_user = login.user;
     m_password = login.password;
     const QString host = url().host();

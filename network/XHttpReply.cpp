@@ -241,13 +241,14 @@ QString XHttpReply::faultOfHead() const
     if (status < 200) {
         return QStringLiteral("The server wants to speak another protocol");
     }
-    if (status == 206) {
+    const bool isPlain = request().attribute(XNetworkAccessManager::plainAttribute).toBool();
+    if (status == 206 && !isPlain) {
         return QStringLiteral("The server sends a part of the file");
     }
     if (m_announced == notANumber) {
         return QStringLiteral("The announced size is no number");
     }
-    if (!isIdentity(coding("Content-Encoding"))
+    if (!(isPlain || isIdentity(coding("Content-Encoding")))
         || !(isChunked() || isIdentity(coding("Transfer-Encoding")))) {
         return QStringLiteral("The server sends an encoded file");
     }

@@ -29,6 +29,12 @@ class XNetworkAccessManager : public QNetworkAccessManager
     Q_DISABLE_COPY_MOVE(XNetworkAccessManager)
 
 public:
+    /// Of a get: true makes it as a device would that knows nothing but the URL. It has no login
+    /// beside the URL's, and takes the bytes as they come, of a part (206) or of what is called
+    /// encoded too.
+    static constexpr auto plainAttribute =
+        static_cast<QNetworkRequest::Attribute>(QNetworkRequest::User + 1);
+
     explicit XNetworkAccessManager(QObject *parent = nullptr);
     ~XNetworkAccessManager() override;
 
