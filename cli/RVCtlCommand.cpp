@@ -3,6 +3,7 @@
 #include "cli/RVCtlCommand.h"
 
 #include "cli/RVCtlAccess.h"
+#include "cli/RVCtlOffers.h"
 
 const std::vector<RVCtlCommand> &RVCtlCommand::all()
 {
@@ -19,7 +20,8 @@ const std::vector<RVCtlCommand> &RVCtlCommand::all()
          "Refresh and show for every archive why it is offered or not."},
         {"details", "SECTION NAME", 2, 2, never, access, details,
          "Refresh and show everything that is known about one update."},
-        {"plan", "SECTION [NAME...]", 1, anyNumber, never, access, plan,
+        {"plan", "SECTION [NAME...]", 1, anyNumber, never,
+         QList<QCommandLineOption>{RVCtlOffers::reinstallOption()} + access, plan,
          "Refresh and show what an installation would download and run."},
         {"install", "SECTION [NAME...]", 1, anyNumber, 0, installOptions(), install,
          "Download and install updates, by default those that the window preselects."},

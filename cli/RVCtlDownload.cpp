@@ -52,12 +52,12 @@ bool select(const RVCtlOffers &section, const QStringList &names, bool isAll,
             QVector<RVCtlOffers::Entry> *chosen, QString *error)
 {
     if (names.isEmpty() && !isAll) {
-        return section.choose(names, chosen, error);
+        return section.choose(names, RVCtlOffers::RunningImage::Refuse, chosen, error);
     }
     QVector<int> indices;
     for (const QString &name : names) {
         QVector<RVCtlOffers::Entry> one;
-        if (!section.choose({name}, &one, error)) {
+        if (!section.choose({name}, RVCtlOffers::RunningImage::Take, &one, error)) {
             return false;
         }
         indices.append(one.constFirst().index);

@@ -66,6 +66,7 @@ QList<QCommandLineOption> RVCtlCommands::installOptions()
 {
     QList<QCommandLineOption> options{
         {yesOption, QStringLiteral("Install an image without asking.")},
+        RVCtlOffers::reinstallOption(),
         RVCtlObstacle::timeoutOption(),
     };
     return options + RVCtlAccess::options();
@@ -96,7 +97,8 @@ RVCtlResult RVCtlCommands::install(const RVCtlCall &call)
         return result;
     }
     QVector<RVCtlOffers::Entry> chosen;
-    if (!section.choose(call.arguments.mid(1), &chosen, &error)) {
+    if (!section.choose(call.arguments.mid(1), RVCtlOffers::runningImage(call.parser), &chosen,
+                        &error)) {
         return RVCtlResult::failed(RVCtlExit::Usage, error);
     }
     const RVCtlBatch batch = RVCtlBatch::of(section, chosen, call.world.system());

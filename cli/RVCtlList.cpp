@@ -22,7 +22,7 @@ QString cell(const QString &text)
 
 QString mark(const RVCtlOffers::Entry &entry)
 {
-    if (entry.proposal.preselected) {
+    if (entry.isPreselected()) {
         return QStringLiteral("*");
     }
     return entry.isNew() ? QStringLiteral("+") : QString();

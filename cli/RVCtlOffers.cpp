@@ -15,6 +15,7 @@
 #include "repository/RVRepDesc.h"
 #include "repository/RVRepository.h"
 
+#include <QCommandLineParser>
 #include <QJsonArray>
 #include <QSet>
 
@@ -73,7 +74,7 @@ QString RVCtlOffers::Entry::installed() const
 
 QString RVCtlOffers::Entry::state() const
 {
-    if (!description || proposal.upToDate) {
+    if (!description || proposal.upToDate || isRunning) {
         return description ? QStringLiteral("current") : QString();
     }
     if (proposal.current == RVProposal::NotConfigured) {
@@ -99,7 +100,7 @@ QJsonObject RVCtlOffers::Entry::toJson() const
         {QStringLiteral("archive"), RVUrl::shown(archive)},
         {QStringLiteral("descriptor"), RVCtlText::jsonOrNull(RVUrl::shown(descriptor))},
         {QStringLiteral("offered"), isOffered()},
-        {QStringLiteral("preselected"), proposal.preselected},
+        {QStringLiteral("preselected"), isPreselected()},
         {QStringLiteral("reason"), reasonWord(reason)},
     };
 }
@@ -149,11 +150,16 @@ void RVCtlOffers::collect(const OSInfoBaseClass &system)
         entry.description = data.descriptor();
         entry.reason = eligibility(data, system, filterSps);
         entry.index = i;
+        entry.isRunning = isRunningImage(data, system);
         if (entry.isOffered()) {
             entry.proposal = offered.at(next++);
         } else {
             entry.proposal = proposals({data}, &system, picksOne).constFirst();
             entry.proposal.preselected = false;
+        }
+        if (entry.isRunning) {
+            entry.proposal.current = RVProposal::Known;
+            entry.proposal.installed = entry.version();
         }
         m_entries.append(entry);
     }
@@ -179,11 +185,24 @@ RVData RVCtlOffers::data(const Entry &entry) const
     return m_section.repository->entries().at(entry.index);
 }
 
-bool RVCtlOffers::choose(const QStringList &names, QVector<Entry> *chosen, QString *error) const
+QCommandLineOption RVCtlOffers::reinstallOption()
+{
+    return {QStringLiteral("reinstall"),
+            QStringLiteral("Take an image even if the device runs it already.")};
+}
+
+RVCtlOffers::RunningImage RVCtlOffers::runningImage(const QCommandLineParser &parser)
+{
+    return parser.isSet(reinstallOption()) ? RunningImage::Take : RunningImage::Refuse;
+}
+
+bool RVCtlOffers::choose(const QStringList &names, RunningImage runningImage,
+                         QVector<Entry> *chosen, QString *error) const
 {
     QVector<bool> isChosen(m_entries.size(), false);
     for (int i = 0; names.isEmpty() && i < m_entries.size(); ++i) {
-        isChosen[i] = m_entries.at(i).proposal.preselected;
+        isChosen[i] = runningImage == RunningImage::Take ? m_entries.at(i).proposal.preselected
+                                                         : m_entries.at(i).isPreselected();
     }
     for (const QString &name : names) {
         const auto found =
@@ -193,6 +212,11 @@ bool RVCtlOffers::choose(const QStringList &names, QVector<Entry> *chosen, QStri
         if (found == m_entries.cend()) {
             *error =
                 QStringLiteral("Section %1 does not offer '%2'.").arg(m_section.index).arg(name);
+            return false;
+        }
+        if (found->isRunning && runningImage == RunningImage::Refuse) {
+            *error = QStringLiteral("The device runs %1 %2 already; --reinstall takes it again.")
+                         .arg(found->name(), found->version());
             return false;
         }
         isChosen[static_cast<int>(found - m_entries.cbegin())] = true;

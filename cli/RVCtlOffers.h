@@ -12,6 +12,8 @@
 #include <QList>
 #include <QVector>
 
+class QCommandLineOption;
+class QCommandLineParser;
 class RVCtlAccess;
 
 /// What one section offers after a refresh: the window's table and what is missing from it.
@@ -29,9 +31,13 @@ public:
         RVProposal proposal;
         /// Its place among the repository's entries, or -1.
         int index = -1;
+        /// The image that the device runs.
+        bool isRunning = false;
 
         bool isOffered() const { return reason == RVEligibility::Offered; }
-        bool isNew() const { return isOffered() && !proposal.upToDate; }
+        bool isNew() const { return isOffered() && !proposal.upToDate && !isRunning; }
+        /// What the window proposes too, but for an image that runs.
+        bool isPreselected() const { return proposal.preselected && !isRunning; }
         /// As it is shown, in the user's language.
         QString name() const;
         /// The one that the package database knows.
@@ -68,10 +74,18 @@ public:
     bool hasNews() const;
     /// The update itself.
     RVData data(const Entry &entry) const;
-    /// The offered ones that the arguments name as NAME or NAME=VERSION, or, without any, those
-    /// that the window preselects; in the window's order, each once. Of several versions, NAME is
-    /// the first. False, and why, when one is not offered or more are named than can be picked.
-    bool choose(const QStringList &names, QVector<Entry> *chosen, QString *error) const;
+    enum class RunningImage {
+        Refuse, ///< it is never preselected, and cannot be named
+        Take, ///< as any other image
+    };
+    /// --reinstall, and what it says.
+    static QCommandLineOption reinstallOption();
+    static RunningImage runningImage(const QCommandLineParser &parser);
+    /// The offered ones that the arguments name as NAME or NAME=VERSION, or, without any, the
+    /// preselected ones; in the window's order, each once. Of several versions, NAME is the first.
+    /// False, and why, when one is not offered or more are named than can be picked.
+    bool choose(const QStringList &names, RunningImage runningImage, QVector<Entry> *chosen,
+                QString *error) const;
     /// The best match, also among what is not offered; null, and why, when there is none.
     const Entry *find(const QString &name, QString *error) const;
 

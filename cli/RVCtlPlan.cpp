@@ -105,7 +105,8 @@ RVCtlResult RVCtlCommands::plan(const RVCtlCall &call)
     }
     QString error;
     QVector<RVCtlOffers::Entry> chosen;
-    if (!section.choose(call.arguments.mid(1), &chosen, &error)) {
+    if (!section.choose(call.arguments.mid(1), RVCtlOffers::runningImage(call.parser), &chosen,
+                        &error)) {
         return RVCtlResult::failed(RVCtlExit::Usage, error);
     }
     const RVCtlBatch plan = RVCtlBatch::of(section, chosen, call.world.system());

@@ -86,7 +86,7 @@ local_run 0 '.version == "6.1.10" and .offered' details 0 tc-system=6.1.10
 local_run 0 '.contents | length == 2' details 1 SP-6.1.2-3
 local_run 0 '(.downloads | length) == 4 and .installer.program == "/bin/bash" and (.installer.script | contains("dpkg --install"))' plan 2
 local_run 0 '[.updates[].name] == ["tc-audio","tc-printing"]' plan 2 tc-printing tc-audio
-local_run 0 '(.downloads == []) and (.installer.script | contains("tc-system-6.1.2.dd.gz"))' plan image_uri tc-system=6.1.2
+local_run 0 '(.downloads == []) and (.installer.script | contains("tc-system-6.1.2.dd.gz"))' plan --reinstall image_uri tc-system=6.1.2
 local_run 0 '.installer.script == null and .installer.arguments == ["--extrdir=<directory of the archive>"]' plan sp_uri SP-6.1.2-3
 local_run 1 '[.findings[] | select(.severity != "notice") | .kind] == ["descriptor-no-thin-client","archive-without-descriptor"] and .error.code == 1' lint
 local_run 0 '.findings | length == 1 and .[0].kind == "other-model"' lint image_uri
