@@ -42,6 +42,8 @@ Q_SIGNALS:
     /// The installation has really begun. Every archive emits this one: a subclass that declared
     /// its own would hide it from whoever is connected to this class.
     void installStarted();
+    /// The user was asked and said no: the process ends at once, and well.
+    void installDeclined();
 
 protected:
     QUrl m_url;

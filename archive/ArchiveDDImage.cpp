@@ -117,6 +117,7 @@ void ArchiveDDImage::install(QProcess *proc)
     }
     if (!confirmed) {
         RVLogger().log(5, "Image installation aborted by user.");
+        Q_EMIT installDeclined();
         proc->start(m_paths.trueTool, QStringList());
         return;
     }

@@ -113,6 +113,8 @@ void ArchiveGeneric::install(QProcess *proc)
     const QSharedPointer<ArchiveBaseClass> backend = m_backend;
     connect(backend.data(), &ArchiveBaseClass::installStarted, this,
             &ArchiveGeneric::relayInstallStarted, Qt::UniqueConnection);
+    connect(backend.data(), &ArchiveBaseClass::installDeclined, this,
+            &ArchiveBaseClass::installDeclined, Qt::UniqueConnection);
     backend->install(proc);
 }
 

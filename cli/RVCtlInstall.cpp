@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "archive/ImageQuestion.h"
 #include "cli/RVCtlAccess.h"
 #include "cli/RVCtlBatch.h"
 #include "cli/RVCtlCommand.h"
@@ -25,32 +26,41 @@ namespace
 
 const QString yesOption = QStringLiteral("yes");
 
-/// A full image wipes the device: it needs a yes. False, and why, without one.
-bool isConfirmed(const RVCtlCall &call, const RVCtlBatch &batch, QString *error)
+/// A full image wipes the device: it needs a yes, or --yes.
+class Question : public ImageQuestion
 {
-    if (call.parser.isSet(yesOption)) {
-        return true;
+public:
+    explicit Question(const RVCtlCall &call)
+        : m_call(call)
+    {
     }
-    if (!RVCtlQuestion::canAsk()) {
-        *error = QStringLiteral("An image replaces everything on the device and restarts it, so it "
-                                "needs --yes. Nothing was started.");
-        return false;
+
+    bool confirmImageInstall() override
+    {
+        if (!certificateWarning.isEmpty()) {
+            m_call.messages.warning(certificateWarning.english());
+        }
+        // From a yes on nothing ends the run any more.
+        return (m_call.parser.isSet(yesOption) || ask()) && m_call.deadline.hold();
     }
-    const RVCtlOffers::Entry &image = batch.updates.constFirst();
-    call.messages.error(QStringLiteral("%1 %2 replaces everything on the device and restarts it.")
-                            .arg(image.name(), image.version()));
-    if (batch.items.first().entry.trust) {
-        call.messages.error(
-            QStringLiteral("It is read once now and compared with its sum, which reveals damage. "
-                           "After the restart the device fetches it again and checks nothing: a "
-                           "hostile server can then deliver another one."));
+
+private:
+    bool ask() const
+    {
+        m_call.messages.error(
+            QStringLiteral("%1 %2 replaces everything on the device and restarts it.")
+                .arg(name, version));
+        if (isChecked) {
+            m_call.messages.error(
+                QStringLiteral("It was read and compared with its sum, which reveals damage. "
+                               "After the restart the device fetches it again and checks nothing: "
+                               "a hostile server can then deliver another one."));
+        }
+        return RVCtlQuestion::isYes(QStringLiteral("Install it?"), &m_call.deadline);
     }
-    if (RVCtlQuestion::isYes(QStringLiteral("Install it?"), &call.deadline)) {
-        return true;
-    }
-    *error = QStringLiteral("The image was not confirmed. Nothing was started.");
-    return false;
-}
+
+    const RVCtlCall &m_call;
+};
 
 bool hasPackages(const RVCtlOffers &section)
 {
@@ -122,8 +132,11 @@ RVCtlResult RVCtlCommands::install(const RVCtlCall &call)
         return result;
     }
 
-    if (batch.isImage() && !isConfirmed(call, batch, &error)) {
-        return refused(RVCtlResult::failed(RVCtlExit::Usage, error));
+    if (batch.isImage() && !call.parser.isSet(yesOption) && !RVCtlQuestion::canAsk()) {
+        return refused(RVCtlResult::failed(
+            RVCtlExit::Usage,
+            QStringLiteral("An image replaces everything on the device and restarts it, so it "
+                           "needs --yes. Nothing was started.")));
     }
     const auto first = RVCtlObstacle::takeLocks(call, &preflight, batch.kind, lockTimeout);
     if (call.deadline.isOver()) {
@@ -141,7 +154,8 @@ RVCtlResult RVCtlCommands::install(const RVCtlCall &call)
     if (!obstacles.isEmpty()) {
         return refused(RVCtlObstacle::result(obstacles.constFirst()));
     }
-    RVCtlInstallRun run(call, &access, section, batch, &preflight, lockTimeout);
+    Question question(call);
+    RVCtlInstallRun run(call, &access, section, batch, &preflight, lockTimeout, &question);
     run.run();
     return run.result(result);
 }

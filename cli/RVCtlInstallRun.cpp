@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlInstallRun.h"
 
-#include "archive/ImageQuestion.h"
 #include "cli/RVCtlAccess.h"
 #include "cli/RVCtlArchive.h"
 #include "cli/RVCtlDeadline.h"
@@ -28,13 +27,6 @@
 namespace
 {
 
-/// It was asked before anything was started.
-class Confirmed : public ImageQuestion
-{
-public:
-    bool confirmImageInstall() override { return true; }
-};
-
 qint64 sizeOf(const RVData &data)
 {
     return qMax(data.descriptor()->size(), QFileInfo(data.archiveUrl().toLocalFile()).size());
@@ -49,13 +41,15 @@ bool isSameFile(const QUrl &a, const QUrl &b)
 
 RVCtlInstallRun::RVCtlInstallRun(const RVCtlCall &call, RVCtlAccess *access,
                                  const RVCtlOffers &section, const RVCtlBatch &batch,
-                                 RVPreflight *preflight, int lockTimeoutSeconds)
+                                 RVPreflight *preflight, int lockTimeoutSeconds,
+                                 ImageQuestion *question)
     : m_call(call)
     , m_access(access)
     , m_repository(*section.section().repository)
     , m_batch(batch)
     , m_preflight(preflight)
     , m_lockTimeoutSeconds(lockTimeoutSeconds)
+    , m_question(question)
     , m_isJson(call.parser.isSet(QStringLiteral("json")))
     , m_output(m_isJson ? (call.messages.isQuiet() ? nullptr : stderr) : stdout, &call.messages)
     , m_faults(batch.downloads.size())
@@ -91,12 +85,11 @@ bool RVCtlInstallRun::isDatabaseReady()
 
 void RVCtlInstallRun::run()
 {
-    Confirmed confirmed;
     m_process =
         std::make_unique<RVInstallProc>(m_batch.entries(), m_repository.user(),
                                         m_repository.password(), nullptr, m_call.world.paths());
     m_process->access = m_repository.access();
-    m_process->imageQuestion = &confirmed;
+    m_process->imageQuestion = m_question;
     if (m_preflight->runLock().handle() >= 0) {
         m_process->heldLocks.append(m_preflight->runLock().handle());
     }
@@ -206,6 +199,12 @@ void RVCtlInstallRun::archiveRefused(const QUrl &archive, const QString &reason)
             m_faults[i].text = reason;
         }
     }
+    if (m_batch.isImage()) {
+        // The one there is: the error of the run says it.
+        m_imageFault.kind = m_imageFault.isSet() ? m_imageFault.kind : RVCtlFault::Damaged;
+        m_imageFault.text = reason;
+        return;
+    }
     m_call.messages.error(QStringLiteral("%1: %2").arg(RVUrl::shown(archive), reason));
 }
 
@@ -218,7 +217,8 @@ void RVCtlInstallRun::beforeInstaller()
     const bool hasNothing = !m_faults.isEmpty() && faults() == m_faults.size();
     const bool isReady =
         !hasNothing && !m_call.deadline.isOver() && (!m_batch.isPackages() || isDatabaseReady());
-    if (!isReady || !m_call.deadline.hold()) {
+    // An image may still be answered with a no: its question holds the deadline.
+    if (!isReady || (!m_batch.isImage() && !m_call.deadline.hold())) {
         m_process->cancel();
         return;
     }
@@ -321,6 +321,10 @@ void RVCtlInstallRun::judge(RVCtlResult *result) const
     if (m_imageFault.isSet()) {
         fail(RVCtlFault::exitFor({m_imageFault}),
              QStringLiteral("Nothing was installed: %1").arg(m_imageFault.text));
+        return;
+    }
+    if (m_process->isDeclined()) {
+        fail(RVCtlExit::Usage, QStringLiteral("The image was not confirmed. Nothing was started."));
         return;
     }
     if (m_refusal) {

@@ -16,6 +16,7 @@
 #include <QVector>
 
 class QAuthenticator;
+class ImageQuestion;
 class RVCtlAccess;
 class RVInstallProc;
 
@@ -28,7 +29,8 @@ class RVCtlInstallRun : public QObject
 
 public:
     RVCtlInstallRun(const RVCtlCall &call, RVCtlAccess *access, const RVCtlOffers &section,
-                    const RVCtlBatch &batch, RVPreflight *preflight, int lockTimeoutSeconds);
+                    const RVCtlBatch &batch, RVPreflight *preflight, int lockTimeoutSeconds,
+                    ImageQuestion *question);
     ~RVCtlInstallRun() override;
 
     /// Runs an event loop until there is nothing more to come.
@@ -65,6 +67,7 @@ private:
     const RVCtlBatch &m_batch;
     RVPreflight *m_preflight;
     const int m_lockTimeoutSeconds;
+    ImageQuestion *m_question;
     const bool m_isJson;
 
     std::unique_ptr<RVInstallProc> m_process;

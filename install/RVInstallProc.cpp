@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "install/RVInstallProc.h"
 
+#include "archive/ImageQuestion.h"
 #include "core/LocalCopy.h"
 #include "core/RVLimits.h"
 #include "core/RVLogger.h"
 #include "core/RVSum.h"
 #include "core/RVUrl.h"
+#include "descriptor/DataXML.h"
 #include "descriptor/DescriptorGeneric.h"
+#include "install/RVImageCheck.h"
 #include "install/RVInstallerEnvironment.h"
 #include "install/RVShown.h"
 #include "network/XHttpReply.h"
@@ -17,7 +20,6 @@
 #include <plume/TemporaryDir.h>
 
 #include <QAuthenticator>
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -30,9 +32,6 @@
 
 namespace
 {
-
-constexpr int pieceSize = 64 * 1024;
-constexpr qint64 largestImage = qint64(64) << 30;
 
 bool isPackage(const QUrl &url)
 {
@@ -135,6 +134,8 @@ void RVInstallProc::start()
     m_unfit.clear();
     m_isFresh = false;
     m_hasRefused = false;
+    m_isDeclined = false;
+    m_certificateWarning = {};
     for (const RVData &entry : m_entries) {
         // It may be long since the list was read.
         const RVTrustFault fault = entry.trust ? entry.trust->judgeTime() : RVTrustFault();
@@ -143,12 +144,12 @@ void RVInstallProc::start()
             return;
         }
     }
+    if (m_entries.first().archive()->isImage()) {
+        startImageCheck();
+        return;
+    }
     if (!m_entries.first().archive()->useExtract()) {
-        if (m_entries.first().trust) {
-            startImageCheck();
-        } else {
-            Q_EMIT extractFinished();
-        }
+        Q_EMIT extractFinished();
         return;
     }
     m_replies.fill(nullptr, m_entries.size());
@@ -164,12 +165,17 @@ void RVInstallProc::start()
 void RVInstallProc::cancel()
 {
     RVLogger().log(5, "INSTALL FETCH CANCEL, KILLING %d FETCHES",
-                   static_cast<int>(m_pending.size()));
+                   static_cast<int>(m_pending.size()) + (m_imageCheck ? 1 : 0));
     // A second final signal would be taken for a second installation.
     if (m_state == State::Installing || m_state == State::Ended) {
         return;
     }
     m_state = State::Ended;
+    if (m_imageCheck) {
+        m_imageCheck->disconnect(this);
+        m_imageCheck->deleteLater();
+        m_imageCheck = nullptr;
+    }
     // Emptied first: what still arrives from these downloads is not theirs any more to unpack.
     QList<QPointer<QNetworkReply>> replies;
     const QMap<ArchiveGeneric *, QNetworkReply *> pending = std::exchange(m_pending, {});
@@ -318,7 +324,7 @@ void RVInstallProc::renewList()
             return;
         }
         const QList<int> unfit = std::exchange(m_unfit, {});
-        if (!m_entries.first().archive()->useExtract()) {
+        if (m_entries.first().archive()->isImage()) {
             startImageCheck();
             return;
         }
@@ -336,66 +342,55 @@ void RVInstallProc::renewList()
     trust->load(true);
 }
 
-// Which finds damage: the device fetches the image again, from a server that may give another one
-// then.
+// What is found is damage: the device fetches the image again, from a server that may give another
+// one then.
 void RVInstallProc::startImageCheck()
 {
     const RVData &entry = m_entries.first();
-    const QUrl &url = entry.archiveUrl();
-    ArchiveGeneric *archive = entry.archive().data();
-    m_expectedTotal = entry.descriptor() ? entry.descriptor()->size() : -1;
-    m_replies.fill(nullptr, 1);
-    m_received.fill(0, 1);
-    m_imageSum = std::make_unique<QCryptographicHash>(QCryptographicHash::Sha256);
-    auto *manager = new XNetworkAccessManager(this);
-    access.configure(manager, url);
-    // Nothing of it is kept.
-    manager->bodyLimit = largestImage;
-    connect(manager, &QNetworkAccessManager::authenticationRequired, this,
-            &RVInstallProc::relayAuthenticationRequired);
-    connect(manager, &QNetworkAccessManager::proxyAuthenticationRequired, this,
-            &RVInstallProc::relayProxyAuthenticationRequired);
-    connect(manager, &QNetworkAccessManager::sslErrors, this, &RVInstallProc::relaySslErrors);
-    QNetworkReply *reply = manager->get(RVTrust::request(access.withLogin(url), m_isFresh));
-    m_pending.insert(archive, reply);
-    m_replies[0] = reply;
-    connect(reply, &QNetworkReply::downloadProgress, this, &RVInstallProc::progress);
-    connect(reply, &QNetworkReply::errorOccurred, this, &RVInstallProc::relayNetworkError);
-    connect(reply, &QIODevice::readyRead, this, [this, reply] {
-        readImage(reply);
-    });
-    connect(reply, &QNetworkReply::finished, this, [this, archive, reply] {
-        reply->deleteLater();
-        reply->manager()->deleteLater();
-        m_replies[0] = nullptr;
-        if (m_pending.take(archive) != reply) {
-            return;
-        }
-        const RVData &entry = m_entries.first();
-        if (reply->error() != QNetworkReply::NoError) {
-            fail(QStringLiteral("The image cannot be read: %1").arg(reply->errorString()));
-            return;
-        }
-        readImage(reply);
-        const RVTrustFault fault = entry.trust->judge(entry.archiveUrl(), m_imageSum->result());
-        if (!fault.isSet()) {
-            Q_EMIT extractFinished();
-        } else if (m_isFresh) {
-            failTrust(fault);
-        } else {
-            m_unfit = {0};
-            renewList();
+    const auto reads = entry.trust ? RVImageCheck::Reads::All : RVImageCheck::Reads::Head;
+    const qint64 size = entry.trust && entry.descriptor() ? entry.descriptor()->size() : -1;
+    m_imageCheck = new RVImageCheck(entry, access, reads, m_isFresh, this);
+    connect(m_imageCheck, &RVImageCheck::networkError, this, &RVInstallProc::networkError);
+    connect(m_imageCheck, &RVImageCheck::sslErrors, this, &RVInstallProc::relaySslErrors);
+    connect(m_imageCheck, &RVImageCheck::progress, this, [this, size](qint64 bytesReceived) {
+        if (size > 0) {
+            Q_EMIT downloadProgress(qMin(bytesReceived, size), size);
         }
     });
+    connect(m_imageCheck, &RVImageCheck::finished, this, &RVInstallProc::imageChecked);
+    m_imageCheck->start();
 }
 
-void RVInstallProc::readImage(QNetworkReply *reply)
+void RVInstallProc::imageChecked()
 {
-    QByteArray piece(pieceSize, Qt::Uninitialized);
-    qint64 length = 0;
-    while ((length = reply->read(piece.data(), piece.size())) > 0) {
-        m_imageSum->addData(piece.constData(), static_cast<int>(length));
+    const RVImageCheck &check = *m_imageCheck;
+    const RVData &entry = m_entries.first();
+    m_imageCheck->deleteLater();
+    m_imageCheck = nullptr;
+    if (m_state != State::Downloading) {
+        return;
     }
+    if (entry.trust && !check.hasFailed()) {
+        const RVTrustFault fault = entry.trust->judge(entry.archiveUrl(), check.sum());
+        if (fault.isSet() && m_isFresh) {
+            failTrust(fault);
+            return;
+        }
+        if (fault.isSet()) {
+            m_unfit = {0};
+            renewList();
+            return;
+        }
+    }
+    if (!check.fault().isEmpty()) {
+        m_hasRefused = true;
+        const QString reason = check.fault().english();
+        Q_EMIT archiveRefused(entry.archiveUrl(), check.fault().translated());
+        fail(reason);
+        return;
+    }
+    m_certificateWarning = check.certificateWarning();
+    Q_EMIT extractFinished();
 }
 
 void RVInstallProc::failTrust(const RVTrustFault &fault)
@@ -475,8 +470,20 @@ void RVInstallProc::startInstallation()
     }
     connect(first.data(), &ArchiveGeneric::installStarted, this,
             &RVInstallProc::relayInstallStarted, Qt::UniqueConnection);
+    connect(first.data(), &ArchiveGeneric::installDeclined, this, [this] {
+        m_isDeclined = true;
+    });
     if (access.hasProxy()) {
         first->setProxy(proxyHost, proxyPort);
+    }
+    if (imageQuestion && first->isImage()) {
+        const RVData &entry = m_entries.first();
+        const auto &descriptor = entry.descriptor();
+        imageQuestion->name = descriptor ? DataXML::plainText(descriptor->name({})) : QString();
+        imageQuestion->version =
+            descriptor ? DataXML::plainText(descriptor->version().toString()) : QString();
+        imageQuestion->isChecked = !entry.trust.isNull();
+        imageQuestion->certificateWarning = m_certificateWarning;
     }
     first->setImageQuestion(imageQuestion);
     first->install(this);

@@ -22,7 +22,7 @@
 
 class ImageQuestion;
 class QFile;
-class QCryptographicHash;
+class RVImageCheck;
 class TemporaryDir;
 
 /// Downloads and unpacks a batch of updates and is itself the process in which their installer
@@ -71,8 +71,12 @@ public:
     /// installer says.
     bool hasRefused() const { return m_hasRefused; }
 
+    /// Whether there was no yes to an image: nothing was installed, and nothing failed. The process
+    /// ends with exit code 0 then.
+    bool isDeclined() const { return m_isDeclined; }
+
 public Q_SLOTS:
-    /// Starts the downloads, or the installation at once when the first archive is not extracted.
+    /// Starts the downloads, or the check of an image, which is not downloaded.
     /// Makes a temporary directory the process's current one. Nothing while an earlier start() is
     /// under way.
     void start();
@@ -128,7 +132,7 @@ private:
     void startDownloads();
     void startDownload(int index);
     void startImageCheck();
-    void readImage(QNetworkReply *reply);
+    void imageChecked();
     void downloadFinished(ArchiveGeneric *archive, QNetworkReply *reply);
     void extractCopy(int index, QNetworkReply *reply);
     bool isAsShown(const RVData &entry, QFile *file);
@@ -159,5 +163,9 @@ private:
     bool m_isFresh = false;
     RVTrustFault m_trustFault;
     bool m_hasRefused = false;
-    std::unique_ptr<QCryptographicHash> m_imageSum;
+    bool m_isDeclined = false;
+    /// While it is under way.
+    RVImageCheck *m_imageCheck = nullptr;
+    /// For the question.
+    RVSentence m_certificateWarning;
 };

@@ -12,11 +12,8 @@ class ImageInstallBox : public ImageQuestion
 public:
     explicit ImageInstallBox(const RVPaths &paths = {});
 
-    /// Whether the image was compared with a list of sums before, and what that means is said.
-    void setChecked(bool isChecked) { m_isChecked = isChecked; }
     bool confirmImageInstall() override;
 
 private:
     const RVPaths m_paths;
-    bool m_isChecked = false;
 };

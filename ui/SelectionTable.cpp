@@ -239,7 +239,6 @@ void SelectionTable::install()
         if (m_entries.at(row).descriptor()
             && item(row, ChoiceColumn)->checkState() == Qt::Checked) {
             batch.append(m_entries.at(row));
-            m_rows[row].proposed = Qt::Checked;
         }
     }
     if (batch.isEmpty()) {
@@ -248,7 +247,6 @@ void SelectionTable::install()
     m_procedure =
         new RVInstallProc(batch, m_access.login.user, m_access.login.password, this, m_paths);
     m_procedure->access = m_access;
-    m_imageQuestion.setChecked(!batch.first().trust.isNull());
     m_procedure->imageQuestion = &m_imageQuestion;
     connect(m_procedure, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
             &SelectionTable::incInstallFinished);
@@ -319,6 +317,12 @@ void SelectionTable::incInstallFinished(int exitCode, QProcess::ExitStatus)
     }
     if (exitCode != 0 || (m_procedure && m_procedure->hasRefused())) {
         Q_EMIT installError();
+    } else if (m_procedure && m_procedure->isDeclined()) {
+        // As after a cancel, there is nothing to show.
+        m_busyDialog->hide();
+        m_busyDialog->deleteLater();
+    } else {
+        takeChoicesAsDone();
     }
     endInstallation();
 }
@@ -515,6 +519,15 @@ void SelectionTable::fitToContents()
     }
     resizeRowsToContents();
     updateGeometry();
+}
+
+void SelectionTable::takeChoicesAsDone()
+{
+    for (int row = 0; row < m_rows.size(); ++row) {
+        if (item(row, ChoiceColumn)->checkState() == Qt::Checked) {
+            m_rows[row].proposed = Qt::Checked;
+        }
+    }
 }
 
 void SelectionTable::endInstallation()

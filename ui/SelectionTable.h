@@ -117,6 +117,7 @@ private:
     void retranslateDialog();
     void applyFonts();
     void fitToContents();
+    void takeChoicesAsDone();
     void endInstallation();
 
     const RVPaths m_paths;

@@ -7,6 +7,7 @@
 #include "tests/support/LogFile.h"
 #include "tests/support/WarningGuard.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QMap>
@@ -860,20 +861,33 @@ void tst_ArchiveDDImage::isAskedThroughTheProcedure_data()
 void tst_ArchiveDDImage::isAskedThroughTheProcedure()
 {
     QFETCH(bool, confirmed);
-    const QUrl url(QStringLiteral("http://h/x.dd.gz"));
+    const QString file = m_root->path() + QStringLiteral("/x.dd.gz");
+    FakeRoot::write(file, QByteArray("\x1f\x8b\x08", 3) + QByteArray(20, 'i'));
     Answer answer(confirmed);
     {
-        RVInstallProc procedure(
-            RVData(url, QUrl(QStringLiteral("http://h/x.xml")), nullptr, m_root->paths()), nullptr,
-            m_root->paths());
+        const RVData entry(QUrl::fromLocalFile(file), QUrl(QStringLiteral("http://h/x.xml")),
+                           nullptr, m_root->paths());
+        QBuffer descriptor;
+        descriptor.setData("<update_data><name>tc-system</name><version>6&lt;7</version>"
+                           "</update_data>");
+        QVERIFY(entry.descriptor()->read(&descriptor));
+        RVInstallProc procedure(entry, nullptr, m_root->paths());
         procedure.imageQuestion = &answer;
         QSignalSpy started(&procedure, &RVInstallProc::installStarted);
+        qRegisterMetaType<QProcess::ExitStatus>();
+        QSignalSpy finished(&procedure, qOverload<int, QProcess::ExitStatus>(&QProcess::finished));
         procedure.start();
-        QVERIFY(procedure.waitForFinished(10000));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
         QCOMPARE(procedure.exitCode(), 0);
         QCOMPARE(started.count(), confirmed ? 1 : 0);
+        QCOMPARE(procedure.isDeclined(), !confirmed);
+        QVERIFY(entry.archive()->orderFault().isEmpty() == confirmed);
     }
     QCOMPARE(answer.count, 1);
+    QCOMPARE(answer.name, QStringLiteral("tc-system"));
+    QCOMPARE(answer.version, QStringLiteral("6<7"));
+    QVERIFY(!answer.isChecked);
+    QVERIFY(answer.certificateWarning.isEmpty());
     QCOMPARE(QFile::exists(m_root->path() + QStringLiteral("/reboot.log")), confirmed);
 }
 

@@ -91,12 +91,13 @@ same packs SP-6.1.2-3=3
 expected=8 same packs
 same images tc-system=6.2.0
 check "the image is noted" grep -q 'tc-system-6.2.0.dd.gz' "$root/etc/auto-update/new_image"
-same images tc-system=6.1.2
+same images tc-system=6.1.2 --reinstall
 expected=8 same images
 fresh
+"$ravelctl" --quiet --root "$root" proxy http "127.0.0.1:$(port proxyopen)" >/dev/null
+same images tc-system=6.2.0
+check "the device uses the proxy too" grep -q "remote-deploy.proxy=127.0.0.1:$(port proxyopen)" "$root/writable/CV/Snapstow.conf"
 "$ravelctl" --quiet --root "$root" proxy http "127.0.0.1:$(port proxy)" >/dev/null
-same images tc-system=6.2.0 --proxy-user anna --proxy-password-file "$work/password"
-check "the device uses the proxy too" grep -q "remote-deploy.proxy=127.0.0.1:$(port proxy)" "$root/writable/CV/Snapstow.conf"
 same plain --proxy-user anna --proxy-password-file "$work/password"
 check "all of it went through the proxy" sh -c '[ -s "$0" ] && ! grep -qv "^proxy" "$0"' "$work/requests"
 run 3 '.repositories[0].error.code == 105' list plain --proxy-user anna --proxy-password-file "$work/wrong"

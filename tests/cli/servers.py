@@ -13,9 +13,11 @@ part    HTTP, but no file whose name holds "tc-audio" and ends in ".xml"
 ftp     FTP, for the same user
 noaudio HTTP, but not the package of tc-audio
 nodebs  HTTP, but no package
+noimage HTTP, but no image
 short   HTTP, but connections are cut in the middle of packages
 slow    HTTP, but packages stop in their middle for as long as the client waits
 proxy   an HTTP proxy for the same user, which answers for every server
+proxyopen  the same for everybody
 
 Every request's first line goes to LOG.
 """
@@ -52,6 +54,9 @@ class Handler(http.server.SimpleHTTPRequestHandler):
         if self.name == "part" and "tc-audio" in self.path and self.path.endswith(".xml"):
             self.send_error(404)
             return None
+        if self.name == "noimage" and self.path.endswith(".dd.gz"):
+            self.send_error(404)
+            return None
         if self.path.endswith(".deb"):
             if self.name == "nodebs" or (self.name == "noaudio" and "tc-audio" in self.path):
                 self.send_error(404)
@@ -59,8 +64,8 @@ class Handler(http.server.SimpleHTTPRequestHandler):
             if self.name in ("short", "slow"):
                 self.send_half()
                 return None
-        if self.name == "proxy":
-            if self.headers.get("Proxy-Authorization") != SECRET:
+        if self.name in ("proxy", "proxyopen"):
+            if self.name == "proxy" and self.headers.get("Proxy-Authorization") != SECRET:
                 self.send_response(407)
                 self.send_header("Proxy-Authenticate", 'Basic realm="proxy"')
                 self.send_header("Content-Length", "0")
@@ -101,7 +106,7 @@ pathlib.Path(LOG).touch()
 serve("plain")
 serve("login")
 serve("part")
-for kind in ("noaudio", "nodebs", "short", "slow", "proxy"):
+for kind in ("noaudio", "nodebs", "noimage", "short", "slow", "proxy", "proxyopen"):
     serve(kind)
 serve("tls", CERTIFICATE)
 FTPHandler.authorizer = DummyAuthorizer()

@@ -6,6 +6,7 @@
 #include "ui/RVStyle.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -17,10 +18,8 @@ namespace
 {
 
 /// Asks, and does `act` with the box as soon as it is open.
-bool ask(const std::function<void(QMessageBox *)> &act, bool isChecked = false)
+bool ask(ImageInstallBox &question, const std::function<void(QMessageBox *)> &act)
 {
-    ImageInstallBox question;
-    question.setChecked(isChecked);
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
@@ -31,6 +30,13 @@ bool ask(const std::function<void(QMessageBox *)> &act, bool isChecked = false)
     });
     timer.start(0);
     return question.confirmImageInstall();
+}
+
+bool ask(const std::function<void(QMessageBox *)> &act, bool isChecked = false)
+{
+    ImageInstallBox question;
+    question.isChecked = isChecked;
+    return ask(question, act);
 }
 
 QImage picture(const QIcon &icon)
@@ -47,6 +53,7 @@ class tst_ImageInstallBox : public QObject
 private Q_SLOTS:
     void saysWhatWillHappen();
     void saysWhatACheckFinds();
+    void saysWhichImage();
     void answers_data();
     void answers();
 };
@@ -90,6 +97,30 @@ void tst_ImageInstallBox::saysWhatACheckFinds()
             },
             isChecked);
     }
+}
+
+void tst_ImageInstallBox::saysWhichImage()
+{
+    const LogFile log;
+    WarningGuard warnings;
+    ImageInstallBox question;
+    question.name = QStringLiteral("<b>tc-system</b>\u202e\n");
+    question.version = QStringLiteral("6.2.0");
+    question.certificateWarning = RVSentence("Do not trust %1.", {QStringLiteral("<i>h</i>")});
+    ask(question, [](QMessageBox *box) {
+        // The turning of the text is gone, and no markup is left to work.
+        QVERIFY(box->informativeText().startsWith(QStringLiteral(
+            "<b>tc-system</b>  6.2.0\n\nDo not trust <i>h</i>.\n\nInstallation of")));
+        for (const QLabel *label : box->findChildren<QLabel *>()) {
+            if (label->text() == box->informativeText()) {
+                QCOMPARE(label->textFormat(), Qt::PlainText);
+                box->reject();
+                return;
+            }
+        }
+        box->reject();
+        QFAIL("no label");
+    });
 }
 
 void tst_ImageInstallBox::answers_data()
