@@ -69,7 +69,10 @@ RVInstallProc::RVInstallProc(const QList<RVData> &entries, const QString &user,
     connect(this, &QProcess::stateChanged, this, [this](QProcess::ProcessState state) {
         switch (state) {
         case QProcess::Starting:
-            m_keeper.prepare(processChannelMode() == MergedChannels, heldLocks);
+            // After a no there is no run to be remembered.
+            if (!m_isDeclined) {
+                m_keeper.prepare(processChannelMode() == MergedChannels, heldLocks);
+            }
             break;
         case QProcess::Running:
             m_keeper.release();
@@ -107,7 +110,9 @@ RVInstallProc::~RVInstallProc()
 
 void RVInstallProc::setupChildProcess()
 {
-    m_keeper.keep();
+    if (!m_isDeclined) {
+        m_keeper.keep();
+    }
 }
 
 void RVInstallProc::start()
