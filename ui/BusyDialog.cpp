@@ -532,6 +532,11 @@ void BusyDialog::showFault(const QString &text)
     scrollToEnd();
 }
 
+void BusyDialog::showOutput(const QByteArray &bytes)
+{
+    append(m_standardOutput, bytes);
+}
+
 void BusyDialog::logContents()
 {
     flushOutput();

@@ -66,6 +66,8 @@ public Q_SLOTS:
     void processError(QProcess::ProcessError err);
     /// Why nothing is installed, in the details.
     void showFault(const QString &text);
+    /// Of something other than the process that is followed.
+    void showOutput(const QByteArray &bytes);
     void logContents();
     /// Bytes; shown as whole KiB.
     void progress(qint64 bytesReceived, qint64 bytesTotal);

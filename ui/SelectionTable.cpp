@@ -10,6 +10,7 @@
 #include "ui/BusyDialog.h"
 #include "ui/ItemDetailsDialog.h"
 #include "ui/RVChoiceItem.h"
+#include "ui/RVInstallGate.h"
 #include "ui/RVItalics.h"
 #include "ui/TableLabelItem.h"
 #include "ui/TableRadioButtonItem.h"
@@ -235,14 +236,22 @@ void SelectionTable::install()
         return;
     }
     QList<RVData> batch;
+    QStringList installed;
     for (int row = 0; row < m_rows.size(); ++row) {
         if (m_entries.at(row).descriptor()
             && item(row, ChoiceColumn)->checkState() == Qt::Checked) {
             batch.append(m_entries.at(row));
+            installed.append(m_rows.at(row).current == VersionKnown
+                                 ? item(row, InstalledColumn)->text()
+                                 : QString());
         }
     }
     if (batch.isEmpty()) {
         return;
+    }
+    RVBatch chosen = RVBatch::of(batch, nullptr);
+    for (int i = 0; i < chosen.items.size(); ++i) {
+        chosen.items[i].installed = installed.at(i);
     }
     m_procedure =
         new RVInstallProc(batch, m_access.login.user, m_access.login.password, this, m_paths);
@@ -273,7 +282,14 @@ void SelectionTable::install()
     // After the dialog's: it has said what happened when relayProcessError() ends the installation.
     connect(m_procedure, &QProcess::errorOccurred, this, &SelectionTable::relayProcessError);
     dialog->show();
-    m_procedure->start();
+    auto *gate = new RVInstallGate(chosen, m_paths, dialog, m_procedure);
+    gate->patience = m_patience;
+    connect(gate, &RVInstallGate::passed, m_procedure, [this, gate] {
+        retranslateDialog();
+        m_procedure->heldLocks = gate->heldLocks();
+        m_procedure->start();
+    });
+    gate->start();
 }
 
 void SelectionTable::setAuthenticationCredentials(const QString &user, const QString &password)

@@ -63,6 +63,8 @@ public:
     void setProxy(const QString &host, int port);
     /// What the installation's transfers are given: the repository's.
     void setAccess(const RVAccess &access) { m_access = access; }
+    /// How many seconds an installation waits for locks before it asks the user.
+    void setPatience(int seconds) { m_patience = seconds; }
     /// Between install() and installFinished().
     bool isInstalling() const { return m_procedure != nullptr; }
 
@@ -132,4 +134,5 @@ private:
     RVInstallProc *m_procedure = nullptr;
     QPointer<BusyDialog> m_busyDialog;
     bool m_isRetrieving = false;
+    int m_patience = 60;
 };

@@ -5,6 +5,7 @@
 #include "install/RVPreflight.h"
 #include "tests/support/FakeRoot.h"
 #include "tests/support/InChild.h"
+#include "tests/support/Locker.h"
 #include "tests/support/OrdinaryUser.h"
 
 #include <QBuffer>
@@ -12,67 +13,13 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <csignal>
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace
 {
 
 using Kind = RVObstacle::Kind;
-
-/// Another process that holds a lock of the package tool's kind until it is told to let go.
-class Locker
-{
-public:
-    explicit Locker(const QString &file)
-    {
-        int ready[2];
-        int gate[2];
-        if (::pipe(ready) != 0 || ::pipe(gate) != 0) {
-            return;
-        }
-        const QByteArray name = QFile::encodeName(file);
-        m_process = ::fork();
-        if (m_process == 0) {
-            ::close(gate[1]);
-            const int handle = ::open(name.constData(), O_RDWR | O_CREAT, 0640);
-            struct flock lock = {};
-            lock.l_type = F_WRLCK;
-            lock.l_whence = SEEK_SET;
-            char byte = ::fcntl(handle, F_SETLK, &lock) == 0 ? 'y' : 'n';
-            const bool isTold = ::write(ready[1], &byte, 1) == 1;
-            ::_exit(isTold && ::read(gate[0], &byte, 1) == 0 ? 0 : 1);
-        }
-        char byte = 0;
-        m_isHeld = ::read(ready[0], &byte, 1) == 1 && byte == 'y';
-        ::close(ready[0]);
-        ::close(ready[1]);
-        ::close(gate[0]);
-        m_gate = gate[1];
-    }
-    ~Locker() { release(); }
-
-    bool isHeld() const { return m_isHeld; }
-    QString process() const { return QString::number(m_process); }
-    void release()
-    {
-        if (m_gate >= 0) {
-            ::close(m_gate);
-            m_gate = -1;
-            ::waitpid(m_process, nullptr, 0);
-        }
-    }
-
-private:
-    Q_DISABLE_COPY_MOVE(Locker)
-
-    pid_t m_process = -1;
-    int m_gate = -1;
-    bool m_isHeld = false;
-};
 
 RVData described(const RVPaths &paths, const char *archive, const QByteArray &fields = {})
 {

@@ -28,6 +28,7 @@ UpdateWorld::UpdateWorld()
 {
     QDir(m_dir.path()).mkdir(QStringLiteral("repository"));
     m_paths.shell = file(QStringLiteral("installer"));
+    m_paths.packageDatabase = file(QStringLiteral("dpkg"));
     setInstaller("exit 0");
 }
 

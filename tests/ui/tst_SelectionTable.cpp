@@ -877,9 +877,6 @@ void tst_SelectionTable::reportsTheEnd()
     QFETCH(QByteArray, installer);
     QFETCH(QStringList, log);
     m_world->setInstaller(installer);
-    if (installer.isEmpty()) {
-        m_world->removeInstaller();
-    }
     QWidget window;
     Table table({m_world->entry(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("1"))},
                 Table::CheckBoxes, m_system.get(), &window, m_world->paths());
@@ -892,6 +889,10 @@ void tst_SelectionTable::reportsTheEnd()
         order.append(table.isInstalling() ? QStringLiteral("busy") : QStringLiteral("finished"));
     });
     table.install();
+    if (installer.isEmpty()) {
+        // It was there when it was looked for.
+        m_world->removeInstaller();
+    }
     QVERIFY(table.isInstalling());
     const QPointer<RVInstallProc> procedure = table.findChild<RVInstallProc *>();
     QVERIFY(procedure);
