@@ -18,7 +18,7 @@ namespace
 /// What no description tells.
 const QStringList unforeseen{
     QStringLiteral("what the scripts of packages and service packs do"),
-    QStringLiteral("needs and conflicts of packages that are described beside themselves"),
+    QStringLiteral("needs and conflicts of packages"),
     QStringLiteral("files that several packages have"),
     QStringLiteral("damage inside an archive"),
 };
