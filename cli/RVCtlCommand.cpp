@@ -27,6 +27,8 @@ const std::vector<RVCtlCommand> &RVCtlCommand::all()
          "Download and install updates, by default those that the window preselects."},
         {"repair", "", 0, 0, 0, repairOptions(), repair,
          "Set right what an interrupted installation of packages left."},
+        {"history", "[SECTION or NAME]", 0, 1, never, historyOptions(), history,
+         "Show what was installed, when, by whom and how it ended."},
         {"download", "SECTION [NAME...] --to DIR", 1, anyNumber, never, downloadOptions(), download,
          "Download updates into a folder that is itself a repository."},
         {"lint", "[FILE or SECTION...]", 0, anyNumber, never, lintOptions(), lint,

@@ -31,7 +31,7 @@ completes()
 }
 
 complete -p ravelctl >/dev/null
-completes 'status repos list explain details plan install repair download lint location proxy trust sums' ''
+completes 'status repos list explain details plan install repair history download lint location proxy trust sums' ''
 completes 'plan proxy' p
 completes 'list lint location' --json l
 completes 'list' --root /x lis
