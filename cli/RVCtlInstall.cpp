@@ -12,6 +12,7 @@
 #include "cli/RVCtlQuestion.h"
 #include "cli/RVCtlTrust.h"
 #include "core/RVLogger.h"
+#include "install/RVHistory.h"
 #include "install/RVPackageDatabase.h"
 
 #include <QCommandLineParser>
@@ -99,6 +100,7 @@ RVCtlResult RVCtlCommands::install(const RVCtlCall &call)
     if (!RVCtlOffers::read(call, call.arguments.mid(0, 1), &access, &sections, &result)) {
         return result;
     }
+    RVHistory(call.world.paths()).closeOpen(RVHistory::judgeBy(&call.world.system()));
     const RVCtlOffers &section = sections.constFirst();
     RVCtlOffers::judge(sections, &result);
     if (section.failure().isSet()) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "install/RVHistory.h"
 
+#include "core/OSInfoBaseClass.h"
 #include "core/RVLogger.h"
 #include "core/RVOwnFolder.h"
 #include "core/RVUrl.h"
@@ -84,9 +85,9 @@ QJsonObject toJson(const RVHistory::Item &item, bool isBegin, bool isEnd)
 {
     QJsonObject object;
     put(&object, "name", item.name);
+    put(&object, "from", item.from);
+    put(&object, "to", item.to);
     if (isBegin) {
-        put(&object, "from", item.from);
-        put(&object, "to", item.to);
         put(&object, "source", item.source);
         put(&object, "signer", item.signer);
     }
@@ -136,6 +137,7 @@ QByteArray beginLine(const RVHistory::Run &run)
                      {QStringLiteral("begin"), QString::fromLatin1(run.processBegin)}}},
     };
     put(&object, "section", run.section);
+    put(&object, "kind", run.kind);
     return lineOf(object, run, true);
 }
 
@@ -169,6 +171,7 @@ bool readBegin(const QJsonObject &object, RVHistory::Run *run)
     run->sudoUser = textOf(by, "sudoUser");
     run->face = textOf(by, "face");
     run->section = textOf(object, "section");
+    run->kind = textOf(object, "kind");
     const QJsonObject process = object.value(QStringLiteral("process")).toObject();
     run->process = static_cast<qint64>(process.value(QStringLiteral("id")).toDouble());
     run->processBegin = process.value(QStringLiteral("begin")).toString().toLatin1();
@@ -205,6 +208,8 @@ bool readEnd(const QJsonObject &object, RVHistory::Run *run)
     for (int i = 0; i < run->items.size() && i < items.size(); ++i) {
         const QJsonObject item = items.at(i).toObject();
         if (textOf(item, "name") == run->items.at(i).name) {
+            run->items[i].from = textOf(item, "from");
+            run->items[i].to = textOf(item, "to");
             run->items[i].state = textOf(item, "state");
             run->items[i].reason = textOf(item, "reason");
         }
@@ -312,6 +317,48 @@ bool Reader::readLine(const QByteArray &line)
     return false;
 }
 
+const QString packages = QStringLiteral("packages");
+const QString servicePacks = QStringLiteral("service-packs");
+const QString image = QStringLiteral("image");
+
+QString kindWord(RVBatch::Kind kind)
+{
+    switch (kind) {
+    case RVBatch::Kind::Packages:
+        return packages;
+    case RVBatch::Kind::ServicePacks:
+        return servicePacks;
+    case RVBatch::Kind::Image:
+        return image;
+    case RVBatch::Kind::Nothing:
+    case RVBatch::Kind::Unknown:
+        break;
+    }
+    return QStringLiteral("unknown");
+}
+
+bool isSame(const VersionString &a, const QString &b)
+{
+    return a.compare(VersionString(b), Qt::CaseSensitive) == 0;
+}
+
+bool isOnSystem(const RVHistory::Run &run, const RVHistory::Item &item,
+                const OSInfoBaseClass &system)
+{
+    if (run.kind == packages) {
+        const QString installed = system.versionInstalled(item.name);
+        return !installed.isEmpty() && isSame(VersionString(installed), item.to);
+    }
+    if (run.kind == image) {
+        return isSame(system.baseOSName(), item.to);
+    }
+    const QList<VersionString> packs = system.servicePackList();
+    return run.kind == servicePacks
+        && std::any_of(packs.cbegin(), packs.cend(), [&item](const VersionString &pack) {
+               return isSame(pack, item.name);
+           });
+}
+
 QString systemFolder(const RVPaths &paths)
 {
     return paths.isEtcReadOnly() ? paths.writableStateDir : paths.stateDir;
@@ -352,15 +399,13 @@ bool appendTo(int file, QByteArray line)
 
 void RVHistory::Run::setResult(const RVResult &result)
 {
-    QMap<QPair<QString, QString>, const RVItemResult *> results;
-    for (const RVItemResult &item : result.items) {
-        results.insert({clean(item.name), clean(item.to)}, &item);
-    }
-    for (Item &item : items) {
-        if (const RVItemResult *same = results.value({item.name, item.to})) {
-            item.state = same->stateWord();
-            item.reason = clean(same->reason.english());
-        }
+    for (int i = 0; i < qMin(items.size(), result.items.size()); ++i) {
+        const RVItemResult &item = result.items.at(i);
+        // Known only once the archive is read.
+        items[i].from = item.from.isEmpty() ? items.at(i).from : clean(item.from);
+        items[i].to = item.to.isEmpty() ? items.at(i).to : clean(item.to);
+        items[i].state = item.stateWord();
+        items[i].reason = clean(item.reason.english());
     }
     if (result.isInstallerStarted && result.exitStatus == QProcess::NormalExit) {
         exitCode = result.exitCode;
@@ -390,6 +435,7 @@ QJsonObject RVHistory::Run::toJson() const
         {QStringLiteral("sudoUser"), sudoUser.isEmpty() ? QJsonValue() : sudoUser},
         {QStringLiteral("face"), face},
         {QStringLiteral("section"), section.isEmpty() ? QJsonValue() : section},
+        {QStringLiteral("kind"), kind},
         {QStringLiteral("items"), list},
         {QStringLiteral("more"), more},
         {QStringLiteral("exitCode"), exitCode ? QJsonValue(*exitCode) : QJsonValue()},
@@ -413,6 +459,7 @@ RVHistory::Run RVHistory::runOf(const RVBatch &batch, Face face, const QString &
     run.sudoUser = clean(qEnvironmentVariable("SUDO_USER"));
     run.face = face == Face::Window ? QStringLiteral("window") : QStringLiteral("ravelctl");
     run.section = clean(section);
+    run.kind = kindWord(batch.kind);
     run.process = ::getpid();
     run.processBegin = RVLockHolder::beginOf(run.process);
     for (const RVBatch::Item &item : batch.items) {
@@ -446,6 +493,25 @@ bool RVHistory::end(Run *run)
     }
     run->ended = QDateTime::currentDateTimeUtc();
     return append(endLine(*run));
+}
+
+RVHistory::Judge RVHistory::judgeBy(const OSInfoBaseClass *system)
+{
+    return [system](Run *run) {
+        const RVSentence missing(QT_TRANSLATE_NOOP(
+            "RVSentence", "The program was ended before the installation was over."));
+        for (Item &item : run->items) {
+            if (isOnSystem(*run, item, *system)) {
+                item.state = QStringLiteral("installed");
+                item.reason.clear();
+                continue;
+            }
+            // A service pack need not be listed, and an image may still wait for its restart.
+            item.state = run->kind == packages ? QStringLiteral("failed")
+                                               : QStringLiteral("not-confirmable");
+            item.reason = missing.english();
+        }
+    };
 }
 
 int RVHistory::closeOpen(const Judge &judge)

@@ -13,6 +13,7 @@
 #include <functional>
 #include <optional>
 
+class OSInfoBaseClass;
 struct RVBatch;
 class RVOwnFolder;
 
@@ -55,6 +56,8 @@ public:
         QString face;
         /// The settings key of its section.
         QString section;
+        /// "packages", "service-packs", "image" or "unknown".
+        QString kind;
         QVector<Item> items;
         /// Items that are not listed, in a run of very many.
         int more = 0;
@@ -97,6 +100,8 @@ public:
     bool begin(Run *run);
     /// The same for the end; a run that was never begun is written whole.
     bool end(Run *run);
+    /// Says what the system has now.
+    static Judge judgeBy(const OSInfoBaseClass *system);
     /// Ends the runs whose program is gone, unless another of ours is at work. How many.
     int closeOpen(const Judge &judge);
     const QString &reason() const { return m_reason; }

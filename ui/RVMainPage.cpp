@@ -7,6 +7,7 @@
 #include "core/RVOrigin.h"
 #include "core/RVProxy.h"
 #include "descriptor/DataXML.h"
+#include "install/RVHistory.h"
 #include "network/RVKeyring.h"
 #include "network/XNetworkError.h"
 #include "repository/RVRepDesc.h"
@@ -57,6 +58,7 @@ RVMainPage::RVMainPage(QMainWindow *, QWidget *parent, Qt::WindowFlags flags, co
         throw error == OSInfoBaseClass::ImageIdUnreadable ? SystemInfoUnavailable
                                                           : SystemInfoFailed;
     }
+    RVHistory(paths).closeOpen(RVHistory::judgeBy(m_osInfo));
     m_errorDialog = new RVErrorDialog(this);
     m_errorDialog->hide();
     m_errorDialog->setMinimumWidth(errorDialogWidth);

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "core/OSInfo.h"
 #include "install/RVBatch.h"
 #include "install/RVHistory.h"
 #include "install/RVRunLock.h"
@@ -102,6 +103,7 @@ private Q_SLOTS:
     void foreignTexts();
     void isWrittenBeforeTheInstaller();
     void killedRuns();
+    void judgedByTheSystem();
     void killedInsideALine();
     void runsThatAreStillAtWork();
     void rotation();
@@ -319,6 +321,34 @@ void tst_RVHistory::killedRuns()
     QVERIFY(run.isRestartNeeded);
     QVERIFY(!run.exitCode);
     QCOMPARE(run.items.at(0).state, QStringLiteral("installed"));
+}
+
+void tst_RVHistory::judgedByTheSystem()
+{
+    QVERIFY(QDir().mkpath(QFileInfo(m_root->paths().packageStatus).path()));
+    QFile status(m_root->paths().packageStatus);
+    QVERIFY(status.open(QIODevice::WriteOnly));
+    status.write("Package: tool\nStatus: install ok installed\nArchitecture: all\nVersion: 2\n\n"
+                 "Package: half\nStatus: install ok half-configured\nArchitecture: all\n"
+                 "Version: 2\n\n"
+                 "Package: old\nStatus: install ok installed\nArchitecture: all\nVersion: 1\n\n");
+    status.close();
+    const OSInfo system(nullptr, m_root->paths());
+    RVHistory::Run run =
+        runOf({QStringLiteral("tool"), QStringLiteral("half"), QStringLiteral("old")});
+    QCOMPARE(run.kind, QStringLiteral("packages"));
+    RVHistory::judgeBy (&system)(&run);
+    QCOMPARE(run.items.at(0).state, QStringLiteral("installed"));
+    QVERIFY(run.items.at(0).reason.isEmpty());
+    QCOMPARE(run.items.at(1).state, QStringLiteral("failed"));
+    QCOMPARE(run.items.at(2).state, QStringLiteral("failed"));
+    QVERIFY(!run.items.at(2).reason.isEmpty());
+
+    run.kind = QStringLiteral("image");
+    run.items[0].to = system.baseOSName().toString();
+    RVHistory::judgeBy (&system)(&run);
+    QCOMPARE(run.items.at(0).state, QStringLiteral("installed"));
+    QCOMPARE(run.items.at(1).state, QStringLiteral("not-confirmable"));
 }
 
 void tst_RVHistory::killedInsideALine()
