@@ -3,6 +3,7 @@
 #include "ui/RVSection.h"
 
 #include "ui/RVAdvPage.h"
+#include "ui/RVHistoryLink.h"
 #include "ui/RVMainPage.h"
 #include "ui/RVTranslator.h"
 
@@ -18,6 +19,7 @@ RVSection::RVSection(PlumeMainWindow *window, QObject *parent, const RVPaths &pa
     m_titlePage =
         new TitlePage(RVMainPage::tr(RVMainPage::TITLE_PAGE_TITLE),
                       RVMainPage::tr(RVMainPage::PAGE_DESC), RVMainPage::tr(RVMainPage::PAGE_HELP));
+    m_historyLink = new RVHistoryLink(m_titlePage, paths);
     window->addTitlePage(m_titlePage);
     window->addNormalPage(mainPage);
     connect(mainPage, &RVMainPage::retranslateDone, this, &RVSection::retranslateUi);
@@ -34,6 +36,9 @@ RVSection::~RVSection() = default;
 
 void RVSection::retranslateUi()
 {
+    if (m_historyLink) {
+        m_historyLink->retranslateUi();
+    }
     if (m_titlePage) {
         m_titlePage->setTitle(RVMainPage::tr(RVMainPage::TITLE_PAGE_TITLE));
         m_titlePage->setDescription(RVMainPage::tr(RVMainPage::PAGE_DESC));

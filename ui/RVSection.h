@@ -10,6 +10,7 @@
 #include <memory>
 
 class PlumeMainWindow;
+class RVHistoryLink;
 class RVTranslator;
 class TitlePage;
 
@@ -32,4 +33,5 @@ public Q_SLOTS:
 private:
     std::unique_ptr<RVTranslator> m_translator;
     QPointer<TitlePage> m_titlePage;
+    QPointer<RVHistoryLink> m_historyLink;
 };
