@@ -118,6 +118,21 @@ void ArchiveGeneric::install(QProcess *proc)
     backend->install(proc);
 }
 
+void ArchiveGeneric::installAll(QProcess *proc)
+{
+    if (auto *pack = qobject_cast<ArchiveXar *>(m_backend.data())) {
+        connect(pack, &ArchiveBaseClass::installStarted, this, &ArchiveGeneric::relayInstallStarted,
+                Qt::UniqueConnection);
+        pack->installAll(proc);
+    }
+}
+
+InstallCommand ArchiveGeneric::installAllCommand() const
+{
+    const auto *pack = qobject_cast<const ArchiveXar *>(m_backend.data());
+    return pack ? pack->installAllCommand() : InstallCommand();
+}
+
 void ArchiveGeneric::relayInstallStarted()
 {
     Q_EMIT installStarted();

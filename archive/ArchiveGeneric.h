@@ -35,6 +35,9 @@ public:
     InstallCommand installCommand() const override;
     /// A full image, which is never downloaded and installs after a yes only.
     bool isImage() const;
+    /// See ArchiveXar: of another kind these do nothing.
+    void installAll(QProcess *proc);
+    InstallCommand installAllCommand() const;
     /// Not owned; only a full image asks.
     void setImageQuestion(ImageQuestion *question);
     /// Of a full image whose installation has ended well: why the device's next start cannot carry

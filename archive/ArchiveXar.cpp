@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "archive/ArchiveXar.h"
 
+#include "archive/InstallScript.h"
 #include "core/LocalCopy.h"
 #include "core/RVLogger.h"
 #include "core/RVSum.h"
@@ -13,6 +14,7 @@
 #include <algorithm>
 #include <archive.h>
 #include <archive_entry.h>
+#include <cerrno>
 #include <clocale>
 #include <limits>
 #include <memory>
@@ -350,4 +352,55 @@ void ArchiveXar::setProxy(const QString &host, int port)
 {
     Q_UNUSED(host)
     Q_UNUSED(port)
+}
+
+void ArchiveXar::installAll(QProcess *proc)
+{
+    Q_EMIT installStarted();
+    const InstallCommand command = installAllCommand();
+    if (writeInstallScript(command.script)) {
+        proc->start(command.program, command.arguments);
+        return;
+    }
+    failInstallation(
+        proc, QStringLiteral("Could not write ./RVinstall.sh: %1").arg(qt_error_string(errno)),
+        m_paths);
+}
+
+InstallCommand ArchiveXar::installAllCommand() const
+{
+    const QByteArray installer = '\'' + m_paths.xarInstaller.toUtf8().replace("'", "'\\''") + '\'';
+    const QByteArrayList lines{
+        "#!/bin/bash",
+        "batch=$PWD",
+        "for pack in \"$batch\"/[0-9]*/; do",
+        "    cd \"$pack\" || exit 1",
+        "    directory=",
+        "    for entry in *; do",
+        "        if [ -d \"$entry\" ] && [ ! -L \"$entry\" ]; then",
+        "            directory=$entry",
+        "            break",
+        "        fi",
+        "    done",
+        "    " + installer + " \"--extrdir=$directory\"",
+        "    status=$?",
+        "    echo $status >\"${pack%/}.status\"",
+        "    [ $status -eq 0 ] || exit $status",
+        "done",
+    };
+    return {m_paths.shell, {QStringLiteral("./RVinstall.sh")}, lines.join('\n') + '\n'};
+}
+
+QString ArchiveXar::packFolder(int index)
+{
+    // As wide as any: the script goes by the order of the names.
+    return QStringLiteral("%1").arg(index + 1, 6, 10, QLatin1Char('0'));
+}
+
+int ArchiveXar::packExitCode(int index)
+{
+    QFile file(packFolder(index) + QStringLiteral(".status"));
+    bool isNumber = false;
+    const int code = file.open(QIODevice::ReadOnly) ? file.read(8).trimmed().toInt(&isNumber) : -1;
+    return isNumber ? code : -1;
 }

@@ -25,6 +25,15 @@ public:
     /// Ignored: the archive is downloaded by the program itself.
     void setProxy(const QString &host, int port) override;
     InstallCommand installCommand() const override;
+    /// Installs several: the current directory has a folder for each, named by packFolder(), and
+    /// their installer runs in one after the other until it fails. `proc` runs the script that sees
+    /// to it, and ends as the last of them ended.
+    void installAll(QProcess *proc);
+    InstallCommand installAllCommand() const;
+    static QString packFolder(int index);
+    /// Of a script that has run in the current directory, the exit code for that folder; -1 where
+    /// its installer did not come to its end, or was not run.
+    static int packExitCode(int index);
 
 private:
     Q_DISABLE_COPY_MOVE(ArchiveXar)

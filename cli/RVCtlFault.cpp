@@ -2,28 +2,43 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlFault.h"
 
-#include "network/XNetworkError.h"
-#include "network/XSpooledReply.h"
+#include "install/RVDownloadFault.h"
 
 #include <algorithm>
-#include <cerrno>
+
+namespace
+{
+
+RVCtlFault::Kind kindOf(RVItemResult::Fault fault)
+{
+    switch (fault) {
+    case RVItemResult::Fault::Network:
+        return RVCtlFault::Network;
+    case RVItemResult::Fault::Damaged:
+        return RVCtlFault::Damaged;
+    case RVItemResult::Fault::Space:
+        return RVCtlFault::Space;
+    case RVItemResult::Fault::Untrusted:
+        return RVCtlFault::Refused;
+    case RVItemResult::Fault::None:
+    case RVItemResult::Fault::OtherKind:
+        break;
+    }
+    return RVCtlFault::None;
+}
+
+} // namespace
 
 RVCtlFault RVCtlFault::ofReply(const QNetworkReply &reply)
 {
-    RVCtlFault fault;
-    fault.kind = Network;
-    fault.code = qt4Error(reply.error());
-    fault.text = reply.errorString();
-    const auto *spooled = qobject_cast<const XSpooledReply *>(&reply);
-    // The engine has one code for a download that it cannot store; the reason is in its text.
-    if (fault.text.contains(qt_error_string(ENOSPC))
-        || fault.text.contains(qt_error_string(EDQUOT))) {
-        fault.kind = Space;
-    } else if (reply.error() == QNetworkReply::RemoteHostClosedError && spooled
-               && spooled->received() > 0) {
-        fault.kind = Damaged;
-    }
-    return fault;
+    const RVDownloadFault fault = RVDownloadFault::ofReply(reply);
+    return {kindOf(fault.kind), fault.networkError, reply.errorString()};
+}
+
+RVCtlFault RVCtlFault::ofItem(const RVItemResult &item)
+{
+    const Kind kind = kindOf(item.fault);
+    return kind == None ? RVCtlFault() : RVCtlFault{kind, item.networkError, item.reason.english()};
 }
 
 QJsonValue RVCtlFault::toJson() const

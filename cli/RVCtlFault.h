@@ -9,6 +9,7 @@
 #include <QVector>
 
 class QNetworkReply;
+struct RVItemResult;
 
 /// Why a file could not be had.
 struct RVCtlFault {
@@ -25,6 +26,8 @@ struct RVCtlFault {
     };
 
     static RVCtlFault ofReply(const QNetworkReply &reply);
+    /// Why the installer did not get its archive; none where that is not why.
+    static RVCtlFault ofItem(const RVItemResult &item);
 
     Kind kind = None;
     /// Qt 4's, of the network; else 0.

@@ -3,9 +3,9 @@
 #include "cli/RVCtlFetch.h"
 
 #include "cli/RVCtlAccess.h"
-#include "cli/RVCtlArchive.h"
 #include "cli/RVCtlDeadline.h"
 #include "cli/RVCtlFolder.h"
+#include "install/RVWholeArchive.h"
 #include "network/XNetworkAccessManager.h"
 #include "repository/RVRepository.h"
 #include "repository/RVTrust.h"
@@ -48,9 +48,9 @@ bool isSound(const QString &file, const QByteArray &name)
 {
     const QByteArray lower = name.toLower();
     if (lower.endsWith(".deb")) {
-        return RVCtlArchive::isWholePackage(file);
+        return RVWholeArchive::isWholePackage(file);
     }
-    return !lower.endsWith(".xar") || RVCtlArchive::isServicePack(file);
+    return !lower.endsWith(".xar") || RVWholeArchive::isServicePack(file);
 }
 
 } // namespace

@@ -3,39 +3,25 @@
 #include "cli/RVCtlInstallRun.h"
 
 #include "cli/RVCtlAccess.h"
-#include "cli/RVCtlArchive.h"
 #include "cli/RVCtlDeadline.h"
 #include "cli/RVCtlMessages.h"
 #include "cli/RVCtlObstacle.h"
 #include "cli/RVCtlText.h"
 #include "cli/RVCtlTrust.h"
 #include "core/RVUrl.h"
-#include "install/RVFreeSpace.h"
 #include "install/RVInstallProc.h"
 #include "install/RVPackageDatabase.h"
+#include "install/RVVerify.h"
 #include "repository/RVRepository.h"
 
 #include <QCommandLineParser>
-#include <QDir>
 #include <QEventLoop>
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 
 #include <algorithm>
 
 namespace
 {
-
-qint64 sizeOf(const RVData &data)
-{
-    return qMax(data.descriptor()->size(), QFileInfo(data.archiveUrl().toLocalFile()).size());
-}
-
-bool isSameFile(const QUrl &a, const QUrl &b)
-{
-    return a.adjusted(QUrl::RemoveUserInfo) == b.adjusted(QUrl::RemoveUserInfo);
-}
 
 } // namespace
 
@@ -52,7 +38,6 @@ RVCtlInstallRun::RVCtlInstallRun(const RVCtlCall &call, RVCtlAccess *access,
     , m_question(question)
     , m_isJson(call.parser.isSet(QStringLiteral("json")))
     , m_output(m_isJson ? (call.messages.isQuiet() ? nullptr : stderr) : stdout, &call.messages)
-    , m_faults(batch.downloads.size())
 {
 }
 
@@ -116,7 +101,12 @@ void RVCtlInstallRun::run()
                 }
             });
     connect(m_process.get(), &RVInstallProc::archiveRefused, this,
-            &RVCtlInstallRun::archiveRefused);
+            [this](const QUrl &archive, const RVSentence &reason) {
+                if (!m_batch.isImage()) {
+                    m_call.messages.error(
+                        QStringLiteral("%1: %2").arg(RVUrl::shown(archive), reason.english()));
+                }
+            });
     connect(m_process.get(), &RVInstallProc::trustFailed, this, [this] {
         m_call.messages.error(m_process->trustFault().text);
     });
@@ -124,7 +114,6 @@ void RVCtlInstallRun::run()
     connect(m_process.get(), &RVInstallProc::extractFinished, this,
             &RVCtlInstallRun::beforeInstaller);
     connect(m_process.get(), &RVInstallProc::installStarted, this, [this] {
-        m_isInstallerRun = true;
         m_call.messages.note(QStringLiteral("Installing updates..."));
     });
     connect(m_process.get(), &QProcess::readyReadStandardOutput, this, [this] {
@@ -132,8 +121,7 @@ void RVCtlInstallRun::run()
     });
     connect(m_process.get(), &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart) {
-            m_startError = m_process->errorString();
-            end(1, QProcess::NormalExit);
+            end();
         }
     });
     connect(m_process.get(), qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
@@ -152,71 +140,25 @@ void RVCtlInstallRun::run()
     QEventLoop loop;
     connect(this, &RVCtlInstallRun::ended, &loop, &QEventLoop::quit);
     m_process->start();
-    if (m_stage == Stage::Downloading && !m_faults.isEmpty() && faults() == m_faults.size()) {
-        // Nothing is under way, of which the procedure could tell an end.
-        m_process->cancel();
-    }
     if (m_stage != Stage::Ended) {
         loop.exec();
     }
     m_progress.reset();
 }
 
-int RVCtlInstallRun::faults() const
-{
-    return static_cast<int>(
-        std::count_if(m_faults.cbegin(), m_faults.cend(), [](const RVCtlFault &fault) {
-            return fault.isSet();
-        }));
-}
-
 void RVCtlInstallRun::networkError(const QNetworkReply *reply)
 {
-    if (!reply || m_stage != Stage::Downloading || m_call.deadline.isOver()) {
-        return;
+    // Of an image, which is all there is, the error of the run says it.
+    if (reply && m_stage == Stage::Downloading && !m_call.deadline.isOver() && !m_batch.isImage()) {
+        m_call.messages.error(QStringLiteral("%1: %2").arg(RVUrl::shown(reply->request().url()),
+                                                           reply->errorString()));
     }
-    if (m_faults.isEmpty()) {
-        m_imageFault = RVCtlFault::ofReply(*reply);
-        return;
-    }
-    // What was asked for, wherever a login stood in it.
-    const QUrl url = reply->request().url();
-    for (int i = 0; i < m_faults.size(); ++i) {
-        if (isSameFile(m_batch.downloads.at(i).archiveUrl(), url) && !m_faults.at(i).isSet()) {
-            m_faults[i] = RVCtlFault::ofReply(*reply);
-            m_call.messages.error(
-                QStringLiteral("%1: %2").arg(RVUrl::shown(url), m_faults.at(i).text));
-            return;
-        }
-    }
-}
-
-void RVCtlInstallRun::archiveRefused(const QUrl &archive, const QString &reason)
-{
-    for (int i = 0; i < m_faults.size(); ++i) {
-        if (m_batch.downloads.at(i).archiveUrl() == archive) {
-            m_faults[i].kind = RVCtlFault::Damaged;
-            m_faults[i].text = reason;
-        }
-    }
-    if (m_batch.isImage()) {
-        // The one there is: the error of the run says it.
-        m_imageFault.kind = m_imageFault.isSet() ? m_imageFault.kind : RVCtlFault::Damaged;
-        m_imageFault.text = reason;
-        return;
-    }
-    m_call.messages.error(QStringLiteral("%1: %2").arg(RVUrl::shown(archive), reason));
 }
 
 void RVCtlInstallRun::beforeInstaller()
 {
     m_progress.reset();
-    for (int i = 0; i < m_faults.size(); ++i) {
-        judgeArchive(i);
-    }
-    const bool hasNothing = !m_faults.isEmpty() && faults() == m_faults.size();
-    const bool isReady =
-        !hasNothing && !m_call.deadline.isOver() && (!m_batch.isPackages() || isDatabaseReady());
+    const bool isReady = !m_call.deadline.isOver() && (!m_batch.isPackages() || isDatabaseReady());
     // An image may still be answered with a no: its question holds the deadline.
     if (!isReady || (!m_batch.isImage() && !m_call.deadline.hold())) {
         m_process->cancel();
@@ -225,46 +167,7 @@ void RVCtlInstallRun::beforeInstaller()
     m_stage = Stage::Installing;
 }
 
-void RVCtlInstallRun::judgeArchive(int index)
-{
-    if (m_faults.at(index).isSet()) {
-        return;
-    }
-    // The procedure works in the directory of what it unpacked.
-    const RVData &data = m_batch.downloads.at(index);
-    const QString name = RVUrl::fileName(data.archiveUrl());
-    const bool isPackage = name.endsWith(QLatin1String(".deb"), Qt::CaseInsensitive);
-    RVCtlFault fault;
-    if (isPackage) {
-        const QString file = QStringLiteral("./") + name;
-        const bool exists = QFileInfo(file).isFile();
-        if (exists && RVCtlArchive::isWholePackage(file)) {
-            return;
-        }
-        fault.kind = RVCtlFault::Damaged;
-        fault.text = QStringLiteral("The package is damaged or not complete.");
-        // The installer takes every package of the directory.
-        if (exists) {
-            QFile::remove(file);
-        } else if (RVFreeSpace::freeBytes(QDir::currentPath()) < sizeOf(data)) {
-            fault.kind = RVCtlFault::Space;
-            fault.text = QStringLiteral("There is no space left for the package.");
-        }
-    } else {
-        const QDir::Filters everything =
-            QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-        if (!QDir().entryList(everything).isEmpty()) {
-            return;
-        }
-        fault.kind = RVCtlFault::Damaged;
-        fault.text = QStringLiteral("The archive cannot be unpacked.");
-    }
-    m_faults[index] = fault;
-    m_call.messages.error(
-        QStringLiteral("%1: %2").arg(RVUrl::shown(data.archiveUrl()), fault.text));
-}
-
-void RVCtlInstallRun::end(int exitCode, QProcess::ExitStatus status)
+void RVCtlInstallRun::end()
 {
     if (m_stage == Stage::Ended) {
         return;
@@ -272,33 +175,52 @@ void RVCtlInstallRun::end(int exitCode, QProcess::ExitStatus status)
     m_stage = Stage::Ended;
     m_output.add(m_process->readAllStandardOutput());
     m_output.end();
-    m_exitCode = exitCode;
-    m_isCrashed = status == QProcess::CrashExit;
+    const RVResult &result = m_process->result();
+    result.log();
+    if (!result.isWhole()) {
+        RVResult::logOutput(m_output.kept());
+    }
+    RVResult::logEnd();
     Q_EMIT ended();
 }
 
 QJsonObject RVCtlInstallRun::toJson() const
 {
     QJsonObject object = m_batch.toJson();
+    const RVResult &result = m_process->result();
     QJsonArray downloads = object.value(QStringLiteral("downloads")).toArray();
-    for (int i = 0; i < m_faults.size(); ++i) {
-        QJsonObject download = downloads.at(i).toObject();
-        download.insert(QStringLiteral("error"), m_faults.at(i).toJson());
-        downloads.replace(i, download);
+    QJsonArray results;
+    for (const RVItemResult &item : result.items) {
+        const int index = m_batch.downloadOf(item.entry);
+        if (index >= 0) {
+            QJsonObject download = downloads.at(index).toObject();
+            download.insert(QStringLiteral("error"), RVCtlFault::ofItem(item).toJson());
+            downloads.replace(index, download);
+        }
+        results.append(QJsonObject{
+            {QStringLiteral("name"), item.name},
+            {QStringLiteral("from"), RVCtlText::jsonOrNull(item.from)},
+            {QStringLiteral("to"), RVCtlText::jsonOrNull(item.to)},
+            {QStringLiteral("state"), item.stateWord()},
+            {QStringLiteral("reason"), RVCtlText::jsonOrNull(item.reason.english())},
+        });
     }
     object.insert(QStringLiteral("downloads"), downloads);
-    if (m_process && m_process->trustFault().isSet()) {
+    object.insert(QStringLiteral("results"), results);
+    if (m_process->trustFault().isSet()) {
         QJsonObject trust = m_batch.trust;
         trust.insert(QStringLiteral("error"), RVCtlTrust::toJson(m_process->trustFault()));
         object.insert(QStringLiteral("trust"), trust);
     }
     QJsonValue installer;
-    if (m_isInstallerRun) {
+    if (result.isInstallerStarted) {
         installer = QJsonObject{
             {QStringLiteral("program"), m_process->program()},
             {QStringLiteral("arguments"), QJsonArray::fromStringList(m_process->arguments())},
             {QStringLiteral("exitCode"),
-             m_isCrashed || !m_startError.isEmpty() ? QJsonValue() : QJsonValue(m_exitCode)},
+             result.exitStatus == QProcess::CrashExit || !result.reason.isEmpty()
+                 ? QJsonValue()
+                 : QJsonValue(result.exitCode)},
             {QStringLiteral("output"), m_output.kept()},
             {QStringLiteral("outputIsCut"), m_output.isCut()},
         };
@@ -318,11 +240,6 @@ void RVCtlInstallRun::judge(RVCtlResult *result) const
              QStringLiteral("Nothing was installed: %1").arg(m_process->trustFault().text));
         return;
     }
-    if (m_imageFault.isSet()) {
-        fail(RVCtlFault::exitFor({m_imageFault}),
-             QStringLiteral("Nothing was installed: %1").arg(m_imageFault.text));
-        return;
-    }
     if (m_process->isDeclined()) {
         fail(RVCtlExit::Usage, QStringLiteral("The image was not confirmed. Nothing was started."));
         return;
@@ -332,46 +249,52 @@ void RVCtlInstallRun::judge(RVCtlResult *result) const
         fail(refusal.exit, refusal.error);
         return;
     }
-    if (!m_faults.isEmpty() && faults() == m_faults.size()) {
-        fail(RVCtlFault::exitFor(m_faults),
-             QStringLiteral("Nothing was installed: %1").arg(m_faults.constFirst().text));
+    const RVResult &ended = m_process->result();
+    if (ended.isWhole()) {
         return;
     }
-    if (!m_startError.isEmpty()) {
-        fail(RVCtlExit::InstallerFailed,
-             QStringLiteral("The installer '%1' cannot be started: %2")
-                 .arg(m_process->program(), m_startError));
-        return;
-    }
-    if (m_isCrashed) {
-        fail(RVCtlExit::InstallerFailed,
-             m_isInstallerRun ? QStringLiteral("The installer was ended by a signal.")
-                              : QStringLiteral("There is no installer for this archive, or no "
-                                               "place to unpack it in."));
-        return;
-    }
-    if (m_exitCode != 0) {
-        fail(RVCtlExit::InstallerFailed,
-             QStringLiteral("The installer ended with exit code %1.").arg(m_exitCode));
-        return;
-    }
-    QStringList left;
-    for (int i = 0; i < m_batch.updates.size(); ++i) {
-        if (!m_batch.items.at(i).isReached) {
-            left.append(m_batch.updates.at(i).name());
+    QVector<RVCtlFault> faults;
+    for (const RVItemResult &item : ended.items) {
+        const RVCtlFault fault = RVCtlFault::ofItem(item);
+        if (fault.isSet()) {
+            faults.append(fault);
         }
     }
-    if (faults() > 0) {
-        fail(RVCtlExit::DoneInPart,
-             QStringLiteral("%1 of %2 archives could not be downloaded and were left out.")
-                 .arg(faults())
-                 .arg(m_faults.size()));
-    } else if (!left.isEmpty()) {
-        fail(RVCtlExit::DoneInPart,
-             QStringLiteral("The installer takes one archive of this kind at a time: install the "
-                            "others by themselves (chosen were also %1).")
-                 .arg(left.join(QLatin1String(", "))));
+    const auto isDone = [](const RVItemResult &item) {
+        return item.isDone();
+    };
+    const auto undone = std::find_if_not(ended.items.cbegin(), ended.items.cend(), isDone);
+    const QString first = undone == ended.items.cend()
+        ? QString()
+        : QStringLiteral(": %1: %2").arg(undone->name, undone->reason.english());
+    if (!ended.isInstallerStarted && !faults.isEmpty()) {
+        fail(RVCtlFault::exitFor(faults), QStringLiteral("Nothing was installed%1").arg(first));
+    } else if (!ended.reason.isEmpty()) {
+        fail(RVCtlExit::InstallerFailed, ended.reason.english());
+    } else if (ended.exitCode != 0 || ended.exitStatus == QProcess::CrashExit) {
+        const RVVerify::End end{ended.exitCode, ended.exitStatus == QProcess::CrashExit};
+        fail(RVCtlExit::InstallerFailed, end.sentence().english());
+    } else if (std::none_of(ended.items.cbegin(), ended.items.cend(), isDone)) {
+        fail(RVCtlExit::InstallerFailed, ended.summary().english() + first);
+    } else {
+        fail(RVCtlExit::DoneInPart, ended.summary().english() + first);
     }
+}
+
+QString RVCtlInstallRun::table() const
+{
+    QVector<QStringList> rows;
+    for (const RVItemResult &item : m_process->result().items) {
+        QString state = item.stateWord();
+        if (!item.reason.isEmpty()) {
+            state += QStringLiteral(": ") + item.reason.english();
+        }
+        rows.append(
+            {item.name, item.from.isEmpty() ? QStringLiteral("none") : item.from, item.to, state});
+    }
+    return RVCtlText::table({QStringLiteral("UPDATE"), QStringLiteral("BEFORE"),
+                             QStringLiteral("OFFERED"), QStringLiteral("RESULT")},
+                            rows);
 }
 
 RVCtlResult RVCtlInstallRun::result(const RVCtlResult &refreshed) const
@@ -379,8 +302,7 @@ RVCtlResult RVCtlInstallRun::result(const RVCtlResult &refreshed) const
     RVCtlResult result = refreshed;
     result.json = toJson();
     judge(&result);
-    if (result.exit == RVCtlExit::Done || result.exit == RVCtlExit::DoneInPart) {
-        result.text = QStringLiteral("The installer is done.\n");
-    }
+    result.text = table() + QLatin1Char('\n') + m_process->result().summary().english()
+        + QLatin1String(".\n");
     return result;
 }

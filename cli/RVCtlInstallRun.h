@@ -50,14 +50,13 @@ private:
     };
 
     void networkError(const QNetworkReply *reply);
-    void archiveRefused(const QUrl &archive, const QString &reason);
     /// Everything is downloaded that can be: the last moment at which nothing is changed yet.
     void beforeInstaller();
     /// Whether dpkg can work now; m_refusal says why not, unless the deadline is over.
     bool isDatabaseReady();
-    void judgeArchive(int index);
-    void end(int exitCode, QProcess::ExitStatus status);
-    int faults() const;
+    void end();
+    /// The updates and how each ended.
+    QString table() const;
     QJsonObject toJson() const;
     void judge(RVCtlResult *result) const;
 
@@ -74,14 +73,6 @@ private:
     std::unique_ptr<RVCtlProgress> m_progress;
     RVCtlOutput m_output;
     Stage m_stage = Stage::Downloading;
-    /// Of an image that could not be read.
-    RVCtlFault m_imageFault;
-    /// One for each download.
-    QVector<RVCtlFault> m_faults;
     /// Why the installer was not started in the last moment.
     std::optional<RVObstacle> m_refusal;
-    bool m_isInstallerRun = false;
-    bool m_isCrashed = false;
-    int m_exitCode = 0;
-    QString m_startError;
 };

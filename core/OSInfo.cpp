@@ -89,7 +89,7 @@ QString runHardwareTool(const QString &path)
 OSInfo::OSInfo(QObject *parent, const RVPaths &paths)
     : OSInfoBaseClass(parent)
     , m_paths(paths)
-    , m_arch(QStringLiteral("armel"))
+    , m_arch(deviceArchitecture())
 {
     if (!QFileInfo(m_paths.imageId).isReadable()) {
         throw ImageIdUnreadable;

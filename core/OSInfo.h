@@ -27,6 +27,8 @@ public:
     bool isNotConfigured(const QString &packageName) const override;
     QString architecture() const override;
     QString thinClient() const override;
+    /// The same on every device.
+    static QString deviceArchitecture() { return QStringLiteral("armel"); }
     /// What the service-pack files say, each pack once.
     static QList<VersionString> servicePacks(const RVPaths &paths);
     /// How many packages are installed, configured or not; -1 when the package database cannot be

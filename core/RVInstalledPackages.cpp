@@ -5,6 +5,7 @@
 #include "core/AptErrors.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <apt-pkg/cmndline.h>
 #include <apt-pkg/configuration.h>
@@ -71,6 +72,11 @@ RVInstalledPackages::RVInstalledPackages(const RVPaths &paths, const QString &ar
 {
     const AptErrors errors;
     if (!usePackageDatabase(paths.packageStatus)) {
+        return;
+    }
+    // To the library, a database that is not there is an empty one.
+    if (!QFileInfo(QFile::decodeName(_config->FindFile("Dir::State::status").c_str()))
+             .isReadable()) {
         return;
     }
     // Only what is installed is asked for: the cache of the package sources would take a hundred

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QMetaType>
 #include <QString>
 #include <QStringList>
 
@@ -43,3 +44,5 @@ private:
     /// -1 for none.
     int m_number = -1;
 };
+
+Q_DECLARE_METATYPE(RVSentence)

@@ -66,7 +66,7 @@ bool isControlBounded(QFile *package, debDebFile *deb)
 bool readControl(QFile *package, debDebFile::MemControlExtract *control)
 {
     FileFd file;
-    if (!file.Open(package->fileName().toStdString(), FileFd::ReadOnly, 0666)) {
+    if (!file.Open(QFile::encodeName(package->fileName()).toStdString(), FileFd::ReadOnly, 0666)) {
         return false;
     }
     debDebFile deb(file);

@@ -47,35 +47,49 @@ RVBatch RVBatch::of(const QList<RVData> &entries, const OSInfoBaseClass *system)
 {
     RVBatch batch;
     for (const RVData &entry : entries) {
-        Item item = itemOf(entry, system);
         const Kind kind = kindOf(entry);
+        Item item = itemOf(entry, system);
         if (batch.items.isEmpty()) {
             batch.kind = kind;
-            if (entry.archive()) {
-                batch.installer = entry.archive()->installCommand();
-            }
         } else {
-            item.isReached = kind == batch.kind && kind == Kind::Packages;
+            item.isReached =
+                kind == batch.kind && (kind == Kind::Packages || kind == Kind::ServicePacks);
         }
         batch.items.append(item);
     }
-    if (batch.kind != Kind::Packages && batch.kind != Kind::ServicePacks) {
+    if (batch.items.isEmpty()) {
         return batch;
     }
-    for (const Item &item : qAsConst(batch.items)) {
-        const bool isKnown = std::any_of(batch.downloads.cbegin(), batch.downloads.cend(),
-                                         [&item](const RVData &other) {
-                                             return other.archiveUrl() == item.entry.archiveUrl();
-                                         });
-        if (!item.isReached || isKnown) {
-            continue;
-        }
-        batch.downloads.append(item.entry);
-        const qint64 size = item.entry.descriptor() ? item.entry.descriptor()->size() : -1;
-        batch.downloadSize =
-            size < 0 || batch.downloadSize < 0 ? -1 : saturatingSum(batch.downloadSize, size);
+    if (batch.isPackages() || batch.isServicePacks()) {
+        batch.addDownloads();
+    }
+    if (const auto &first = batch.items.first().entry.archive()) {
+        batch.installer = batch.isServicePacks() && batch.downloads.size() > 1
+            ? first->installAllCommand()
+            : first->installCommand();
     }
     return batch;
+}
+
+void RVBatch::addDownloads()
+{
+    for (const Item &item : qAsConst(items)) {
+        if (!item.isReached || downloadOf(item.entry) >= 0) {
+            continue;
+        }
+        downloads.append(item.entry);
+        const qint64 size = item.entry.descriptor() ? item.entry.descriptor()->size() : -1;
+        downloadSize = size < 0 || downloadSize < 0 ? -1 : saturatingSum(downloadSize, size);
+    }
+}
+
+int RVBatch::downloadOf(const RVData &entry) const
+{
+    const auto found =
+        std::find_if(downloads.cbegin(), downloads.cend(), [&entry](const RVData &other) {
+            return other.archiveUrl() == entry.archiveUrl();
+        });
+    return found == downloads.cend() ? -1 : static_cast<int>(found - downloads.cbegin());
 }
 
 QList<RVData> RVBatch::entries() const

@@ -16,7 +16,7 @@ struct RVBatch {
     enum class Kind {
         Nothing, ///< nothing was chosen
         Packages, ///< any number, in one run of dpkg
-        ServicePacks, ///< one, which its own installer takes
+        ServicePacks, ///< any number, one run of their installer for each
         Image, ///< one, which the device fetches itself after a yes
         Unknown, ///< nothing installs such an archive
     };
@@ -48,4 +48,9 @@ struct RVBatch {
     bool isPackages() const { return kind == Kind::Packages; }
     bool isServicePacks() const { return kind == Kind::ServicePacks; }
     QList<RVData> entries() const;
+    /// Which download brings the archive of `entry`; -1 where none does.
+    int downloadOf(const RVData &entry) const;
+
+private:
+    void addDownloads();
 };

@@ -5,7 +5,10 @@
 #include "core/RVLimits.h"
 #include "core/RVPaths.h"
 #include "install/RVBatch.h"
+#include "install/RVDownloadFault.h"
 #include "install/RVKeeper.h"
+#include "install/RVResult.h"
+#include "install/RVVerify.h"
 #include "network/RVAccess.h"
 #include "repository/RVData.h"
 #include "repository/RVTrustFault.h"
@@ -26,17 +29,18 @@ class RVImageCheck;
 class TemporaryDir;
 
 /// Downloads and unpacks a batch of updates and is itself the process in which their installer
-/// runs. Only the first archive installs; the others of a batch are of its kind and lie beside it.
+/// runs. The first one decides what is installed: packages together, service packs one after the
+/// other (ADR 53), or an image. An archive that fails or is refused is left out, and the others go
+/// on; with none left no installer is started (ADR 52).
 ///
 /// The installer has a session and an environment of its own, without what the program's holds but
 /// PATH, HOME, the user's name, the language and the place for temporary files, and nothing to
 /// read on its standard input.
 ///
 /// Its final signal, once after each start(), is QProcess's finished(), or
-/// errorOccurred(FailedToStart) when there was no installer program to start. A batch whose every
-/// download fails at once gets none by itself: cancel() ends it. It must not be destroyed while the
-/// installer runs; if it is, it waits: a dpkg whose reader goes away leaves packages
-/// half-installed. In slots of its own signals use deleteLater().
+/// errorOccurred(FailedToStart) when there was no installer program to start; result() is there
+/// then. It must not be destroyed while the installer runs; if it is, it waits: a dpkg whose reader
+/// goes away leaves packages half-installed. In slots of its own signals use deleteLater().
 class RVInstallProc : public QProcess
 {
     Q_OBJECT
@@ -67,9 +71,11 @@ public:
     /// Why nothing was installed, where an archive is not the one that its repository lists.
     const RVTrustFault &trustFault() const { return m_trustFault; }
 
-    /// Whether archiveRefused() was given: the batch is not installed whole, whatever its
-    /// installer says.
-    bool hasRefused() const { return m_hasRefused; }
+    const RVBatch &batch() const { return m_batch; }
+    /// How it ended, from the final signal on: what the system says of each update.
+    const RVResult &result() const { return m_result; }
+    /// Ends it before the installer, for a reason: no update is tried. Nothing once it has begun.
+    void refuse(const RVSentence &reason);
 
     /// Whether there was no yes to an image: nothing was installed, and nothing failed. The process
     /// ends with exit code 0 then.
@@ -90,8 +96,9 @@ Q_SIGNALS:
     void extractFinished();
     /// One download failed; the others go on.
     void networkError(const QNetworkReply *reply);
-    /// One archive is not what was shown of it, and is not installed; the others go on.
-    void archiveRefused(const QUrl &archive, const QString &reason);
+    /// One archive cannot be unpacked or is not what was shown of it, and is left out; the others
+    /// go on.
+    void archiveRefused(const QUrl &archive, const RVSentence &reason);
     void authenticationRequired(QNetworkReply *reply, QAuthenticator *auth);
     void proxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *auth);
     void sslErrors(QNetworkReply *reply, const QList<QSslError> &errors);
@@ -133,39 +140,69 @@ private:
     void startDownload(int index);
     void startImageCheck();
     void imageChecked();
+    /// What a package says it is.
+    struct Identity {
+        QString name;
+        QString version;
+    };
+
     void downloadFinished(ArchiveGeneric *archive, QNetworkReply *reply);
-    void extractCopy(int index, QNetworkReply *reply);
-    bool isAsShown(const RVData &entry, QFile *file);
+    void unpack(int index, QNetworkReply *reply);
+    /// In the current directory.
+    RVDownloadFault unpackHere(int index, QNetworkReply *reply);
+    RVDownloadFault judgePackage(int index);
+    RVDownloadFault differenceOf(int index, QFile *file) const;
+    RVDownloadFault storageFault(int index, const QNetworkReply *reply) const;
+    static RVDownloadFault untrusted(const RVTrustFault &fault);
+    void leaveOut(int index, const RVDownloadFault &fault);
     void renewList();
     void failTrust(const RVTrustFault &fault);
     int indexOf(const ArchiveGeneric *archive) const;
+    const RVData &firstEntry() const;
     void endDownload(ArchiveGeneric *archive);
     void continueDownloads();
-    void fail(const QString &reason);
+    /// The downloads that are there and unpacked.
+    QVector<int> whole() const;
+    void makeVerify();
+    void conclude(int exitCode, QProcess::ExitStatus exitStatus);
+    void judge(const RVBatch::Item &item, RVItemResult *result) const;
+    void judgeInstalled(int index, const RVBatch::Item &item, RVItemResult *result) const;
+    void judgeServicePack(int index, const RVVerify::End &end, const RVBatch::Item &item,
+                          RVItemResult *result) const;
+    int packExitCode(int index) const;
+    void fail(const RVSentence &reason);
 
-    /// Each with an archive, no archive twice. The copies keep the archives and descriptors alive.
-    const QList<RVData> m_entries;
+    const RVPaths m_paths;
+    /// Its copies keep the archives and descriptors alive.
     const RVBatch m_batch;
     RVKeeper m_keeper;
     State m_state = State::Idle;
     QString m_previousDir;
     std::unique_ptr<TemporaryDir> m_temporaryDir;
-    /// The entry whose download is started next.
+    /// The download that is started next.
     int m_next = 0;
     /// Downloads that were started and whose archive is not extracted yet.
     QMap<ArchiveGeneric *, QNetworkReply *> m_pending;
-    /// One slot for each entry; null before and after the reply's life.
+    /// One for each download, and one for an image.
+    QVector<RVDownloadFault> m_faults;
+    QVector<Identity> m_identities;
+    /// The same; null before and after the reply's life.
     QVector<QNetworkReply *> m_replies;
     QVector<qint64> m_received;
     qint64 m_expectedTotal = 0;
-    /// Entries that did not fit their sum, to be fetched once more with a new list.
+    /// Downloads that did not fit their sum, to be fetched once more with a new list.
     QList<int> m_unfit;
     bool m_isFresh = false;
     RVTrustFault m_trustFault;
-    bool m_hasRefused = false;
     bool m_isDeclined = false;
     /// While it is under way.
     RVImageCheck *m_imageCheck = nullptr;
     /// For the question.
     RVSentence m_certificateWarning;
+    bool m_isCancelled = false;
+    bool m_isInstallerStarted = false;
+    /// Why it ended without a running installer; empty else.
+    RVSentence m_reason;
+    std::unique_ptr<RVVerify> m_verify;
+    RVResult m_result;
 };

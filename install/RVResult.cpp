@@ -114,6 +114,12 @@ RVSentence RVResult::summary() const
 void RVResult::log() const
 {
     RVLogger logger;
+    if (exitCode != 0) {
+        logger.log(3, "Install process returned non-zero status code %d", exitCode);
+    }
+    if (items.isEmpty()) {
+        return;
+    }
     logger.log(isWhole() || isCancelled() ? 5 : 3, "%s", qUtf8Printable(summary().english()));
     for (const RVItemResult &item : items) {
         QString line = QStringLiteral("%1 %2: %3").arg(item.name, item.to, item.stateWord());
@@ -126,4 +132,17 @@ void RVResult::log() const
     if (!reason.isEmpty()) {
         logger.log(3, "%s", RVLogger::oneLine(reason.english()).constData());
     }
+}
+
+void RVResult::logOutput(const QString &text)
+{
+    RVLogger logger;
+    logger.log(3, "Failed installation details:");
+    logger.log(3, "%s", qUtf8Printable(text));
+    logger.log(3, "%s", "");
+}
+
+void RVResult::logEnd()
+{
+    RVLogger().log(5, "INSTALL FINISHED");
 }

@@ -70,6 +70,10 @@ struct RVResult {
     bool isCancelled() const;
     /// "3 updates installed", "2 of 5 updates installed", "Installation failed" …
     RVSentence summary() const;
-    /// Writes summary and items to the log.
+    /// Writes the installer's status, the summary and the items to the log.
     void log() const;
+    /// What the installer of a failed run wrote.
+    static void logOutput(const QString &text);
+    /// The last line of every run.
+    static void logEnd();
 };

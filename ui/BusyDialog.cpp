@@ -7,6 +7,7 @@
 #include "core/RVUrl.h"
 #include "install/RVInstallProc.h"
 #include "ui/RVDetailsBox.h"
+#include "ui/RVErrorDialog.h"
 #include "ui/RVStyle.h"
 #include "ui/RVTrustTexts.h"
 
@@ -14,6 +15,7 @@
 #include <QEvent>
 #include <QFontDatabase>
 #include <QLabel>
+#include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
@@ -30,6 +32,7 @@ namespace
 {
 
 constexpr int longestUrl = 300;
+constexpr int longestName = 200;
 constexpr int narrowest = 500;
 constexpr int maximumLines = 20000;
 constexpr int maximumCharacters = 2 * 1024 * 1024;
@@ -133,9 +136,18 @@ void BusyDialog::setup(const QString &labelText, const QString &cancelText, int 
     detailsLayout->setContentsMargins({});
     detailsLayout->addWidget(m_detailsView);
 
+    m_results = new QListWidget;
+    m_results->setObjectName(QStringLiteral("results"));
+    m_results->setWordWrap(true);
+    m_results->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_results->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    m_results->setMaximumHeight(8 * fontMetrics().lineSpacing());
+    m_results->hide();
+
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_label);
     layout->addWidget(m_progressBar);
+    layout->addWidget(m_results);
     layout->addWidget(m_buttonBox);
     layout->addWidget(m_detailsBox, 1);
     setMinimumWidth(qMax(narrowest, 60 * fontMetrics().averageCharWidth()));
@@ -166,6 +178,7 @@ void BusyDialog::updateNames()
     m_progressBar->setAccessibleName(m_label->text());
     m_detailsBox->setAccessibleDescription(tr("Shows the installer's output."));
     m_detailsView->setAccessibleName(tr("Installer output"));
+    m_results->setAccessibleName(tr("Results"));
 }
 
 void BusyDialog::setBarText(BarText text)
@@ -307,10 +320,62 @@ void BusyDialog::finished()
     m_progressBar->setRange(0, 100);
     m_progressBar->setValue(100);
     setBarText(DoneText);
+    showResult();
     cancelButton()->hide();
     closeButton()->show();
     closeButton()->setDefault(true);
     closeButton()->setFocus();
+}
+
+void BusyDialog::setResult(const RVResult &result)
+{
+    m_result = result;
+}
+
+void BusyDialog::showResult()
+{
+    if (m_result.items.isEmpty()) {
+        return;
+    }
+    setLabelText(m_result.summary().translated());
+    // A full bar says that all is well.
+    m_progressBar->setVisible(m_result.isWhole());
+    m_results->clear();
+    for (const RVItemResult &item : qAsConst(m_result.items)) {
+        QString text = tr("%1 %2: %3", "An update, its version, and how it ended.")
+                           .arg(RVText::shown(item.name, longestName),
+                                RVText::shown(item.to, longestName), stateText(item.state));
+        const QString reason = item.fault == RVItemResult::Fault::Network
+            ? RVErrorDialog::messageFor(
+                item.networkError, RVText::shown(RVUrl::shown(item.entry.archiveUrl()), longestUrl))
+            : item.reason.translated();
+        if (!reason.isEmpty()) {
+            text += QLatin1Char('\n') + reason;
+        }
+        m_results->addItem(text);
+    }
+    m_results->show();
+}
+
+QString BusyDialog::stateText(RVItemResult::State state)
+{
+    switch (state) {
+    case RVItemResult::State::Installed:
+        return tr("installed");
+    case RVItemResult::State::Failed:
+        return tr("failed");
+    case RVItemResult::State::Arranged:
+        return tr("will be installed at the restart");
+    case RVItemResult::State::NotConfirmable:
+        return tr("installed, but the system cannot confirm it");
+    case RVItemResult::State::LeftOut:
+        return tr("left out");
+    case RVItemResult::State::NotTried:
+        return tr("not tried");
+    case RVItemResult::State::Cancelled:
+        return tr("cancelled");
+    }
+    return {};
 }
 
 void BusyDialog::setDetailsChecked(bool checked)
@@ -350,9 +415,9 @@ void BusyDialog::follow(RVInstallProc *procedure)
         showFault(RVTrustTexts::sentence(fault) + QLatin1Char('\n') + RVText::safe(fault.text));
     });
     connect(procedure, &RVInstallProc::archiveRefused, this,
-            [this](const QUrl &archive, const QString &reason) {
+            [this](const QUrl &archive, const RVSentence &reason) {
                 showFault(RVText::shown(RVUrl::shown(archive), longestUrl) + QLatin1Char('\n')
-                          + reason);
+                          + reason.translated());
             });
     connect(this, &BusyDialog::canceled, procedure, &RVInstallProc::cancel);
     connect(this, &BusyDialog::canceled, this, &QWidget::hide);
@@ -540,10 +605,7 @@ void BusyDialog::showOutput(const QByteArray &bytes)
 void BusyDialog::logContents()
 {
     flushOutput();
-    RVLogger logger;
-    logger.log(3, "Failed installation details:");
-    logger.log(3, "%s", qUtf8Printable(m_document->toPlainText()));
-    logger.log(3, "%s", "");
+    RVResult::logOutput(m_document->toPlainText());
 }
 
 bool BusyDialog::event(QEvent *event)
@@ -572,6 +634,9 @@ void BusyDialog::retranslateUi()
         m_label->setText(tr("Installing updates..."));
     }
     setBarText(m_barText);
+    if (m_isFinished) {
+        showResult();
+    }
     if (m_cancelTextIsDefault) {
         m_cancelText = tr("Cancel");
     }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "install/RVResult.h"
+
 #include <QDialog>
 #include <QList>
 #include <QProcess>
@@ -13,6 +15,7 @@
 class QDialogButtonBox;
 class QGroupBox;
 class QLabel;
+class QListWidget;
 class QProgressBar;
 class QPushButton;
 class QTextDocument;
@@ -43,6 +46,9 @@ public:
     void setAutoReset(bool on);
     void setAutoClose(bool on);
     bool wasCanceled() const { return m_wasCanceled; }
+    /// What finished() shows: the label's summary and a list of the updates; the bar goes where not
+    /// everything was installed.
+    void setResult(const RVResult &result);
 
 public Q_SLOTS:
     void finished();
@@ -110,6 +116,8 @@ private:
     void applyCancelText(const QString &text);
     void updateNames();
     void setBarText(BarText text);
+    void showResult();
+    static QString stateText(RVItemResult::State state);
     void resetChannels();
     void append(Channel &channel, const QByteArray &bytes);
     void appendText(const QString &text, bool isError);
@@ -130,6 +138,8 @@ private:
     bool m_autoReset = true;
     bool m_wasCanceled = false;
     bool m_isFinished = false;
+    RVResult m_result;
+    QListWidget *m_results = nullptr;
     QGroupBox *m_detailsBox = nullptr;
     QTextDocument *m_document = nullptr;
     QTextEdit *m_detailsView = nullptr;

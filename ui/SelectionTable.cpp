@@ -322,25 +322,16 @@ void SelectionTable::radioClicked(int row, int)
     }
 }
 
-void SelectionTable::incInstallFinished(int exitCode, QProcess::ExitStatus)
+void SelectionTable::incInstallFinished(int exitCode, QProcess::ExitStatus exitStatus)
 {
     // A cancel reports an end too, but leaves a running installer alone: that one's own end counts.
     if (m_procedure && m_procedure->state() != QProcess::NotRunning) {
         return;
     }
-    if (exitCode != 0) {
-        RVLogger().log(3, "Install process returned non-zero status code %d", exitCode);
-    }
-    if (exitCode != 0 || (m_procedure && m_procedure->hasRefused())) {
-        Q_EMIT installError();
-    } else if (m_procedure && m_procedure->isDeclined()) {
-        // As after a cancel, there is nothing to show.
-        m_busyDialog->hide();
-        m_busyDialog->deleteLater();
-    } else {
-        takeChoicesAsDone();
-    }
-    endInstallation();
+    RVResult result;
+    result.exitCode = exitCode;
+    result.exitStatus = exitStatus;
+    endInstallation(m_procedure ? m_procedure->result() : result);
 }
 
 void SelectionTable::relayNetworkError(const QNetworkReply *reply)
@@ -352,8 +343,7 @@ void SelectionTable::relayProcessError(QProcess::ProcessError error)
 {
     // Every other error is followed by finished().
     if (error == QProcess::FailedToStart) {
-        Q_EMIT installError();
-        endInstallation();
+        endInstallation(m_procedure ? m_procedure->result() : RVResult());
     }
 }
 
@@ -537,18 +527,33 @@ void SelectionTable::fitToContents()
     updateGeometry();
 }
 
-void SelectionTable::takeChoicesAsDone()
+// The chosen rows that are installed are no choices of the user any more; the others stay.
+void SelectionTable::takeChoicesAsDone(const RVResult &result)
 {
-    for (int row = 0; row < m_rows.size(); ++row) {
-        if (item(row, ChoiceColumn)->checkState() == Qt::Checked) {
+    for (const RVItemResult &item : result.items) {
+        const int row = m_entries.indexOf(item.entry);
+        if (row >= 0 && item.isDone()) {
             m_rows[row].proposed = Qt::Checked;
         }
     }
 }
 
-void SelectionTable::endInstallation()
+void SelectionTable::endInstallation(const RVResult &result)
 {
-    RVLogger().log(5, "INSTALL FINISHED");
+    result.log();
+    takeChoicesAsDone(result);
+    const bool isDeclined = m_procedure && m_procedure->isDeclined();
+    if (m_busyDialog && isDeclined) {
+        // As after a cancel, there is nothing to show.
+        m_busyDialog->hide();
+        m_busyDialog->deleteLater();
+    } else if (m_busyDialog) {
+        m_busyDialog->setResult(result);
+    }
+    if (!result.isWhole() && !isDeclined) {
+        Q_EMIT installError();
+    }
+    RVResult::logEnd();
     RVInstallProc *procedure = m_procedure;
     m_procedure = nullptr;
     if (procedure) {

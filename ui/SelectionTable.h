@@ -21,6 +21,7 @@
 class BusyDialog;
 class OSInfoBaseClass;
 class RVInstallProc;
+struct RVResult;
 class TableLabelItem;
 class TableRadioButtonItem;
 
@@ -119,8 +120,8 @@ private:
     void retranslateDialog();
     void applyFonts();
     void fitToContents();
-    void takeChoicesAsDone();
-    void endInstallation();
+    void takeChoicesAsDone(const RVResult &result);
+    void endInstallation(const RVResult &result);
 
     const RVPaths m_paths;
     ImageInstallBox m_imageQuestion;

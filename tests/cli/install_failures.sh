@@ -67,7 +67,8 @@ run 7 '.installer.exitCode == null' install packs SP-6.1.2-2
 printf '#!/bin/sh\nkill -KILL $$\n' > "$root/usr/sbin/xarinstall" && chmod 755 "$root/usr/sbin/xarinstall"
 run 7 '.error.text | contains("signal")' install packs SP-6.1.2-2
 # A terminal's worth of output stays bounded, and harmless.
-printf '#!/bin/sh\nseq 100000\nprintf "\\033]0;owned\\007 \\001end"\n' > "$root/usr/sbin/xarinstall"
+printf '#!/bin/sh\necho "${1#--extrdir=}" >> "%s/etc/service-packs/installed"\nseq 100000\nprintf "\\033]0;owned\\007 \\001end"\n' \
+  "$root" > "$root/usr/sbin/xarinstall"
 run 0 '.installer.outputIsCut and (.installer.output | length) <= 65536 and (.installer.output | endswith("end\n"))' install packs SP-6.1.2-2
 "$ravelctl" --quiet --root "$root" --definitions "$definitions" install packs SP-6.1.2-2 >"$work/out" 2>"$work/err"
 check "the output is passed on, and nothing else is said" sh -c 'grep -qx 100000 "$0" && grep -q "u001b" "$0" && [ ! -s "$1" ]' "$work/out" "$work/err"
@@ -76,6 +77,18 @@ rm -f -- "$work/finished"
 printf '#!/bin/sh\nseq 100000\ntouch %s\n' "$work/finished" > "$root/usr/sbin/xarinstall"
 "$ravelctl" --root "$root" --definitions "$definitions" install packs SP-6.1.2-2 2>/dev/null | head -n 1 >/dev/null || true
 check "a reader that goes away lets the installer end" test -e "$work/finished"
+
+# What is not on the system afterwards is not installed, whatever the installer says.
+fresh
+printf '#!/bin/sh\nexit 0\n' > "$root/usr/sbin/xarinstall"
+run 7 '[.results[] | .state] == ["failed"] and (.results[0].reason | contains("not in the list"))' install packs SP-6.1.2-2
+# Several packs: after a failure the rest is not tried.
+printf '#!/bin/sh\n[ "$1" != --extrdir=SP-6.1.2-2 ] || exit 3\necho "${1#--extrdir=}" >> "%s/etc/service-packs/installed"\n' \
+  "$root" > "$root/usr/sbin/xarinstall"
+fresh_list=$(cat "$root/etc/service-packs/"*)
+run 7 '[.results[].state] == ["not-confirmable", "failed", "not-tried"] and .installer.exitCode == 3' install packs
+check "  really" test "$(cat "$root/etc/service-packs/"*)" = "$fresh_list
+SP-6.1.2-1"
 
 ### 5: space
 refused 5 '.error.text | contains("space")' install odd tc-huge

@@ -27,8 +27,15 @@ save_root
 watch_installers
 cat > "$work/xarinstall" <<SHELL
 #!/bin/sh
-echo "\$0 --extrdir=<directory of the archive>" > "$work/ran/command"
+if [ -e ../RVinstall.sh ]; then
+  # One of several.
+  echo "/bin/bash ./RVinstall.sh" > "$work/ran/command"
+  cp ../RVinstall.sh "$work/ran/script"
+else
+  echo "\$0 --extrdir=<directory of the archive>" > "$work/ran/command"
+fi
 [ -d "\${1#--extrdir=}" ] && cp -R "./\${1#--extrdir=}/." "$root/"
+echo "\${1#--extrdir=}" >> "$root/etc/service-packs/installed"
 SHELL
 
 cases=0
@@ -88,7 +95,11 @@ same tls --accept-fingerprint "$fingerprint:host"
 same packs SP-6.1.2-2
 same packs SP-6.1.2-3
 same packs SP-6.1.2-3=3
-expected=8 same packs
+check "the pack that is named is installed" jq -e '[.results[] | .name, .state] == ["SP-6.1.2-3", "not-confirmable"]' "$work/out"
+fresh
+same packs
+check "each pack is installed, in their order" jq -e '[.results[].state] == ["not-confirmable", "installed", "installed"]' "$work/out"
+check "  and listed in it" test "$(tail -n 3 "$root/etc/service-packs/installed" | tr '\n' ' ')" = "SP-6.1.2-1 SP-6.1.2-2 SP-6.1.2-3 "
 same images tc-system=6.2.0
 check "the image is noted" grep -q 'tc-system-6.2.0.dd.gz' "$root/etc/auto-update/new_image"
 same images tc-system=6.1.2 --reinstall

@@ -69,7 +69,7 @@ void tst_RVBatch::kinds_data()
     QTest::newRow("packages") << QStringList{deb, otherDeb} << Kind::Packages
                               << QList<bool>{true, true} << 2;
     QTest::newRow("service packs")
-        << QStringList{xar, otherXar} << Kind::ServicePacks << QList<bool>{true, false} << 1;
+        << QStringList{xar, otherXar} << Kind::ServicePacks << QList<bool>{true, true} << 2;
     QTest::newRow("images") << QStringList{image, otherImage} << Kind::Image
                             << QList<bool>{true, false} << 0;
     QTest::newRow("a package first") << QStringList{deb, xar, image, otherDeb} << Kind::Packages

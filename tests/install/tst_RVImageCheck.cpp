@@ -195,8 +195,8 @@ void tst_RVImageCheck::install(const QUrl &url, int size)
         }
     });
     connect(&procedure, &RVInstallProc::archiveRefused, this,
-            [this](const QUrl &, const QString &reason) {
-                m_refusals.append(reason);
+            [this](const QUrl &, const RVSentence &reason) {
+                m_refusals.append(reason.english());
             });
     QSignalSpy finished(&procedure, qOverload<int, QProcess::ExitStatus>(&QProcess::finished));
     procedure.start();

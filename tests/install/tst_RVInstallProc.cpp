@@ -7,6 +7,7 @@
 #include "tests/support/HttpServer.h"
 #include "tests/support/InlineFtpServer.h"
 #include "tests/support/LogFile.h"
+#include "tests/support/PackageOutline.h"
 #include "tests/support/PrivateState.h"
 #include "tests/support/TestAuthority.h"
 #include "tests/support/WarningGuard.h"
@@ -43,6 +44,16 @@ QByteArray beginning(const QByteArray &bytes, qint64 size)
     return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(size) + "\r\n\r\n" + bytes;
 }
 
+/// How each update of a run ended.
+QString states(const RVInstallProc &procedure)
+{
+    QStringList result;
+    for (const RVItemResult &item : procedure.result().items) {
+        result.append(item.stateWord());
+    }
+    return result.join(QLatin1Char(' '));
+}
+
 /// Gives a package over TLS.
 class TlsServer : public QTcpServer
 {
@@ -73,8 +84,9 @@ protected:
         socket->setLocalCertificate(m_certificate);
         connect(socket, &QTcpSocket::readyRead, socket, [socket] {
             if (socket->readAll().endsWith("\r\n\r\n")) {
-                socket->write("HTTP/1.1 200 OK\r\nContent-Length: 7\r\nConnection: close\r\n\r\n"
-                              "package");
+                socket->write("HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Length: "
+                              + QByteArray::number(packageOutline().size()) + "\r\n\r\n"
+                              + packageOutline());
                 socket->disconnectFromHost();
             }
         });
@@ -233,6 +245,10 @@ private Q_SLOTS:
     void nullDescriptor();
     void sameEntryTwice();
     void mixedBatch();
+    void sameArchiveTwice();
+    void sameFileName();
+    void results_data();
+    void results();
     void proxy_data();
     void proxy();
     void ftpProxy_data();
@@ -345,6 +361,9 @@ void tst_RVInstallProc::installs()
     QCOMPARE(root.installedVersion(QStringLiteral("alpha")), QStringLiteral("1.1"));
     QCOMPARE(root.installedVersion(QStringLiteral("beta")),
              packages == 2 ? QStringLiteral("1:2.0-1") : QString());
+    QCOMPARE(states(procedure),
+             packages == 2 ? QStringLiteral("installed installed") : QStringLiteral("installed"));
+    QVERIFY(procedure.result().isWhole());
     QVERIFY(QFile::exists(root.path() + QStringLiteral("/usr/share/doc/alpha/version")));
     QVERIFY(procedure.readAllStandardOutput().contains("Setting up alpha (1.1)"));
     QVERIFY(content(root.path() + QStringLiteral("/var/log/dpkg.log"))
@@ -408,9 +427,11 @@ void tst_RVInstallProc::goodPackagesOfABadBatch()
     RVInstallProc procedure(batch, QString(), QString(), nullptr, root.paths());
     Report report(&procedure);
     run(&procedure, &report);
-    QCOMPARE(report.events.last(), QStringLiteral("finished 1 normal"));
-    QVERIFY(procedure.readAllStandardError().contains("./bad.deb"));
+    QCOMPARE(report.events.last(), QStringLiteral("finished 0 normal"));
     QCOMPARE(root.installedVersion(QStringLiteral("good")), QStringLiteral("1.0"));
+    QCOMPARE(states(procedure), QStringLiteral("left-out installed"));
+    QVERIFY(procedure.result().items.first().reason.english().contains(QLatin1String("damaged")));
+    QVERIFY(!procedure.result().isWhole());
 }
 
 void tst_RVInstallProc::leavesDowngradeAlone()
@@ -424,6 +445,10 @@ void tst_RVInstallProc::leavesDowngradeAlone()
     run(&procedure, &report);
     QCOMPARE(report.events.last(), QStringLiteral("finished 0 normal"));
     QVERIFY(procedure.readAllStandardError().contains("will not downgrade tool"));
+    QCOMPARE(states(procedure), QStringLiteral("failed"));
+    QCOMPARE(procedure.result().items.first().reason.english(),
+             QStringLiteral("The system has version 2.0."));
+    QCOMPARE(procedure.result().items.first().from, QStringLiteral("2.0"));
     QCOMPARE(root.installedVersion(QStringLiteral("tool")), QStringLiteral("2.0"));
 }
 
@@ -455,8 +480,9 @@ void tst_RVInstallProc::failsWithoutAnyPackage()
                             nullptr, root.paths());
     Report report(&procedure);
     run(&procedure, &report);
-    QCOMPARE(report.events.last(), QStringLiteral("finished 2 normal"));
-    QVERIFY(procedure.readAllStandardError().contains("./*.deb"));
+    QCOMPARE(report.events, QStringList(QStringLiteral("finished 1 crash")));
+    QVERIFY(procedure.program().isEmpty());
+    QCOMPARE(states(procedure), QStringLiteral("left-out"));
 }
 
 void tst_RVInstallProc::downloadsNoImage()
@@ -495,7 +521,7 @@ void tst_RVInstallProc::startsNothingForAnEmptyBatch()
 void tst_RVInstallProc::singleEntryWithoutCredentials()
 {
     HttpServer server;
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     const RVPaths paths = installer("/bin/ls");
     RVInstallProc procedure(entry(server.url(QStringLiteral("/a.deb")), paths), nullptr, paths);
     Report report(&procedure);
@@ -507,8 +533,8 @@ void tst_RVInstallProc::singleEntryWithoutCredentials()
 void tst_RVInstallProc::reportsInOrder()
 {
     HttpServer server;
-    server.serve(QStringLiteral("/a.deb"), "aaa");
-    server.serve(QStringLiteral("/b.deb"), "bbb");
+    server.serve(QStringLiteral("/a.deb"), packageOutline("aaa"));
+    server.serve(QStringLiteral("/b.deb"), packageOutline("bbb"));
     const RVPaths paths = installer("/bin/cat ./*.deb; echo problem >&2; exit 3");
     const QList<RVData> batch{entry(server.url(QStringLiteral("/a.deb")), paths),
                               entry(server.url(QStringLiteral("/b.deb")), paths)};
@@ -521,7 +547,7 @@ void tst_RVInstallProc::reportsInOrder()
     QCOMPARE(report.events,
              QStringList({QStringLiteral("extractFinished"), QStringLiteral("installStarted"),
                           QStringLiteral("finished 3 normal")}));
-    QCOMPARE(procedure.readAllStandardOutput(), QByteArray("aaabbb"));
+    QCOMPARE(procedure.readAllStandardOutput(), packageOutline("aaa") + packageOutline("bbb"));
     QCOMPARE(procedure.readAllStandardError(), QByteArray("problem\n"));
     QCOMPARE(m_log->count(QStringLiteral("  Starting installation.")), 1);
     QCOMPARE(m_log->lines().last(), QStringLiteral("  Starting installation."));
@@ -532,7 +558,7 @@ void tst_RVInstallProc::reportsInOrder()
 void tst_RVInstallProc::logsProgress()
 {
     const QString file = m_dir->filePath(QStringLiteral("a.deb"));
-    QVERIFY(write(file, "package"));
+    QVERIFY(write(file, packageOutline()));
     const RVPaths paths = installer("exit 0");
     const auto installAndCancel = [&] {
         RVInstallProc procedure({entry(QUrl::fromLocalFile(file), paths)}, QString(), QString(),
@@ -550,7 +576,7 @@ void tst_RVInstallProc::logsProgress()
 void tst_RVInstallProc::installerThatCannotStart()
 {
     HttpServer server;
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     RVPaths paths = rememberingBelow(m_dir->path());
     paths.shell = m_dir->filePath(QStringLiteral("missing"));
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
@@ -583,7 +609,7 @@ void tst_RVInstallProc::failedDownloadDoesNotStopTheBatch()
     BrokenDownload broken;
     const QUrl bad = broken.serve(QStringLiteral("bad.deb"));
     HttpServer server;
-    server.serve(QStringLiteral("/good.deb"), "package");
+    server.serve(QStringLiteral("/good.deb"), packageOutline());
     const RVPaths paths = installer("/bin/ls");
     for (const bool isFirst : {true, false}) {
         QList<RVData> batch{entry(server.url(QStringLiteral("/good.deb")), paths)};
@@ -605,7 +631,7 @@ void tst_RVInstallProc::immediateFailures()
 {
     const RVPaths paths = installer("/bin/ls");
     const QString good = m_dir->filePath(QStringLiteral("good.deb"));
-    QVERIFY(write(good, "package"));
+    QVERIFY(write(good, packageOutline()));
     const QList<RVData> batch{
         entry(QUrl::fromLocalFile(m_dir->filePath(QStringLiteral("missing.deb"))), paths),
         entry(QUrl::fromLocalFile(good), paths)};
@@ -630,12 +656,16 @@ void tst_RVInstallProc::allFailImmediately()
     RVInstallProc procedure(batch, QString(), QString());
     Report report(&procedure);
     procedure.start();
-    QTRY_VERIFY(procedure.findChildren<QNetworkAccessManager *>().isEmpty());
     const QString failure = QStringLiteral("networkError 203");
-    QCOMPARE(report.events, QStringList({failure, failure}));
-    procedure.cancel();
     QCOMPARE(report.events, QStringList({failure, failure, QStringLiteral("finished 1 crash")}));
-    QVERIFY(m_log->contains(QStringLiteral("INSTALL FETCH CANCEL, KILLING 0 FETCHES")));
+    QCOMPARE(states(procedure), QStringLiteral("left-out left-out"));
+    for (const RVItemResult &item : procedure.result().items) {
+        QCOMPARE(item.networkError, 203);
+    }
+    QTRY_VERIFY(procedure.findChildren<QNetworkAccessManager *>().isEmpty());
+    // It has ended.
+    procedure.cancel();
+    QCOMPARE(report.finals(), 1);
 }
 
 void tst_RVInstallProc::specialFilesAreNotOpened()
@@ -648,7 +678,7 @@ void tst_RVInstallProc::specialFilesAreNotOpened()
     const QString device = m_dir->filePath(QStringLiteral("device.deb"));
     QVERIFY(QFile::link(QStringLiteral("/dev/zero"), device));
     const QString good = m_dir->filePath(QStringLiteral("good.deb"));
-    QVERIFY(write(good, "package"));
+    QVERIFY(write(good, packageOutline()));
     const RVPaths paths = installer("/bin/ls");
     QList<RVData> batch;
     for (const QString &file : {pipe, link, device, good}) {
@@ -667,15 +697,16 @@ void tst_RVInstallProc::neverFollowsARedirect()
 {
     HttpServer server;
     server.serve(QStringLiteral("/a.deb"), "moved", 302, "Location: /other.deb\r\n");
-    server.serve(QStringLiteral("/other.deb"), "package");
+    server.serve(QStringLiteral("/other.deb"), packageOutline());
     const RVPaths paths = installer("/bin/cat ./*.deb");
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
                             QString(), nullptr, paths);
     Report report(&procedure);
     run(&procedure, &report);
     QCOMPARE(server.requests().size(), 1);
-    // What came instead goes to the installer, which refuses it for all to see.
-    QCOMPARE(procedure.readAllStandardOutput(), QByteArray("moved"));
+    // What came instead is no package.
+    QCOMPARE(report.events, QStringList(QStringLiteral("finished 1 crash")));
+    QCOMPARE(states(procedure), QStringLiteral("left-out"));
 }
 
 void tst_RVInstallProc::keepsTransfersWithinTheLimit()
@@ -687,7 +718,7 @@ void tst_RVInstallProc::keepsTransfersWithinTheLimit()
     QList<RVData> batch;
     for (int i = 0; i < count; ++i) {
         const QString path = QStringLiteral("/%1.deb").arg(i, 3, 10, QLatin1Char('0'));
-        server.serve(path, "package");
+        server.serve(path, packageOutline());
         batch.append(entry(server.url(path), paths));
     }
     RVInstallProc procedure(batch, QString(), QString(), nullptr, paths);
@@ -716,7 +747,7 @@ void tst_RVInstallProc::waitingDownloadsAfterFailures()
     QList<RVData> batch;
     for (int i = 0; i < RVLimits::transfersInFlight; ++i) {
         const QString path = QStringLiteral("/%1.deb").arg(i);
-        server.serve(path, "package");
+        server.serve(path, packageOutline());
         batch.append(entry(server.url(path), paths));
     }
     batch.append(entry(QUrl::fromLocalFile(m_dir->filePath(QStringLiteral("missing.deb"))), paths));
@@ -799,7 +830,7 @@ void tst_RVInstallProc::cancelDropsWhatHasArrived()
 {
     // A local file is there at once; only the news of it is still on its way.
     const QString file = m_dir->filePath(QStringLiteral("a.deb"));
-    QVERIFY(write(file, "package"));
+    QVERIFY(write(file, packageOutline()));
     RVInstallProc procedure({entry(QUrl::fromLocalFile(file), {})}, QString(), QString());
     Report report(&procedure);
     procedure.start();
@@ -814,7 +845,7 @@ void tst_RVInstallProc::cancelDropsWhatHasArrived()
 void tst_RVInstallProc::cancelLeavesTheInstallerRunning()
 {
     HttpServer server;
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     const QString gate = m_dir->filePath(QStringLiteral("gate"));
     QCOMPARE(::mkfifo(QFile::encodeName(gate).constData(), 0600), 0);
     const RVPaths paths =
@@ -838,7 +869,7 @@ void tst_RVInstallProc::cancelLeavesTheInstallerRunning()
 void tst_RVInstallProc::cancelInTheLastMoment()
 {
     const QString file = m_dir->filePath(QStringLiteral("a.deb"));
-    QVERIFY(write(file, "package"));
+    QVERIFY(write(file, packageOutline()));
     const RVPaths paths = installer("echo started");
     RVInstallProc procedure({entry(QUrl::fromLocalFile(file), paths)}, QString(), QString(),
                             nullptr, paths);
@@ -869,7 +900,7 @@ void tst_RVInstallProc::cancelTwiceReportsOnce()
 void tst_RVInstallProc::cancelAfterTheEnd()
 {
     HttpServer server;
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     const RVPaths paths = installer("exit 0");
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
                             QString(), nullptr, paths);
@@ -887,7 +918,7 @@ void tst_RVInstallProc::startsAgainAfterCancel()
 {
     HttpServer server;
     server.hold();
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     const RVPaths paths = installer("/bin/ls");
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
                             QString(), nullptr, paths);
@@ -908,7 +939,7 @@ void tst_RVInstallProc::startWhileUnderWay()
 {
     HttpServer server;
     server.hold();
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     const RVPaths paths = installer("/bin/ls");
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
                             QString(), nullptr, paths);
@@ -992,7 +1023,7 @@ void tst_RVInstallProc::sumsOverTheBatch()
 void tst_RVInstallProc::nullDescriptor()
 {
     HttpServer server;
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     const RVPaths paths = installer("exit 0");
     RVData lost = entry(server.url(QStringLiteral("/a.deb")), paths, 1000);
     lost.clearDescriptor();
@@ -1006,7 +1037,7 @@ void tst_RVInstallProc::nullDescriptor()
 void tst_RVInstallProc::sameEntryTwice()
 {
     HttpServer server;
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     const RVPaths paths = installer("/bin/ls");
     const RVData update = entry(server.url(QStringLiteral("/a.deb")), paths);
     RVInstallProc procedure({update, update}, QString(), QString(), nullptr, paths);
@@ -1020,7 +1051,7 @@ void tst_RVInstallProc::mixedBatch()
 {
     // An image behind a package is neither downloaded nor installed, and above all not thrown over.
     HttpServer server;
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     const RVPaths paths = installer("/bin/ls");
     const QList<RVData> batch{entry(server.url(QStringLiteral("/a.deb")), paths),
                               entry(server.url(QStringLiteral("/image.dd.gz")), paths)};
@@ -1031,6 +1062,105 @@ void tst_RVInstallProc::mixedBatch()
     QCOMPARE(procedure.readAllStandardOutput(), QByteArray("RVinstall.sh\na.deb\n"));
     QVERIFY(m_log->contains(QStringLiteral("'%1' cannot be installed together with other updates")
                                 .arg(server.url(QStringLiteral("/image.dd.gz")).toString())));
+}
+
+void tst_RVInstallProc::sameArchiveTwice()
+{
+    // Two filters of a definition found it, each with a descriptor of its own.
+    HttpServer server;
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
+    const RVPaths paths = installer("/bin/ls");
+    const QUrl url = server.url(QStringLiteral("/a.deb"));
+    RVInstallProc procedure({entry(url, paths), entry(url, paths)}, QString(), QString(), nullptr,
+                            paths);
+    Report report(&procedure);
+    run(&procedure, &report);
+    QCOMPARE(server.requests().size(), 1);
+    QCOMPARE(procedure.readAllStandardOutput(), QByteArray("RVinstall.sh\na.deb\n"));
+    QCOMPARE(procedure.result().items.size(), 2);
+}
+
+void tst_RVInstallProc::sameFileName()
+{
+    HttpServer server;
+    server.serve(QStringLiteral("/one/a.deb"), packageOutline("one"));
+    server.serve(QStringLiteral("/two/a.deb"), packageOutline("two"));
+    const RVPaths paths = installer("/bin/cat ./*.deb");
+    RVInstallProc procedure({entry(server.url(QStringLiteral("/one/a.deb")), paths),
+                             entry(server.url(QStringLiteral("/two/a.deb")), paths)},
+                            QString(), QString(), nullptr, paths);
+    Report report(&procedure);
+    run(&procedure, &report);
+    const QByteArray seen = procedure.readAllStandardOutput();
+    QCOMPARE(seen.size(), packageOutline("one").size() * 2);
+    QVERIFY(seen.contains("one") && seen.contains("two"));
+}
+
+void tst_RVInstallProc::results_data()
+{
+    QTest::addColumn<QByteArray>("postinst");
+    QTest::addColumn<QByteArray>("shell");
+    QTest::addColumn<QString>("installedBefore");
+    QTest::addColumn<QString>("expected");
+    QTest::addColumn<QString>("reason");
+
+    const QByteArray real;
+    const QByteArray good = "#!/bin/sh\n";
+    const QByteArray bad = "#!/bin/sh\nexit 1\n";
+    QTest::newRow("new") << good << real << QString() << QStringLiteral("installed") << QString();
+    QTest::newRow("newer") << good << real << QStringLiteral("1.0") << QStringLiteral("installed")
+                           << QString();
+    QTest::newRow("again") << good << real << QStringLiteral("1.1") << QStringLiteral("installed")
+                           << QString();
+    QTest::newRow("half configured") << bad << real << QString() << QStringLiteral("failed")
+                                     << QStringLiteral("It is unpacked, but not configured.");
+    QTest::newRow("an installer that does nothing")
+        << good << QByteArray("exit 0") << QString() << QStringLiteral("failed")
+        << QStringLiteral("The system does not have it.");
+    QTest::newRow("an installer that does nothing, over another version")
+        << good << QByteArray("exit 0") << QStringLiteral("1.0") << QStringLiteral("failed")
+        << QStringLiteral("The system has version 1.0.");
+    QTest::newRow("an installer that does nothing, over the same version")
+        << good << QByteArray("exit 0") << QStringLiteral("1.1") << QStringLiteral("failed")
+        << QStringLiteral("The installer left the installed package as it was.");
+    QTest::newRow("an installer that is killed")
+        << good << QByteArray("kill -KILL $$") << QString() << QStringLiteral("failed")
+        << QStringLiteral("The system does not have it.");
+}
+
+void tst_RVInstallProc::results()
+{
+    QFETCH(QByteArray, postinst);
+    QFETCH(QByteArray, shell);
+    QFETCH(QString, installedBefore);
+    QFETCH(QString, reason);
+    const DpkgRoot root;
+    const QString name = QStringLiteral("tool");
+    if (!installedBefore.isEmpty()) {
+        QCOMPARE(root.preinstall({name, installedBefore}), QString());
+    }
+    RVPaths paths = root.paths();
+    if (!shell.isEmpty()) {
+        paths.shell = installer(shell).shell;
+    }
+    const RVData update = entry(
+        pool({name, QStringLiteral("1.1"), {}, {{QStringLiteral("postinst"), postinst}}}), paths);
+    RVInstallProc procedure({update}, QString(), QString(), nullptr, paths);
+    Report report(&procedure);
+    run(&procedure, &report);
+    QTRY_COMPARE(report.finals(), 1);
+    QTEST(states(procedure), "expected");
+    const RVItemResult item = procedure.result().items.first();
+    QCOMPARE(item.reason.english(), reason);
+    QCOMPARE(item.from, installedBefore);
+    QCOMPARE(item.to, QStringLiteral("1.1"));
+    QCOMPARE(procedure.result().isWhole(), reason.isEmpty());
+    // A second run says it again.
+    const QString before = states(procedure);
+    report.events.clear();
+    run(&procedure, &report);
+    QTRY_COMPARE(report.finals(), 1);
+    QCOMPARE(states(procedure), before);
 }
 
 void tst_RVInstallProc::proxy_data()
@@ -1050,8 +1180,8 @@ void tst_RVInstallProc::proxy()
 
     HttpServer server;
     const QString far = QStringLiteral("http://updates.invalid/a.deb");
-    server.serve(far, "package");
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(far, packageOutline());
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     const RVPaths paths = installer("/bin/cat ./*.deb");
     const QUrl url = isSet ? QUrl(far) : server.url(QStringLiteral("/a.deb"));
     RVInstallProc procedure({entry(url, paths)}, QString(), QString(), nullptr, paths);
@@ -1059,7 +1189,7 @@ void tst_RVInstallProc::proxy()
     procedure.proxyPort = isSet ? server.port() : port;
     Report report(&procedure);
     run(&procedure, &report);
-    QCOMPARE(procedure.readAllStandardOutput(), QByteArray("package"));
+    QCOMPARE(procedure.readAllStandardOutput(), packageOutline());
     QVERIFY(server.requests().first().startsWith(isSet ? "GET http://updates.invalid/a.deb "
                                                        : "GET /a.deb "));
 }
@@ -1093,7 +1223,7 @@ void tst_RVInstallProc::ftpProxy()
 void tst_RVInstallProc::noProxyByDefault()
 {
     HttpServer server;
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     const RVPaths paths = installer("exit 0");
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
                             QString(), nullptr, paths);
@@ -1178,7 +1308,7 @@ void tst_RVInstallProc::passesQuestionsOut()
                 QCOMPARE(reply->url(), server.url(QStringLiteral("/a.deb")));
                 QCOMPARE(auth->realm(), QStringLiteral("x"));
                 if (asked == 1) {
-                    server.serve(QStringLiteral("/a.deb"), "package");
+                    server.serve(QStringLiteral("/a.deb"), packageOutline());
                     auth->setUser(QStringLiteral("u"));
                     auth->setPassword(QStringLiteral("p"));
                 }
@@ -1201,7 +1331,7 @@ void tst_RVInstallProc::passesQuestionsOut()
     connect(&other, &RVInstallProc::proxyAuthenticationRequired, this,
             [&](const QNetworkProxy &proxy, QAuthenticator *auth) {
                 asking = proxy;
-                server.serve(QStringLiteral("http://updates.invalid/a.deb"), "package");
+                server.serve(QStringLiteral("http://updates.invalid/a.deb"), packageOutline());
                 auth->setUser(QStringLiteral("u"));
                 auth->setPassword(QStringLiteral("p"));
             });
@@ -1240,13 +1370,15 @@ void tst_RVInstallProc::asksAboutCertificates()
     run(&procedure, &report);
     QCOMPARE(asked, 1);
     QCOMPARE(report.events.contains(QStringLiteral("networkError 6")), !accepted);
-    QCOMPARE(procedure.readAllStandardOutput(), accepted ? QByteArray("package") : QByteArray());
+    QCOMPARE(accepted ? procedure.readAllStandardOutput() : QByteArray(),
+             accepted ? packageOutline() : QByteArray());
+    QCOMPARE(procedure.program().isEmpty(), !accepted);
 }
 
 void tst_RVInstallProc::directoryOfItsOwn()
 {
     HttpServer server;
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     const RVPaths paths = installer("pwd");
     QString temporary;
     {
@@ -1285,8 +1417,8 @@ void tst_RVInstallProc::twoProceduresAtOnce()
     HttpServer server;
     server.hold();
     const RVPaths paths = installer("/bin/ls");
-    server.serve(QStringLiteral("/a.deb"), "package");
-    server.serve(QStringLiteral("/b.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
+    server.serve(QStringLiteral("/b.deb"), packageOutline());
     auto first = std::make_unique<RVInstallProc>(entry(server.url(QStringLiteral("/a.deb")), paths),
                                                  nullptr, paths);
     auto second = std::make_unique<RVInstallProc>(
@@ -1310,7 +1442,7 @@ void tst_RVInstallProc::twoProceduresAtOnce()
 void tst_RVInstallProc::failsWithoutTemporaryDirectory()
 {
     HttpServer server;
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     const RVPaths paths = installer("exit 0");
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
                             QString(), nullptr, paths);
@@ -1338,7 +1470,7 @@ void tst_RVInstallProc::replyThatGoesAway()
 {
     HttpServer server;
     server.hold();
-    server.serve(QStringLiteral("/b.deb"), "package");
+    server.serve(QStringLiteral("/b.deb"), packageOutline());
     const RVPaths paths = installer("/bin/ls");
     const QList<RVData> batch{entry(server.url(QStringLiteral("/a.deb")), paths),
                               entry(server.url(QStringLiteral("/b.deb")), paths)};
@@ -1358,7 +1490,7 @@ void tst_RVInstallProc::entriesMayGo()
 {
     HttpServer server;
     server.hold();
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     const RVPaths paths = installer("/bin/ls");
     QList<RVData> batch{entry(server.url(QStringLiteral("/a.deb")), paths, 100)};
     RVInstallProc procedure(batch, QString(), QString(), nullptr, paths);
@@ -1374,7 +1506,7 @@ void tst_RVInstallProc::entriesMayGo()
 void tst_RVInstallProc::destructorWaitsForTheInstaller()
 {
     HttpServer server;
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     const QString done = m_dir->filePath(QStringLiteral("done"));
     // It waits for its input to end, then says more than a pipe holds, and only then is done.
     const RVPaths paths = installer("echo running; read; printf 'x%.0s' {1..300000};"
@@ -1416,7 +1548,7 @@ void tst_RVInstallProc::destructorDuringDownloads()
 void tst_RVInstallProc::passesEnvironment()
 {
     HttpServer server;
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     RVPaths paths = installer("echo \"$RAVEL_TEST|$HOME\"");
     paths.installerEnvironment = QStringList{QStringLiteral("RAVEL_TEST=a=b c")};
     RVInstallProc procedure({entry(server.url(QStringLiteral("/a.deb")), paths)}, QString(),
@@ -1484,7 +1616,7 @@ void tst_RVInstallProc::environmentIsClean()
 void tst_RVInstallProc::hasNoTerminalAndNothingToRead()
 {
     HttpServer server;
-    server.serve(QStringLiteral("/a.deb"), "package");
+    server.serve(QStringLiteral("/a.deb"), packageOutline());
     // The session's id is the shell's own process.
     const RVPaths paths = installer("read -r line && echo \"read $line\"\n"
                                     "ps -o sid= -p $$ | grep -qw $$ && echo own session\n"
@@ -1541,10 +1673,10 @@ void tst_RVInstallProc::swappedArchive()
     run(&procedure, &report);
     QCOMPARE(refused.size(), 1);
     QCOMPARE(refused.first().at(0).toUrl(), batch.first().archiveUrl());
-    const QString reason = refused.first().at(1).toString();
+    const QString reason = refused.first().at(1).value<RVSentence>().english();
     QVERIFY2(reason.contains(QStringLiteral("'evil'")) && reason.contains(QStringLiteral("'tool'")),
              qPrintable(reason));
-    QVERIFY(procedure.hasRefused());
+    QCOMPARE(procedure.result().items.first().state, RVItemResult::State::LeftOut);
     if (isAlone) {
         // Nothing was started.
         QCOMPARE(report.events.last(), QStringLiteral("finished 1 crash"));

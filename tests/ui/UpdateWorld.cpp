@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/ui/UpdateWorld.h"
 
+#include "tests/support/PackageOutline.h"
 #include "tests/support/PrivateState.h"
 
 #include <QDir>
@@ -29,6 +30,8 @@ UpdateWorld::UpdateWorld()
     QDir(m_dir.path()).mkdir(QStringLiteral("repository"));
     m_paths.shell = file(QStringLiteral("installer"));
     m_paths.packageDatabase = file(QStringLiteral("dpkg"));
+    // Nothing tells whether an installer did what it says.
+    m_paths.packageStatus = file(QStringLiteral("no-database"));
     setInstaller("exit 0");
 }
 
@@ -44,7 +47,8 @@ void UpdateWorld::add(const QString &file, const QString &name, const QString &v
     }
     xml += QStringLiteral("</update_data>");
     write(repository() + QLatin1Char('/') + file + QStringLiteral(".xml"), xml.toUtf8());
-    write(repository() + QLatin1Char('/') + file + QStringLiteral(".deb"), "archive");
+    write(repository() + QLatin1Char('/') + file + QStringLiteral(".deb"),
+          packageOutline("archive"));
 }
 
 RVData UpdateWorld::entry(const QString &file, const QString &name, const QString &version,

@@ -5,6 +5,7 @@
 #include "tests/support/CpuCost.h"
 #include "tests/support/HttpServer.h"
 #include "tests/support/LogFile.h"
+#include "tests/support/PackageOutline.h"
 #include "tests/support/WarningGuard.h"
 #include "tests/ui/UpdateWorld.h"
 #include "ui/BusyDialog.h"
@@ -1041,7 +1042,7 @@ void tst_SelectionTable::handsProxyAndCredentialsOn()
 void tst_SelectionTable::answersWithItsCredentials()
 {
     HttpServer server;
-    server.serve(QStringLiteral("/a.deb"), "archive");
+    server.serve(QStringLiteral("/a.deb"), packageOutline("archive"));
     server.protect(QStringLiteral("user"), QStringLiteral("secret"));
     const RVData entry = m_world->remoteEntry(server.url(QStringLiteral("/a.deb")));
     m_world->setInstaller("cat a.deb >" + QFile::encodeName(m_world->file(QStringLiteral("seen"))));
@@ -1057,14 +1058,14 @@ void tst_SelectionTable::answersWithItsCredentials()
     QCOMPARE(asked.size(), 0);
     QFile seen(m_world->file(QStringLiteral("seen")));
     QVERIFY(seen.open(QIODevice::ReadOnly));
-    QCOMPARE(seen.readAll(), QByteArray("archive"));
+    QCOMPARE(seen.readAll(), packageOutline("archive"));
 }
 
 // The archive lies on another server than the repository.
 void tst_SelectionTable::offersItsCredentialsToNobodyElse()
 {
     HttpServer server;
-    server.serve(QStringLiteral("/a.deb"), "archive");
+    server.serve(QStringLiteral("/a.deb"), packageOutline("archive"));
     server.protect(QStringLiteral("user"), QStringLiteral("secret"));
     const QUrl archive = server.url(QStringLiteral("/a.deb"));
     QUrl repository = archive;
@@ -1098,7 +1099,7 @@ void tst_SelectionTable::offersItsCredentialsToNobodyElse()
     table.install();
     QTRY_COMPARE(finished.size(), 2);
     QCOMPARE(failed.size(), 1);
-    QCOMPARE(QFileInfo(seen.filePath()).size(), 7);
+    QCOMPARE(QFileInfo(seen.filePath()).size(), packageOutline("archive").size());
 }
 
 void tst_SelectionTable::asksWhenItsCredentialsFail()

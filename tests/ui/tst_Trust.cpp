@@ -3,6 +3,7 @@
 #include "repository/RVRepository.h"
 #include "tests/support/EventLoop.h"
 #include "tests/support/LogFile.h"
+#include "tests/support/PackageOutline.h"
 #include "tests/support/WarningGuard.h"
 #include "tests/support/WebServers.h"
 #include "tests/ui/UpdateWorld.h"
@@ -55,7 +56,7 @@ bool publish(const WebServer &server, const QString &name, const QString &folder
 {
     QDir(server.root()).mkpath(QLatin1Char('.') + folder);
     const QString path = server.root() + folder + QLatin1Char('/') + name;
-    return writeFile(path + QStringLiteral(".deb"), "archive")
+    return writeFile(path + QStringLiteral(".deb"), packageOutline())
         && writeFile(path + QStringLiteral(".xml"), descriptor(name));
 }
 
@@ -412,7 +413,7 @@ void tst_Trust::loginForALinkedServer()
     QSignalSpy finished(frame, &Frame::installFinished);
     frame->findChild<SelectionTable *>()->install();
     QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
-    QCOMPARE(QFileInfo(m_world->file(QStringLiteral("seen"))).size(), 7);
+    QCOMPARE(QFileInfo(m_world->file(QStringLiteral("seen"))).size(), packageOutline().size());
     QVERIFY(!users(linked).contains(me));
 }
 
@@ -460,7 +461,7 @@ void tst_Trust::loginDuringAnInstallation()
     frame->findChild<SelectionTable *>()->install();
     QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 2, patience);
     QCOMPARE(failed.size(), 1);
-    QCOMPARE(QFileInfo(m_world->file(QStringLiteral("seen"))).size(), 7);
+    QCOMPARE(QFileInfo(m_world->file(QStringLiteral("seen"))).size(), packageOutline().size());
 }
 
 void tst_Trust::certificateRejected()
@@ -867,7 +868,7 @@ void tst_Trust::proxyDuringAnInstallation()
     frame->setProxy(QStringLiteral("127.0.0.1"), proxy.port());
     frame->findChild<SelectionTable *>()->install();
     QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 3, patience);
-    QCOMPARE(QFileInfo(m_world->file(QStringLiteral("seen"))).size(), 7);
+    QCOMPARE(QFileInfo(m_world->file(QStringLiteral("seen"))).size(), packageOutline().size());
 }
 
 QTEST_MAIN(tst_Trust)

@@ -5,7 +5,7 @@
 #include <QString>
 
 /// Whether a file can be what its name says, as far as that shows without unpacking it.
-namespace RVCtlArchive
+namespace RVWholeArchive
 {
 
 /// A package is whole when its members fill the file to its end: one that was cut off anywhere is
@@ -14,4 +14,4 @@ bool isWholePackage(const QString &fileName);
 /// A service pack needs an intact table of contents.
 bool isServicePack(const QString &fileName);
 
-} // namespace RVCtlArchive
+} // namespace RVWholeArchive

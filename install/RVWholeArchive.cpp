@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "cli/RVCtlArchive.h"
+#include "install/RVWholeArchive.h"
 
 #include "core/XarToc.h"
 
@@ -17,7 +17,7 @@ constexpr int magicBytes = 8;
 
 } // namespace
 
-bool RVCtlArchive::isWholePackage(const QString &fileName)
+bool RVWholeArchive::isWholePackage(const QString &fileName)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly) || file.read(magicBytes) != magic) {
@@ -41,7 +41,7 @@ bool RVCtlArchive::isWholePackage(const QString &fileName)
     return members >= 3;
 }
 
-bool RVCtlArchive::isServicePack(const QString &fileName)
+bool RVWholeArchive::isServicePack(const QString &fileName)
 {
     QFile file(fileName);
     XarToc table;
