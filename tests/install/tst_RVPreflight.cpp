@@ -48,8 +48,6 @@ QVector<Kind> kindsOf(const QVector<RVObstacle> &obstacles)
 
 } // namespace
 
-Q_DECLARE_METATYPE(RVSentence)
-
 /// With real locks of real processes.
 class tst_RVPreflight : public QObject
 {

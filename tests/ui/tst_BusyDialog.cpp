@@ -4,6 +4,7 @@
 #include "install/RVInstallProc.h"
 #include "tests/support/CpuCost.h"
 #include "tests/support/LogFile.h"
+#include "tests/support/PrivateState.h"
 #include "tests/support/WarningGuard.h"
 #include "tests/ui/Spoken.h"
 #include "ui/BusyDialog.h"
@@ -12,11 +13,13 @@
 #include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QListWidget>
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTextEdit>
 #include <QTranslator>
@@ -101,6 +104,8 @@ public:
 };
 
 } // namespace
+
+Q_DECLARE_METATYPE(RVItemResult::State)
 
 class tst_BusyDialog : public QObject
 {
@@ -594,7 +599,8 @@ private Q_SLOTS:
         BusyDialog dialog;
         dialog.setAutoReset(false);
         const Parts parts(dialog);
-        RVInstallProc procedure({}, {}, {});
+        const QTemporaryDir kept;
+        RVInstallProc procedure({}, {}, {}, nullptr, rememberingBelow(kept.path()));
         dialog.follow(&procedure);
         Q_EMIT procedure.downloadProgress(KiB, 4 * KiB);
         QCOMPARE(parts.bar->text(), QStringLiteral("1 of 4 KiB"));
@@ -606,6 +612,51 @@ private Q_SLOTS:
         procedure.QProcess::start();
         QTRY_COMPARE(visibleText(parts), QStringLiteral("The process failed to start."));
         QVERIFY(!parts.close->isHidden());
+    }
+
+    void showsTheResults_data()
+    {
+        using State = RVItemResult::State;
+        QTest::addColumn<QVector<State>>("states");
+        QTest::addColumn<QString>("label");
+        QTest::addColumn<bool>("hasBar");
+
+        QTest::newRow("all") << QVector<State>{State::Installed, State::Installed}
+                             << QStringLiteral("2 updates installed") << true;
+        QTest::newRow("some") << QVector<State>{State::Installed, State::Failed, State::LeftOut}
+                              << QStringLiteral("1 of 3 updates installed") << false;
+        QTest::newRow("none") << QVector<State>{State::LeftOut}
+                              << QStringLiteral("Installation failed") << false;
+    }
+
+    void showsTheResults()
+    {
+        QFETCH(QVector<RVItemResult::State>, states);
+        QFETCH(QString, label);
+        QFETCH(bool, hasBar);
+        RVResult result;
+        for (const RVItemResult::State state : states) {
+            result.items.append(
+                {RVData(QUrl(QStringLiteral("http://h/a.deb")), QUrl()), QStringLiteral("<b>a</b>"),
+                 QString(), QStringLiteral("1.0"), state,
+                 state == RVItemResult::State::Installed ? RVSentence() : RVSentence("No room."),
+                 RVItemResult::Fault::None, 0});
+        }
+        BusyDialog dialog;
+        const Parts parts(dialog);
+        const auto *list = dialog.findChild<QListWidget *>(QStringLiteral("results"));
+        dialog.show();
+        QVERIFY(!list->isVisible());
+        dialog.setResult(result);
+        dialog.finished();
+        QCOMPARE(parts.label->text(), label);
+        QCOMPARE(parts.bar->isVisible(), hasBar);
+        QVERIFY(list->isVisible());
+        QVERIFY(list->geometry().bottom() < parts.box->geometry().top());
+        QCOMPARE(list->count(), states.size());
+        QVERIFY(list->item(0)->text().startsWith(QLatin1String("<b>a</b> 1.0: ")));
+        QCOMPARE(list->item(list->count() - 1)->text().contains(QLatin1String("No room.")),
+                 !hasBar);
     }
 
     void cancelEndsTheInstallation()
