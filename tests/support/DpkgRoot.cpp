@@ -70,9 +70,8 @@ QString DpkgRoot::build(const Package &package, const QString &file)
         || !QFile::setPermissions(dir.filePath(QStringLiteral("DEBIAN")), openToAll)) {
         return QStringLiteral("no package tree");
     }
-    const QByteArray control = "Package: " + package.name.toUtf8()
-        + "\nVersion: " + package.version.toUtf8()
-        + "\nArchitecture: " + package.architecture.toUtf8()
+    const QByteArray control = "Package: " + package.name.toUtf8() + "\nVersion: "
+        + package.version.toUtf8() + "\nArchitecture: " + package.architecture.toUtf8()
         + "\nMaintainer: Ravel developers <ravel@example.org>\n" + package.fields
         + "Description: package for a test\n";
     bool written = write(dir.filePath(QStringLiteral("DEBIAN/control")), control)
