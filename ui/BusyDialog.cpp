@@ -12,6 +12,7 @@
 #include "ui/RVTrustTexts.h"
 
 #include <QDialogButtonBox>
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QFontDatabase>
 #include <QLabel>
@@ -38,10 +39,12 @@ constexpr int maximumLines = 20000;
 constexpr int maximumCharacters = 2 * 1024 * 1024;
 /// Longer lines are broken: the layout of one line takes time in proportion to its square.
 constexpr int maximumColumns = 1000;
-/// Output is put into the view in batches, so many milliseconds apart or as soon as one is so
-/// large.
+/// More bytes than the characters that the view holds.
+constexpr int maximumBytes = 3 * maximumCharacters;
+/// Output is put into the view in batches, so many milliseconds apart, or where that takes long so
+/// many times as long: the window stays with its user.
 constexpr int batchInterval = 50;
-constexpr int batchSize = 256 * 1024;
+constexpr int batchShare = 4;
 
 int toKiB(qint64 bytes)
 {
@@ -429,6 +432,7 @@ void BusyDialog::processOutputToDetails(QProcess *proc)
     if (m_process) {
         disconnect(m_process, nullptr, this, nullptr);
     }
+    flushOutput();
     m_process = proc;
     resetChannels();
     if (proc) {
@@ -472,6 +476,26 @@ void BusyDialog::appendProcessStderr()
 
 void BusyDialog::append(Channel &channel, const QByteArray &bytes)
 {
+    if (bytes.isEmpty()) {
+        return;
+    }
+    if (!m_pending.isEmpty() && m_pending.constLast().channel == &channel) {
+        m_pending.last().bytes.append(bytes);
+    } else {
+        m_pending.append({bytes, &channel});
+    }
+    m_pendingSize += bytes.size();
+    // Seldom, for it moves what stays.
+    if (m_pendingSize > 2 * maximumBytes) {
+        dropPending();
+    }
+    if (!m_flushTimer.isActive()) {
+        m_flushTimer.start();
+    }
+}
+
+QString BusyDialog::decoded(Channel &channel, const QByteArray &bytes)
+{
     const QString decoded = channel.decoder->toUnicode(bytes);
     QString text;
     text.reserve(decoded.size());
@@ -495,20 +519,44 @@ void BusyDialog::append(Channel &channel, const QByteArray &bytes)
         }
         channel.afterReturn = isReturn;
     }
-    if (text.isEmpty()) {
-        return;
+    return text;
+}
+
+void BusyDialog::dropPending()
+{
+    int excess = m_pendingSize - maximumBytes;
+    while (excess > 0) {
+        QByteArray &run = m_pending.first().bytes;
+        const int dropped = qMin(excess, run.size());
+        excess -= dropped;
+        m_pendingSize -= dropped;
+        if (dropped == run.size()) {
+            m_pending.removeFirst();
+        } else {
+            run.remove(0, dropped);
+        }
+        m_isPendingCut = true;
     }
-    if (!m_pending.isEmpty() && m_pending.constLast().isError == channel.isError) {
-        m_pending.last().text.append(text);
-    } else {
-        m_pending.append({text, channel.isError});
+    if (m_isPendingCut) {
+        resetChannels();
     }
-    m_pendingSize += text.size();
-    if (m_pendingSize >= batchSize) {
-        flushOutput();
-    } else if (!m_flushTimer.isActive()) {
-        m_flushTimer.start();
+}
+
+bool BusyDialog::keepLastLines(QVector<Text> *texts)
+{
+    int lines = 0;
+    for (int i = texts->size() - 1; i >= 0; --i) {
+        const QString &text = texts->at(i).text;
+        int at = text.size();
+        while (at > 0 && (at = text.lastIndexOf(QLatin1Char('\n'), at - 1)) >= 0) {
+            if (++lines > maximumLines) {
+                (*texts)[i].text = text.mid(at + 1);
+                texts->erase(texts->begin(), texts->begin() + i);
+                return true;
+            }
+        }
     }
+    return false;
 }
 
 void BusyDialog::flushOutput()
@@ -517,13 +565,30 @@ void BusyDialog::flushOutput()
     if (m_pending.isEmpty()) {
         return;
     }
+    QElapsedTimer timer;
+    timer.start();
+    dropPending();
+    QVector<Text> texts;
     for (const Output &output : qAsConst(m_pending)) {
-        appendText(output.text, output.isError);
+        texts.append({decoded(*output.channel, output.bytes), output.channel->isError});
     }
     m_pending.clear();
     m_pendingSize = 0;
-    trimDetails();
+    // What scrolls out at once is never put there: the document takes its time for each line.
+    const bool isCut = keepLastLines(&texts) || m_isPendingCut;
+    m_isPendingCut = false;
+    if (isCut) {
+        m_document->clear();
+    }
+    QTextCursor edit(m_document);
+    edit.beginEditBlock();
+    for (const Text &text : qAsConst(texts)) {
+        appendText(text.text, text.isError);
+    }
+    trimDetails(isCut);
+    edit.endEditBlock();
     scrollToEnd();
+    m_flushTimer.setInterval(qMax(batchInterval, static_cast<int>(timer.elapsed()) * batchShare));
 }
 
 void BusyDialog::appendText(const QString &text, bool isError)
@@ -537,11 +602,11 @@ void BusyDialog::appendText(const QString &text, bool isError)
     cursor.insertText(text, format);
 }
 
-void BusyDialog::trimDetails()
+void BusyDialog::trimDetails(bool isCut)
 {
     const int excessLines = m_document->blockCount() - maximumLines;
     const int excessCharacters = m_document->characterCount() - maximumCharacters;
-    if (excessLines <= 0 && excessCharacters <= 0) {
+    if (!isCut && excessLines <= 0 && excessCharacters <= 0) {
         return;
     }
     // Whole lines; the first one is an earlier note.

@@ -9,6 +9,7 @@
 #include <QProcess>
 #include <QTextDecoder>
 #include <QTimer>
+#include <QVector>
 
 #include <memory>
 
@@ -101,6 +102,10 @@ private:
         bool isError = false;
     };
     struct Output {
+        QByteArray bytes;
+        Channel *channel;
+    };
+    struct Text {
         QString text;
         bool isError;
     };
@@ -120,8 +125,12 @@ private:
     static QString stateText(RVItemResult::State state);
     void resetChannels();
     void append(Channel &channel, const QByteArray &bytes);
+    static QString decoded(Channel &channel, const QByteArray &bytes);
+    /// Leaves the last lines that the view shows; false when that is all.
+    static bool keepLastLines(QVector<Text> *texts);
+    void dropPending();
     void appendText(const QString &text, bool isError);
-    void trimDetails();
+    void trimDetails(bool isCut);
     void scrollToEnd();
     QPushButton *cancelButton() const;
     QPushButton *closeButton() const;
@@ -147,8 +156,10 @@ private:
 
     Channel m_standardOutput;
     Channel m_standardError;
-    /// Decoded output that is not in the document yet: runs of one channel, in order of arrival.
+    /// Output that is not in the document yet: runs of one channel, in order of arrival.
     QList<Output> m_pending;
     int m_pendingSize = 0;
+    /// There was more than the view can show.
+    bool m_isPendingCut = false;
     QTimer m_flushTimer;
 };

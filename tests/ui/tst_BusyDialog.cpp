@@ -837,6 +837,51 @@ private Q_SLOTS:
         QCOMPARE(second.trimmed().toInt(), 65536 - (document->blockCount() - 2) + 1);
     }
 
+    // What comes while nobody looks at the view goes there at once, and only what stays.
+    void floodOfOutput_data()
+    {
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<QString>("last");
+        QTest::newRow("lines") << "seq 2000000"
+                               << "2000000";
+        QTest::newRow("both channels")
+            << "seq 100000; for i in 1 2 3; do seq 30000 >&2; seq 30000; done; echo end"
+            << "end";
+        QTest::newRow("carriage returns") << "seq 200000 | tr '\\n' '\\r'"
+                                          << "200000";
+        QTest::newRow("three bytes a character")
+            << "seq 100000 | sed 's/$/\342\202\254\342\202\254\342\202\254/'"
+            << QStringLiteral("100000\u20ac\u20ac\u20ac");
+    }
+    void floodOfOutput()
+    {
+        QFETCH(QString, script);
+        QFETCH(QString, last);
+        BusyDialog dialog;
+        const Parts parts(dialog);
+        dialog.show();
+        dialog.showDetails();
+        const QTextDocument *document = parts.view->document();
+        qint64 added = 0;
+        int most = 0;
+        connect(document, &QTextDocument::contentsChange, this, [&](int, int, int characters) {
+            added += characters;
+            most = qMax(most, document->blockCount());
+        });
+        QProcess process;
+        dialog.processOutputToDetails(&process);
+        process.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), script});
+        // Without an event loop, in which the view would be filled again and again.
+        QVERIFY(process.waitForFinished(20000));
+        dialog.finished();
+        QCOMPARE(document->firstBlock().text(),
+                 QStringLiteral("(The beginning of the output is left out.)"));
+        QCOMPARE(document->lastBlock().previous().text(), last);
+        QVERIFY(most > 19990);
+        QVERIFY2(most <= 20002, qPrintable(QString::number(most)));
+        QVERIFY2(added < 20002 * 20, qPrintable(QString::number(added)));
+    }
+
     void oneEndlessLine()
     {
         BusyDialog dialog;
