@@ -6,6 +6,7 @@
 #include "cli/RVCtlCommand.h"
 #include "cli/RVCtlDeadline.h"
 #include "cli/RVCtlInstallRun.h"
+#include "cli/RVCtlLastRun.h"
 #include "cli/RVCtlMessages.h"
 #include "cli/RVCtlObstacle.h"
 #include "cli/RVCtlOffers.h"
@@ -92,6 +93,7 @@ RVCtlResult RVCtlCommands::install(const RVCtlCall &call)
     }
     // A reader that goes away must not take the installer with it.
     std::signal(SIGPIPE, SIG_IGN);
+    RVCtlLastRun::tell(call);
 
     RVCtlResult result;
     call.world.setRememberingTrust(true);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel developers
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/RVCtlCommand.h"
+#include "cli/RVCtlLastRun.h"
 #include "cli/RVCtlText.h"
 #include "cli/RVCtlWorld.h"
 
@@ -16,9 +17,11 @@ struct Status {
     QString model;
     /// -1 when the package database cannot be read.
     int packages = -1;
+    /// An installation that outlived its program.
+    std::optional<RVKeptRun> lastRun;
 };
 
-Status statusOf(const OSInfo &system)
+Status statusOf(const OSInfo &system, const RVPaths &paths)
 {
     Status status;
     status.baseSystem = system.baseOSName().toString();
@@ -28,12 +31,13 @@ Status statusOf(const OSInfo &system)
     status.architecture = system.architecture();
     status.model = system.thinClient();
     status.packages = system.installedPackageCount();
+    status.lastRun = RVKeptRun::last(paths);
     return status;
 }
 
 QString toText(const Status &status)
 {
-    return RVCtlText::fields({
+    QVector<QPair<QString, QString>> fields{
         {QStringLiteral("Base system"), status.baseSystem},
         {QStringLiteral("Service packs"),
          status.servicePacks.isEmpty() ? QStringLiteral("none")
@@ -43,7 +47,11 @@ QString toText(const Status &status)
          status.model.isEmpty() ? QStringLiteral("unknown") : status.model},
         {QStringLiteral("Packages installed"),
          status.packages < 0 ? QStringLiteral("unknown") : QString::number(status.packages)},
-    });
+    };
+    if (status.lastRun) {
+        fields.append({QStringLiteral("Last installation"), RVCtlLastRun::toText(status.lastRun)});
+    }
+    return RVCtlText::fields(fields);
 }
 
 QJsonObject toJson(const Status &status)
@@ -54,6 +62,7 @@ QJsonObject toJson(const Status &status)
         {QStringLiteral("architecture"), status.architecture},
         {QStringLiteral("model"), status.model},
         {QStringLiteral("packages"), status.packages < 0 ? QJsonValue() : status.packages},
+        {QStringLiteral("lastRun"), RVCtlLastRun::toJson(status.lastRun)},
     };
 }
 
@@ -65,6 +74,6 @@ RVCtlResult RVCtlCommands::status(const RVCtlCall &call)
     if (!call.world.readSystem(&error)) {
         return RVCtlResult::failed(RVCtlExit::Failed, error);
     }
-    const Status status = statusOf(call.world.system());
+    const Status status = statusOf(call.world.system(), call.world.paths());
     return {RVCtlExit::Done, toText(status), toJson(status), {}};
 }

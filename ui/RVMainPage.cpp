@@ -15,6 +15,7 @@
 #include "ui/CertDialog.h"
 #include "ui/RVControlFrame.h"
 #include "ui/RVErrorDialog.h"
+#include "ui/RVLastRun.h"
 #include "ui/RVStyle.h"
 
 #include <plume/Accordion.h>
@@ -366,5 +367,12 @@ void RVMainPage::makeSections(const RVPaths &paths)
         }
     }
     auto *layout = new QVBoxLayout(this);
+    auto *lastRun = new RVLastRun(paths);
+    connect(lastRun, &RVLastRun::ended, m_osInfo, &OSInfo::refresh);
+    for (RVControlFrame *frame : qAsConst(m_frames)) {
+        connect(lastRun, &RVLastRun::ended, frame,
+                QOverload<>::of(&RVControlFrame::refreshTableData));
+    }
+    layout->addWidget(lastRun);
     layout->addWidget(m_accordion, 0, Qt::AlignVCenter);
 }

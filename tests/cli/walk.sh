@@ -112,7 +112,7 @@ keys()
 }
 entry='archive descriptor installed installedSize name offered preselected reason size state title unpackedSize version'
 section='descriptorErrors error index location selector title trust'
-keys . 'architecture baseSystem error model packages servicePacks' status
+keys . 'architecture baseSystem error lastRun model packages servicePacks' status
 keys '.repositories[]' 'default description filterServicePacks filters icon index location locationLabel selector settingsKey title trust' repos
 keys '.repositories[]' "descriptorErrors entries ${section#* }" list
 keys '.repositories[].entries[]' "$entry" list --all
