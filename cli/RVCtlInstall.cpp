@@ -13,10 +13,12 @@
 #include "cli/RVCtlQuestion.h"
 #include "cli/RVCtlTrust.h"
 #include "core/RVLogger.h"
+#include "install/RVFolderMark.h"
 #include "install/RVHistory.h"
 #include "install/RVPackageDatabase.h"
 
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 
@@ -94,6 +96,7 @@ RVCtlResult RVCtlCommands::install(const RVCtlCall &call)
     // A reader that goes away must not take the installer with it.
     std::signal(SIGPIPE, SIG_IGN);
     RVCtlLastRun::tell(call);
+    RVFolderMark::removeLeft(QDir::tempPath());
 
     RVCtlResult result;
     call.world.setRememberingTrust(true);

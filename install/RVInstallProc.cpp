@@ -11,6 +11,7 @@
 #include "core/RVUrl.h"
 #include "descriptor/DataXML.h"
 #include "descriptor/DescriptorGeneric.h"
+#include "install/RVFolderMark.h"
 #include "install/RVFreeSpace.h"
 #include "install/RVImageCheck.h"
 #include "install/RVInstallerEnvironment.h"
@@ -79,7 +80,9 @@ RVInstallProc::RVInstallProc(const QList<RVData> &entries, const QString &user,
         case QProcess::Starting:
             // After a no there is no run to be remembered.
             if (!m_isDeclined) {
-                m_keeper.prepare(processChannelMode() == MergedChannels, heldLocks);
+                m_keeper.prepare(processChannelMode() == MergedChannels,
+                                 heldLocks
+                                     + QVector<int>{m_folderMark ? m_folderMark->lock() : -1});
             }
             break;
         case QProcess::Running:
@@ -156,6 +159,7 @@ void RVInstallProc::start()
         m_previousDir = QDir::currentPath();
     }
     m_temporaryDir = std::make_unique<TemporaryDir>();
+    m_folderMark = std::make_unique<RVFolderMark>(m_temporaryDir->path());
     if (!enterTemporaryDir()) {
         return;
     }

@@ -25,6 +25,7 @@
 
 class ImageQuestion;
 class QFile;
+class RVFolderMark;
 class RVImageCheck;
 class TemporaryDir;
 
@@ -178,6 +179,8 @@ private:
     RVKeeper m_keeper;
     State m_state = State::Idle;
     QString m_previousDir;
+    /// Goes after its folder.
+    std::unique_ptr<RVFolderMark> m_folderMark;
     std::unique_ptr<TemporaryDir> m_temporaryDir;
     /// The download that is started next.
     int m_next = 0;

@@ -7,6 +7,7 @@
 #include "core/RVOrigin.h"
 #include "core/RVProxy.h"
 #include "descriptor/DataXML.h"
+#include "install/RVFolderMark.h"
 #include "install/RVHistory.h"
 #include "network/RVKeyring.h"
 #include "network/XNetworkError.h"
@@ -21,6 +22,7 @@
 #include <plume/Accordion.h>
 #include <plume/AccordionItem.h>
 
+#include <QDir>
 #include <QEvent>
 #include <QEventLoop>
 #include <QPointer>
@@ -52,6 +54,7 @@ RVMainPage::RVMainPage(QMainWindow *, QWidget *parent, Qt::WindowFlags flags, co
     RVLogger::setPaths(paths);
     m_logger = std::make_unique<RVLogger>();
     RVLogger::m_level = logThreshold;
+    RVFolderMark::removeLeft(QDir::tempPath());
     try {
         m_osInfo = new OSInfo(this, paths);
     } catch (OSInfoBaseClass::ExceptionType error) {
