@@ -142,7 +142,7 @@ void RVCtlOutput::keep(const char *bytes, int size)
 
 QString RVCtlOutput::kept() const
 {
-    const QString text = QString::fromUtf8(m_kept);
+    QString text = QString::fromUtf8(m_kept);
     if (!isCut()) {
         return text;
     }
