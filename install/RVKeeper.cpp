@@ -108,6 +108,7 @@ void RVKeeper::release()
 {
     closeFile(&m_files.record);
     closeFile(&m_files.output);
+    m_files = {};
 }
 
 void RVKeeper::forget()
