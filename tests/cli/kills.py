@@ -102,10 +102,17 @@ def last_run():
 
 
 plain = answer("repos")["repositories"][0]["location"]
-fresh()
-began = time.monotonic()
-subprocess.run(command("install", "plain", *packages), stdin=subprocess.DEVNULL, check=True, capture_output=True)
-duration = time.monotonic() - began
+
+
+def timed():
+    fresh()
+    began = time.monotonic()
+    subprocess.run(command("install", "plain", *packages), stdin=subprocess.DEVNULL, check=True, capture_output=True)
+    return time.monotonic() - began
+
+
+# The first one waits for the disk.
+duration = min(timed(), timed())
 wrong = ended = outlived = repaired = 0
 for number in range(count):
     how = chance.choice([signal.SIGKILL, signal.SIGKILL, signal.SIGTERM, signal.SIGHUP, "terminal"])
