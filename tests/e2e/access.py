@@ -275,12 +275,8 @@ class Access:
         self.look()
         # The answer that does nothing has the focus.
         self.key("Escape")
-        wait_for(lambda: len(self.dialogs()) == 1, "end of the question")
-        wait_for(lambda: self.find("push button", "Close", self.dialogs()[0]), "end")
+        wait_for(lambda: not self.dialogs(), "end of the question and the progress dialog")
         self.look()
-        self.go_to("push button", "Close")
-        self.key("Space")
-        wait_for(lambda: not self.dialogs(), "end of the progress dialog")
 
     def type(self, text):
         """Types into the empty field that has the focus; each letter arrives before the next one."""

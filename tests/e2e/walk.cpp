@@ -676,12 +676,13 @@ void Walk::finishInstallation(const QStringList &lines, const QString &name)
 {
     QPointer<QDialog> busy = dialog("BusyDialog");
     require(busy, QStringLiteral("the dialog has gone"));
-    const auto *bar = busy->findChild<QProgressBar *>();
     waitFor(
-        [bar] {
-            return bar->text().contains(QLatin1String("Done"));
+        [&busy] {
+            return !busy
+                || busy->findChild<QProgressBar *>()->text().contains(QLatin1String("Done"));
         },
         QStringLiteral("end of the installation"));
+    require(busy, QStringLiteral("the dialog has gone"));
     auto *details = busy->findChild<QGroupBox *>();
     require(!details->isChecked(), QStringLiteral("details open: the installation failed"));
     details->setFocus();
@@ -1016,7 +1017,12 @@ void Walk::declineImage()
 {
     answer(QStringLiteral("Abort"), QStringLiteral("image-question"));
     startInstallation();
-    finishInstallation({}, QStringLiteral("image-declined"));
+    waitFor(
+        [this] {
+            return !dialog("BusyDialog") && table() && table()->hasFocus();
+        },
+        QStringLiteral("the table after a no"));
+    screenshot(QStringLiteral("image-declined"));
     require(!QFileInfo::exists(m_root + QLatin1String("/writable/CV/Snapstow.conf")),
             QStringLiteral("the image is deployed all the same"));
 }

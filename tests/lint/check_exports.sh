@@ -17,7 +17,7 @@ others=$(grep -v -E \
   -e "^typeinfo (name )?for ($thrown)$" \
   -e '^RVSection::|^(vtable|typeinfo|typeinfo name) for RVSection$|^q(Init|Cleanup)Resources_' \
   -e '^(vtable|typeinfo|typeinfo name|VTT) for (Q|std::|OpProgress)' \
-  -e '^((void|bool|int|void\*&) )?(Q[A-Z]|std::|qt_)|^operator (new|delete)|^__|^_(init|fini|edata|end)$' \
+  -e '^((void|bool|int|char\*|void\*&) )?(Q[A-Z]|std::|qt_)|^operator (new|delete)|^__|^_(init|fini|edata|end)$' \
   -e '^guard variable for std::' <<<"$exported" || true)
 if [ -n "$others" ]; then
   echo "exported, and should not be:"
