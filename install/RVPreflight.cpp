@@ -15,8 +15,6 @@
 namespace
 {
 
-using Kind = RVObstacle::Kind;
-
 /// So many packages are named.
 constexpr int mostNamed = 5;
 const QString unlockTool = QStringLiteral("fsunlock");
@@ -93,7 +91,7 @@ QVector<RVObstacle> RVPreflight::obstacles(const RVBatch &batch)
         }
     }
     if (const auto shortage = RVFreeSpace::shortage(updatesOf(batch), m_paths)) {
-        result.append({Kind::NoSpace, shortage->sentence()});
+        result.append({RVObstacle::Kind::NoSpace, shortage->sentence()});
     }
     return result;
 }
@@ -103,7 +101,7 @@ QVector<RVObstacle> RVPreflight::obstacles(RVBatch::Kind kind, const QString &in
     QVector<RVObstacle> result;
     const QString folder = changedFolder(kind, m_paths);
     if (isForbidden(folder)) {
-        result.append({Kind::Rights,
+        result.append({RVObstacle::Kind::Rights,
                        RVSentence(QT_TRANSLATE_NOOP("RVSentence",
                                                     "This user may not install updates: '%1' "
                                                     "cannot be changed."),
@@ -112,7 +110,7 @@ QVector<RVObstacle> RVPreflight::obstacles(RVBatch::Kind kind, const QString &in
     const QStringList needed = programs(kind, installer);
     for (const QString &program : needed) {
         if (!program.isEmpty() && !RVInstallerEnvironment::hasProgram(program, m_paths)) {
-            result.append({Kind::MissingProgram,
+            result.append({RVObstacle::Kind::MissingProgram,
                            RVSentence(QT_TRANSLATE_NOOP("RVSentence",
                                                         "The program '%1', which installs the "
                                                         "updates, is missing."),
@@ -122,7 +120,7 @@ QVector<RVObstacle> RVPreflight::obstacles(RVBatch::Kind kind, const QString &in
     // A system that is locked is unlocked by the installer itself.
     if (kind == RVBatch::Kind::Packages && isReadOnly(folder)
         && !RVInstallerEnvironment::hasProgram(unlockTool, m_paths)) {
-        result.append({Kind::ReadOnly,
+        result.append({RVObstacle::Kind::ReadOnly,
                        RVSentence(QT_TRANSLATE_NOOP("RVSentence",
                                                     "'%1' is read-only, and the program '%2', "
                                                     "which unlocks the system, is missing."),
@@ -140,7 +138,7 @@ QVector<RVObstacle> RVPreflight::obstacles(RVBatch::Kind kind, const QString &in
 std::optional<RVObstacle> RVPreflight::interruption(const QStringList &repaired) const
 {
     const RVPackageDatabase database(m_paths);
-    RVObstacle obstacle{Kind::Interrupted, {}};
+    RVObstacle obstacle{RVObstacle::Kind::Interrupted, {}};
     QStringList states;
     const QVector<RVPackageDatabase::Package> unfinished = database.unfinished();
     for (const RVPackageDatabase::Package &package : unfinished) {
@@ -176,7 +174,7 @@ std::optional<RVObstacle> RVPreflight::otherRun(RVRunLock::State state) const
     }
     const RVLockHolder &holder = m_runLock.holder();
     return RVObstacle{
-        Kind::OtherRun,
+        RVObstacle::Kind::OtherRun,
         holder.process <= 0
             ? RVSentence(
                 QT_TRANSLATE_NOOP("RVSentence", "An earlier installation is still under way."))
@@ -192,5 +190,5 @@ std::optional<RVObstacle> RVPreflight::lockedDatabase(RVBatch::Kind kind) const
     if (!holder.isSet) {
         return std::nullopt;
     }
-    return RVObstacle{Kind::DatabaseLocked, RVPackageDatabase::lockedBy(holder)};
+    return RVObstacle{RVObstacle::Kind::DatabaseLocked, RVPackageDatabase::lockedBy(holder)};
 }

@@ -16,14 +16,6 @@
         <translation>لا تعرّف ملفات التعريف في «⁨%1⁩» أي مستودع.</translation>
     </message>
     <message>
-        <source>The identification of the installed image, &quot;%1&quot;, cannot be read.</source>
-        <translation>تعذّرت قراءة معرّف الصورة المثبّتة «⁨%1⁩».</translation>
-    </message>
-    <message>
-        <source>The facts about the installed system cannot be read.</source>
-        <translation>تعذّرت قراءة معلومات النظام المثبّت.</translation>
-    </message>
-    <message>
         <source>The update pages could not be opened: %1</source>
         <translation>تعذّر فتح صفحات التحديثات: ⁨%1⁩</translation>
     </message>
@@ -42,10 +34,6 @@
     <message>
         <source>Copyright 2026 the Ravel developers. This program is free software: you may redistribute and change it under the terms of the GNU General Public License, version 2 or, at your option, any later version. It comes without any warranty.</source>
         <translation>حقوق النشر 2026 لمطوّري Ravel. هذا البرنامج برمجية حرة: يمكنك إعادة توزيعه وتعديله وفق شروط رخصة جنو العمومية العامة، الإصدار 2 أو أي إصدار لاحق حسب اختيارك. يُقدَّم دون أي ضمان.</translation>
-    </message>
-    <message>
-        <source>An operation is still running. Please wait for its end.</source>
-        <translation>ما زالت هناك عملية جارية. يُرجى انتظار انتهائها.</translation>
     </message>
     <message>
         <source>Thin Client Configuration</source>
@@ -102,6 +90,18 @@
     <message>
         <source>Updates were installed or options set since this window was opened.</source>
         <translation>ثُبّتت تحديثات أو ضُبطت خيارات منذ فتح هذه النافذة.</translation>
+    </message>
+    <message>
+        <source>The file that identifies the installed image, &quot;%1&quot;, cannot be read.</source>
+        <translation>تعذّرت قراءة الملف «⁨%1⁩» الذي يحدد هوية الصورة المثبّتة.</translation>
+    </message>
+    <message>
+        <source>Information about the installed system cannot be read.</source>
+        <translation>تعذّرت قراءة معلومات النظام المثبّت.</translation>
+    </message>
+    <message>
+        <source>An operation is still running. Please wait until it has finished.</source>
+        <translation>ما زالت هناك عملية قيد التنفيذ. يُرجى الانتظار حتى تنتهي.</translation>
     </message>
 </context>
 </TS>

@@ -16,14 +16,6 @@
         <translation>Die Definitionsdateien in „%1“ definieren kein Repository.</translation>
     </message>
     <message>
-        <source>The identification of the installed image, &quot;%1&quot;, cannot be read.</source>
-        <translation>Die Kennung des installierten Abbilds, „%1“, ist nicht lesbar.</translation>
-    </message>
-    <message>
-        <source>The facts about the installed system cannot be read.</source>
-        <translation>Die Angaben über das installierte System sind nicht lesbar.</translation>
-    </message>
-    <message>
         <source>The update pages could not be opened: %1</source>
         <translation>Die Seiten für Updates konnten nicht geöffnet werden: %1</translation>
     </message>
@@ -42,10 +34,6 @@
     <message>
         <source>Copyright 2026 the Ravel developers. This program is free software: you may redistribute and change it under the terms of the GNU General Public License, version 2 or, at your option, any later version. It comes without any warranty.</source>
         <translation>Copyright 2026 die Ravel-Entwickler. Dieses Programm ist freie Software: Sie dürfen es unter den Bedingungen der GNU General Public License, Version 2 oder nach Ihrer Wahl einer späteren, weitergeben und ändern. Es gibt keinerlei Gewährleistung.</translation>
-    </message>
-    <message>
-        <source>An operation is still running. Please wait for its end.</source>
-        <translation>Ein Vorgang läuft noch. Bitte warten Sie, bis er beendet ist.</translation>
     </message>
     <message>
         <source>Thin Client Configuration</source>
@@ -102,6 +90,18 @@
     <message>
         <source>Updates were installed or options set since this window was opened.</source>
         <translation>Seit dem Öffnen dieses Fensters wurden Updates installiert oder Optionen gesetzt.</translation>
+    </message>
+    <message>
+        <source>The file that identifies the installed image, &quot;%1&quot;, cannot be read.</source>
+        <translation>Die Datei „%1“, die das installierte Abbild kennzeichnet, kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Information about the installed system cannot be read.</source>
+        <translation>Die Informationen über das installierte System können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>An operation is still running. Please wait until it has finished.</source>
+        <translation>Ein Vorgang läuft noch. Bitte warten Sie, bis er abgeschlossen ist.</translation>
     </message>
 </context>
 </TS>

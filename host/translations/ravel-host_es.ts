@@ -16,14 +16,6 @@
         <translation>Los archivos de definición de «%1» no definen ningún repositorio.</translation>
     </message>
     <message>
-        <source>The identification of the installed image, &quot;%1&quot;, cannot be read.</source>
-        <translation>No se puede leer la identificación de la imagen instalada, «%1».</translation>
-    </message>
-    <message>
-        <source>The facts about the installed system cannot be read.</source>
-        <translation>No se pueden leer los datos del sistema instalado.</translation>
-    </message>
-    <message>
         <source>The update pages could not be opened: %1</source>
         <translation>No se pudieron abrir las páginas de actualizaciones: %1</translation>
     </message>
@@ -42,10 +34,6 @@
     <message>
         <source>Copyright 2026 the Ravel developers. This program is free software: you may redistribute and change it under the terms of the GNU General Public License, version 2 or, at your option, any later version. It comes without any warranty.</source>
         <translation>Copyright 2026 los desarrolladores de Ravel. Este programa es software libre: puede redistribuirlo y modificarlo según los términos de la Licencia Pública General de GNU, versión 2 o, a su elección, cualquier versión posterior. Se ofrece sin garantía alguna.</translation>
-    </message>
-    <message>
-        <source>An operation is still running. Please wait for its end.</source>
-        <translation>Aún hay una operación en curso. Espere a que termine.</translation>
     </message>
     <message>
         <source>Thin Client Configuration</source>
@@ -102,6 +90,18 @@
     <message>
         <source>Updates were installed or options set since this window was opened.</source>
         <translation>Se han instalado actualizaciones o cambiado opciones desde que se abrió esta ventana.</translation>
+    </message>
+    <message>
+        <source>The file that identifies the installed image, &quot;%1&quot;, cannot be read.</source>
+        <translation>No se puede leer el archivo que identifica la imagen instalada, «%1».</translation>
+    </message>
+    <message>
+        <source>Information about the installed system cannot be read.</source>
+        <translation>No se puede leer la información sobre el sistema instalado.</translation>
+    </message>
+    <message>
+        <source>An operation is still running. Please wait until it has finished.</source>
+        <translation>Todavía hay una operación en curso. Espere a que termine.</translation>
     </message>
 </context>
 </TS>

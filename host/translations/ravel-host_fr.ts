@@ -16,14 +16,6 @@
         <translation>Les fichiers de définition dans « %1 » ne définissent aucun dépôt.</translation>
     </message>
     <message>
-        <source>The identification of the installed image, &quot;%1&quot;, cannot be read.</source>
-        <translation>L’identification de l’image installée, « %1 », n’est pas lisible.</translation>
-    </message>
-    <message>
-        <source>The facts about the installed system cannot be read.</source>
-        <translation>Les informations sur le système installé ne sont pas lisibles.</translation>
-    </message>
-    <message>
         <source>The update pages could not be opened: %1</source>
         <translation>Les pages de mise à jour n’ont pas pu être ouvertes : %1</translation>
     </message>
@@ -42,10 +34,6 @@
     <message>
         <source>Copyright 2026 the Ravel developers. This program is free software: you may redistribute and change it under the terms of the GNU General Public License, version 2 or, at your option, any later version. It comes without any warranty.</source>
         <translation>Copyright 2026 les développeurs de Ravel. Ce programme est un logiciel libre : vous pouvez le redistribuer et le modifier selon les termes de la licence publique générale GNU, version 2 ou, à votre choix, toute version ultérieure. Il est fourni sans aucune garantie.</translation>
-    </message>
-    <message>
-        <source>An operation is still running. Please wait for its end.</source>
-        <translation>Une opération est en cours. Veuillez attendre qu’elle se termine.</translation>
     </message>
     <message>
         <source>Thin Client Configuration</source>
@@ -102,6 +90,18 @@
     <message>
         <source>Updates were installed or options set since this window was opened.</source>
         <translation>Des mises à jour ont été installées ou des options modifiées depuis l’ouverture de cette fenêtre.</translation>
+    </message>
+    <message>
+        <source>The file that identifies the installed image, &quot;%1&quot;, cannot be read.</source>
+        <translation>Le fichier qui identifie l’image installée, « %1 », ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>Information about the installed system cannot be read.</source>
+        <translation>Impossible de lire les informations sur le système installé.</translation>
+    </message>
+    <message>
+        <source>An operation is still running. Please wait until it has finished.</source>
+        <translation>Une opération est encore en cours. Veuillez attendre qu’elle soit terminée.</translation>
     </message>
 </context>
 </TS>

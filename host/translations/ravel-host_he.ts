@@ -16,14 +16,6 @@
         <translation>קובצי ההגדרות ב־&quot;⁨%1⁩&quot; אינם מגדירים אף מאגר.</translation>
     </message>
     <message>
-        <source>The identification of the installed image, &quot;%1&quot;, cannot be read.</source>
-        <translation>לא ניתן לקרוא את זיהוי תמונת המערכת המותקנת, &quot;⁨%1⁩&quot;.</translation>
-    </message>
-    <message>
-        <source>The facts about the installed system cannot be read.</source>
-        <translation>לא ניתן לקרוא את נתוני המערכת המותקנת.</translation>
-    </message>
-    <message>
         <source>The update pages could not be opened: %1</source>
         <translation>לא ניתן לפתוח את עמודי העדכונים: ⁨%1⁩</translation>
     </message>
@@ -42,10 +34,6 @@
     <message>
         <source>Copyright 2026 the Ravel developers. This program is free software: you may redistribute and change it under the terms of the GNU General Public License, version 2 or, at your option, any later version. It comes without any warranty.</source>
         <translation>כל הזכויות שמורות 2026 למפתחי Ravel. תוכנית זו היא תוכנה חופשית: ניתן להפיצה מחדש ולשנותה לפי תנאי הרישיון הציבורי הכללי של GNU, גרסה 2 או, לבחירתך, כל גרסה מאוחרת יותר. היא ניתנת ללא כל אחריות.</translation>
-    </message>
-    <message>
-        <source>An operation is still running. Please wait for its end.</source>
-        <translation>פעולה עדיין מתבצעת. נא להמתין לסיומה.</translation>
     </message>
     <message>
         <source>Thin Client Configuration</source>
@@ -102,6 +90,18 @@
     <message>
         <source>Updates were installed or options set since this window was opened.</source>
         <translation>הותקנו עדכונים או שונו אפשרויות מאז שחלון זה נפתח.</translation>
+    </message>
+    <message>
+        <source>The file that identifies the installed image, &quot;%1&quot;, cannot be read.</source>
+        <translation>לא ניתן לקרוא את הקובץ &quot;⁨%1⁩&quot;, שמזהה את תמונת המערכת המותקנת.</translation>
+    </message>
+    <message>
+        <source>Information about the installed system cannot be read.</source>
+        <translation>לא ניתן לקרוא מידע על המערכת המותקנת.</translation>
+    </message>
+    <message>
+        <source>An operation is still running. Please wait until it has finished.</source>
+        <translation>פעולה עדיין מתבצעת. נא להמתין עד שתסתיים.</translation>
     </message>
 </context>
 </TS>

@@ -16,14 +16,6 @@
         <translation>I file di definizione in «%1» non definiscono alcun repository.</translation>
     </message>
     <message>
-        <source>The identification of the installed image, &quot;%1&quot;, cannot be read.</source>
-        <translation>Impossibile leggere l’identificazione dell’immagine installata, «%1».</translation>
-    </message>
-    <message>
-        <source>The facts about the installed system cannot be read.</source>
-        <translation>Impossibile leggere i dati del sistema installato.</translation>
-    </message>
-    <message>
         <source>The update pages could not be opened: %1</source>
         <translation>Impossibile aprire le pagine degli aggiornamenti: %1</translation>
     </message>
@@ -42,10 +34,6 @@
     <message>
         <source>Copyright 2026 the Ravel developers. This program is free software: you may redistribute and change it under the terms of the GNU General Public License, version 2 or, at your option, any later version. It comes without any warranty.</source>
         <translation>Copyright 2026 gli sviluppatori di Ravel. Questo programma è software libero: è possibile ridistribuirlo e modificarlo secondo i termini della GNU General Public License, versione 2 o, a scelta, una versione successiva. È fornito senza alcuna garanzia.</translation>
-    </message>
-    <message>
-        <source>An operation is still running. Please wait for its end.</source>
-        <translation>Un’operazione è ancora in corso. Attenderne la fine.</translation>
     </message>
     <message>
         <source>Thin Client Configuration</source>
@@ -102,6 +90,18 @@
     <message>
         <source>Updates were installed or options set since this window was opened.</source>
         <translation>Dall’apertura di questa finestra sono stati installati aggiornamenti o modificate opzioni.</translation>
+    </message>
+    <message>
+        <source>The file that identifies the installed image, &quot;%1&quot;, cannot be read.</source>
+        <translation>Impossibile leggere il file che identifica l’immagine installata, «%1».</translation>
+    </message>
+    <message>
+        <source>Information about the installed system cannot be read.</source>
+        <translation>Impossibile leggere le informazioni sul sistema installato.</translation>
+    </message>
+    <message>
+        <source>An operation is still running. Please wait until it has finished.</source>
+        <translation>Un’operazione è ancora in corso. Attendere il completamento.</translation>
     </message>
 </context>
 </TS>

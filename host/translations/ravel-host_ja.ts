@@ -16,14 +16,6 @@
         <translation>「%1」の定義ファイルにはリポジトリが定義されていません。</translation>
     </message>
     <message>
-        <source>The identification of the installed image, &quot;%1&quot;, cannot be read.</source>
-        <translation>インストール済みイメージの識別情報「%1」を読み取れません。</translation>
-    </message>
-    <message>
-        <source>The facts about the installed system cannot be read.</source>
-        <translation>インストール済みシステムの情報を読み取れません。</translation>
-    </message>
-    <message>
         <source>The update pages could not be opened: %1</source>
         <translation>更新ページを開けませんでした: %1</translation>
     </message>
@@ -42,10 +34,6 @@
     <message>
         <source>Copyright 2026 the Ravel developers. This program is free software: you may redistribute and change it under the terms of the GNU General Public License, version 2 or, at your option, any later version. It comes without any warranty.</source>
         <translation>Copyright 2026 Ravel 開発者。このプログラムはフリーソフトウェアです。GNU 一般公衆ライセンスのバージョン 2 またはそれ以降のバージョンの条件のもとで、再配布および変更できます。このプログラムは無保証です。</translation>
-    </message>
-    <message>
-        <source>An operation is still running. Please wait for its end.</source>
-        <translation>まだ処理が実行中です。完了するまでお待ちください。</translation>
     </message>
     <message>
         <source>Thin Client Configuration</source>
@@ -102,6 +90,18 @@
     <message>
         <source>Updates were installed or options set since this window was opened.</source>
         <translation>このウィンドウを開いてから、更新がインストールされたか、オプションが変更されました。</translation>
+    </message>
+    <message>
+        <source>The file that identifies the installed image, &quot;%1&quot;, cannot be read.</source>
+        <translation>インストールされているイメージを識別するファイル「%1」を読み取れません。</translation>
+    </message>
+    <message>
+        <source>Information about the installed system cannot be read.</source>
+        <translation>インストールされているシステムの情報を読み取れません。</translation>
+    </message>
+    <message>
+        <source>An operation is still running. Please wait until it has finished.</source>
+        <translation>操作がまだ実行中です。完了するまでお待ちください。</translation>
     </message>
 </context>
 </TS>

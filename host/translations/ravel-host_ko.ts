@@ -16,14 +16,6 @@
         <translation>&apos;%1&apos;의 정의 파일에 정의된 저장소가 없습니다.</translation>
     </message>
     <message>
-        <source>The identification of the installed image, &quot;%1&quot;, cannot be read.</source>
-        <translation>설치된 이미지의 식별 정보 &apos;%1&apos;을(를) 읽을 수 없습니다.</translation>
-    </message>
-    <message>
-        <source>The facts about the installed system cannot be read.</source>
-        <translation>설치된 시스템의 정보를 읽을 수 없습니다.</translation>
-    </message>
-    <message>
         <source>The update pages could not be opened: %1</source>
         <translation>업데이트 페이지를 열 수 없습니다: %1</translation>
     </message>
@@ -42,10 +34,6 @@
     <message>
         <source>Copyright 2026 the Ravel developers. This program is free software: you may redistribute and change it under the terms of the GNU General Public License, version 2 or, at your option, any later version. It comes without any warranty.</source>
         <translation>Copyright 2026 Ravel 개발자. 이 프로그램은 자유 소프트웨어입니다. GNU 일반 공중 사용 허가서 버전 2 또는 그 이후 버전의 조건에 따라 재배포하고 변경할 수 있습니다. 어떠한 보증도 제공되지 않습니다.</translation>
-    </message>
-    <message>
-        <source>An operation is still running. Please wait for its end.</source>
-        <translation>작업이 아직 실행 중입니다. 끝날 때까지 기다려 주십시오.</translation>
     </message>
     <message>
         <source>Thin Client Configuration</source>
@@ -102,6 +90,18 @@
     <message>
         <source>Updates were installed or options set since this window was opened.</source>
         <translation>이 창을 연 뒤에 업데이트가 설치되었거나 옵션이 변경되었습니다.</translation>
+    </message>
+    <message>
+        <source>The file that identifies the installed image, &quot;%1&quot;, cannot be read.</source>
+        <translation>설치된 이미지를 식별하는 파일 &apos;%1&apos;을(를) 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Information about the installed system cannot be read.</source>
+        <translation>설치된 시스템의 정보를 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>An operation is still running. Please wait until it has finished.</source>
+        <translation>작업이 아직 실행 중입니다. 끝날 때까지 기다리십시오.</translation>
     </message>
 </context>
 </TS>

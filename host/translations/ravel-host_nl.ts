@@ -16,14 +16,6 @@
         <translation>De definitiebestanden in ‘%1’ definiëren geen repository.</translation>
     </message>
     <message>
-        <source>The identification of the installed image, &quot;%1&quot;, cannot be read.</source>
-        <translation>De identificatie van de geïnstalleerde image, ‘%1’, kan niet worden gelezen.</translation>
-    </message>
-    <message>
-        <source>The facts about the installed system cannot be read.</source>
-        <translation>De gegevens over het geïnstalleerde systeem kunnen niet worden gelezen.</translation>
-    </message>
-    <message>
         <source>The update pages could not be opened: %1</source>
         <translation>De updatepagina’s konden niet worden geopend: %1</translation>
     </message>
@@ -42,10 +34,6 @@
     <message>
         <source>Copyright 2026 the Ravel developers. This program is free software: you may redistribute and change it under the terms of the GNU General Public License, version 2 or, at your option, any later version. It comes without any warranty.</source>
         <translation>Copyright 2026 de Ravel-ontwikkelaars. Dit programma is vrije software: u mag het verspreiden en wijzigen onder de voorwaarden van de GNU General Public License, versie 2 of naar keuze een latere versie. Er wordt geen enkele garantie gegeven.</translation>
-    </message>
-    <message>
-        <source>An operation is still running. Please wait for its end.</source>
-        <translation>Er is nog een bewerking bezig. Wacht tot deze is voltooid.</translation>
     </message>
     <message>
         <source>Thin Client Configuration</source>
@@ -102,6 +90,18 @@
     <message>
         <source>Updates were installed or options set since this window was opened.</source>
         <translation>Er zijn updates geïnstalleerd of opties gewijzigd sinds dit venster is geopend.</translation>
+    </message>
+    <message>
+        <source>The file that identifies the installed image, &quot;%1&quot;, cannot be read.</source>
+        <translation>Het bestand dat de geïnstalleerde image identificeert, ‘%1’, kan niet worden gelezen.</translation>
+    </message>
+    <message>
+        <source>Information about the installed system cannot be read.</source>
+        <translation>De informatie over het geïnstalleerde systeem kan niet worden gelezen.</translation>
+    </message>
+    <message>
+        <source>An operation is still running. Please wait until it has finished.</source>
+        <translation>Er is nog een bewerking bezig. Wacht tot deze is voltooid.</translation>
     </message>
 </context>
 </TS>

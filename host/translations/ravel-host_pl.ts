@@ -16,14 +16,6 @@
         <translation>Pliki definicji w „%1” nie definiują żadnego repozytorium.</translation>
     </message>
     <message>
-        <source>The identification of the installed image, &quot;%1&quot;, cannot be read.</source>
-        <translation>Nie można odczytać identyfikatora zainstalowanego obrazu, „%1”.</translation>
-    </message>
-    <message>
-        <source>The facts about the installed system cannot be read.</source>
-        <translation>Nie można odczytać danych o zainstalowanym systemie.</translation>
-    </message>
-    <message>
         <source>The update pages could not be opened: %1</source>
         <translation>Nie udało się otworzyć stron aktualizacji: %1</translation>
     </message>
@@ -42,10 +34,6 @@
     <message>
         <source>Copyright 2026 the Ravel developers. This program is free software: you may redistribute and change it under the terms of the GNU General Public License, version 2 or, at your option, any later version. It comes without any warranty.</source>
         <translation>Copyright 2026 Twórcy programu Ravel. Ten program jest wolnym oprogramowaniem: można go rozpowszechniać i zmieniać na warunkach Powszechnej Licencji Publicznej GNU w wersji 2 lub, według wyboru, dowolnej nowszej. Program jest dostarczany bez żadnej gwarancji.</translation>
-    </message>
-    <message>
-        <source>An operation is still running. Please wait for its end.</source>
-        <translation>Operacja nadal trwa. Proszę zaczekać na jej zakończenie.</translation>
     </message>
     <message>
         <source>Thin Client Configuration</source>
@@ -102,6 +90,18 @@
     <message>
         <source>Updates were installed or options set since this window was opened.</source>
         <translation>Od otwarcia tego okna zainstalowano aktualizacje lub zmieniono opcje.</translation>
+    </message>
+    <message>
+        <source>The file that identifies the installed image, &quot;%1&quot;, cannot be read.</source>
+        <translation>Nie można odczytać pliku „%1”, który określa zainstalowany obraz.</translation>
+    </message>
+    <message>
+        <source>Information about the installed system cannot be read.</source>
+        <translation>Nie można odczytać informacji o zainstalowanym systemie.</translation>
+    </message>
+    <message>
+        <source>An operation is still running. Please wait until it has finished.</source>
+        <translation>Operacja jeszcze trwa. Proszę zaczekać na jej zakończenie.</translation>
     </message>
 </context>
 </TS>

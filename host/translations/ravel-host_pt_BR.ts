@@ -16,14 +16,6 @@
         <translation>Os arquivos de definição em “%1” não definem nenhum repositório.</translation>
     </message>
     <message>
-        <source>The identification of the installed image, &quot;%1&quot;, cannot be read.</source>
-        <translation>Não é possível ler a identificação da imagem instalada, “%1”.</translation>
-    </message>
-    <message>
-        <source>The facts about the installed system cannot be read.</source>
-        <translation>Não é possível ler os dados do sistema instalado.</translation>
-    </message>
-    <message>
         <source>The update pages could not be opened: %1</source>
         <translation>Não foi possível abrir as páginas de atualizações: %1</translation>
     </message>
@@ -42,10 +34,6 @@
     <message>
         <source>Copyright 2026 the Ravel developers. This program is free software: you may redistribute and change it under the terms of the GNU General Public License, version 2 or, at your option, any later version. It comes without any warranty.</source>
         <translation>Copyright 2026 os desenvolvedores do Ravel. Este programa é software livre: você pode redistribuí-lo e alterá-lo nos termos da Licença Pública Geral GNU, versão 2 ou, a seu critério, qualquer versão posterior. Ele é fornecido sem nenhuma garantia.</translation>
-    </message>
-    <message>
-        <source>An operation is still running. Please wait for its end.</source>
-        <translation>Uma operação ainda está em andamento. Aguarde o término.</translation>
     </message>
     <message>
         <source>Thin Client Configuration</source>
@@ -102,6 +90,18 @@
     <message>
         <source>Updates were installed or options set since this window was opened.</source>
         <translation>Foram instaladas atualizações ou alteradas opções desde que esta janela foi aberta.</translation>
+    </message>
+    <message>
+        <source>The file that identifies the installed image, &quot;%1&quot;, cannot be read.</source>
+        <translation>Não é possível ler o arquivo que identifica a imagem instalada, “%1”.</translation>
+    </message>
+    <message>
+        <source>Information about the installed system cannot be read.</source>
+        <translation>Não é possível ler as informações sobre o sistema instalado.</translation>
+    </message>
+    <message>
+        <source>An operation is still running. Please wait until it has finished.</source>
+        <translation>Uma operação ainda está em andamento. Aguarde até que ela termine.</translation>
     </message>
 </context>
 </TS>

@@ -16,14 +16,6 @@
         <translation>Файлы определений в «%1» не определяют ни одного репозитория.</translation>
     </message>
     <message>
-        <source>The identification of the installed image, &quot;%1&quot;, cannot be read.</source>
-        <translation>Не удаётся прочитать идентификатор установленного образа «%1».</translation>
-    </message>
-    <message>
-        <source>The facts about the installed system cannot be read.</source>
-        <translation>Не удаётся прочитать сведения об установленной системе.</translation>
-    </message>
-    <message>
         <source>The update pages could not be opened: %1</source>
         <translation>Не удалось открыть страницы обновлений: %1</translation>
     </message>
@@ -42,10 +34,6 @@
     <message>
         <source>Copyright 2026 the Ravel developers. This program is free software: you may redistribute and change it under the terms of the GNU General Public License, version 2 or, at your option, any later version. It comes without any warranty.</source>
         <translation>© 2026 Разработчики Ravel. Эта программа является свободной: вы можете распространять и изменять её на условиях Стандартной общественной лицензии GNU версии 2 или, по вашему выбору, любой более поздней. Программа поставляется без каких-либо гарантий.</translation>
-    </message>
-    <message>
-        <source>An operation is still running. Please wait for its end.</source>
-        <translation>Операция ещё выполняется. Дождитесь её окончания.</translation>
     </message>
     <message>
         <source>Thin Client Configuration</source>
@@ -102,6 +90,18 @@
     <message>
         <source>Updates were installed or options set since this window was opened.</source>
         <translation>С момента открытия этого окна были установлены обновления или изменены параметры.</translation>
+    </message>
+    <message>
+        <source>The file that identifies the installed image, &quot;%1&quot;, cannot be read.</source>
+        <translation>Не удалось прочитать файл «%1», определяющий установленный образ.</translation>
+    </message>
+    <message>
+        <source>Information about the installed system cannot be read.</source>
+        <translation>Не удалось прочитать сведения об установленной системе.</translation>
+    </message>
+    <message>
+        <source>An operation is still running. Please wait until it has finished.</source>
+        <translation>Операция ещё выполняется. Дождитесь её завершения.</translation>
     </message>
 </context>
 </TS>

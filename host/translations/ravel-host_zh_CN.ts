@@ -16,14 +16,6 @@
         <translation>“%1”中的定义文件未定义任何软件仓库。</translation>
     </message>
     <message>
-        <source>The identification of the installed image, &quot;%1&quot;, cannot be read.</source>
-        <translation>无法读取已安装映像的标识“%1”。</translation>
-    </message>
-    <message>
-        <source>The facts about the installed system cannot be read.</source>
-        <translation>无法读取已安装系统的信息。</translation>
-    </message>
-    <message>
         <source>The update pages could not be opened: %1</source>
         <translation>无法打开更新页面：%1</translation>
     </message>
@@ -42,10 +34,6 @@
     <message>
         <source>Copyright 2026 the Ravel developers. This program is free software: you may redistribute and change it under the terms of the GNU General Public License, version 2 or, at your option, any later version. It comes without any warranty.</source>
         <translation>版权所有 2026 Ravel 开发者。本程序是自由软件：您可以根据 GNU 通用公共许可证第 2 版或（由您选择）任何更新版本的条款重新分发和修改它。本程序不提供任何担保。</translation>
-    </message>
-    <message>
-        <source>An operation is still running. Please wait for its end.</source>
-        <translation>仍有操作正在进行。请等待其完成。</translation>
     </message>
     <message>
         <source>Thin Client Configuration</source>
@@ -102,6 +90,18 @@
     <message>
         <source>Updates were installed or options set since this window was opened.</source>
         <translation>自打开此窗口以来已安装更新或更改选项。</translation>
+    </message>
+    <message>
+        <source>The file that identifies the installed image, &quot;%1&quot;, cannot be read.</source>
+        <translation>无法读取用于标识已安装映像的文件“%1”。</translation>
+    </message>
+    <message>
+        <source>Information about the installed system cannot be read.</source>
+        <translation>无法读取已安装系统的信息。</translation>
+    </message>
+    <message>
+        <source>An operation is still running. Please wait until it has finished.</source>
+        <translation>仍有操作正在运行。请等待其完成。</translation>
     </message>
 </context>
 </TS>

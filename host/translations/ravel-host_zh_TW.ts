@@ -16,14 +16,6 @@
         <translation>「%1」中的定義檔未定義任何軟體庫。</translation>
     </message>
     <message>
-        <source>The identification of the installed image, &quot;%1&quot;, cannot be read.</source>
-        <translation>無法讀取已安裝映像檔的識別資訊「%1」。</translation>
-    </message>
-    <message>
-        <source>The facts about the installed system cannot be read.</source>
-        <translation>無法讀取已安裝系統的資訊。</translation>
-    </message>
-    <message>
         <source>The update pages could not be opened: %1</source>
         <translation>無法開啟更新頁面：%1</translation>
     </message>
@@ -42,10 +34,6 @@
     <message>
         <source>Copyright 2026 the Ravel developers. This program is free software: you may redistribute and change it under the terms of the GNU General Public License, version 2 or, at your option, any later version. It comes without any warranty.</source>
         <translation>版權所有 2026 Ravel 開發者。本程式為自由軟體：您可以依據 GNU 通用公共授權條款第 2 版或（由您選擇）任何後續版本的條款重新散布和修改它。本程式不提供任何擔保。</translation>
-    </message>
-    <message>
-        <source>An operation is still running. Please wait for its end.</source>
-        <translation>仍有作業正在進行。請等候其完成。</translation>
     </message>
     <message>
         <source>Thin Client Configuration</source>
@@ -102,6 +90,18 @@
     <message>
         <source>Updates were installed or options set since this window was opened.</source>
         <translation>自開啟此視窗以來已安裝更新或變更選項。</translation>
+    </message>
+    <message>
+        <source>The file that identifies the installed image, &quot;%1&quot;, cannot be read.</source>
+        <translation>無法讀取用於識別已安裝映像檔的檔案「%1」。</translation>
+    </message>
+    <message>
+        <source>Information about the installed system cannot be read.</source>
+        <translation>無法讀取已安裝系統的資訊。</translation>
+    </message>
+    <message>
+        <source>An operation is still running. Please wait until it has finished.</source>
+        <translation>仍有操作正在執行。請等待其完成。</translation>
     </message>
 </context>
 </TS>

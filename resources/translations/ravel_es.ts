@@ -27,10 +27,6 @@
         <translation>Mostrar detalles</translation>
     </message>
     <message>
-        <source>Shows what the installer writes.</source>
-        <translation>Muestra lo que escribe el instalador.</translation>
-    </message>
-    <message>
         <source>Installer output</source>
         <translation>Salida del instalador</translation>
     </message>
@@ -75,6 +71,47 @@
     <message>
         <source>Unknown process error.</source>
         <translation>Error de proceso desconocido.</translation>
+    </message>
+    <message>
+        <source>Shows the installer&apos;s output.</source>
+        <translation>Muestra la salida del instalador.</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Resultados</translation>
+    </message>
+    <message>
+        <source>%1 %2: %3</source>
+        <comment>An update, its version, and how it ended.</comment>
+        <translation>%1 %2: %3</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>instalada</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>fallida</translation>
+    </message>
+    <message>
+        <source>will be installed at the restart</source>
+        <translation>se instalará al reiniciar</translation>
+    </message>
+    <message>
+        <source>installed, but the system cannot confirm it</source>
+        <translation>instalada, pero el sistema no puede confirmarlo</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>omitida</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>no intentada</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelada</translation>
     </message>
 </context>
 <context>
@@ -492,6 +529,113 @@
     </message>
 </context>
 <context>
+    <name>RVHistoryDialog</name>
+    <message>
+        <source>not ended</source>
+        <translation>sin terminar</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>instalada</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>fallida</translation>
+    </message>
+    <message>
+        <source>will be installed at the restart</source>
+        <translation>se instalará al reiniciar</translation>
+    </message>
+    <message>
+        <source>installed, not confirmed</source>
+        <translation>instalada, sin confirmar</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>omitida</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>no intentada</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelada</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>Installation History</source>
+        <translation>Historial de instalaciones</translation>
+    </message>
+    <message>
+        <source>Installed updates</source>
+        <translation>Actualizaciones instaladas</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Fecha y hora</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualización</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuario</translation>
+    </message>
+    <message>
+        <source>Only the newest entries are shown.</source>
+        <translation>Solo se muestran las entradas más recientes.</translation>
+    </message>
+    <message>
+        <source>Some entries are damaged and cannot be shown.</source>
+        <translation>Algunas entradas están dañadas y no se pueden mostrar.</translation>
+    </message>
+</context>
+<context>
+    <name>RVHistoryLink</name>
+    <message>
+        <source>Installation &amp;history</source>
+        <translation>&amp;Historial de instalaciones</translation>
+    </message>
+</context>
+<context>
+    <name>RVInstallGate</name>
+    <message numerus="yes">
+        <source>Waiting for %n more second(s)...</source>
+        <translation>
+            <numerusform>Esperando %n segundo más…</numerusform>
+            <numerusform>Esperando %n segundos más…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Repairing the package database...</source>
+        <translation>Reparando la base de datos de paquetes…</translation>
+    </message>
+</context>
+<context>
+    <name>RVLastRun</name>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
     <name>RVMainPage</name>
     <message>
         <source>Ravel</source>
@@ -508,6 +652,29 @@
     <message>
         <source>&lt;p&gt;&lt;b&gt;Ravel&lt;/b&gt; enables the installation of:&lt;ol&gt;  &lt;li&gt;Full software images&lt;/li&gt;  &lt;li&gt;Bundled software service packs&lt;/li&gt;  &lt;li&gt;Individual package updates&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;To customize Ravel, repository locations can be set to look for data in CV&apos;s standard update sites, company or site-specific repositories, or even local storage.&lt;/p&gt;</source>
         <translation>&lt;p&gt;&lt;b&gt;Ravel&lt;/b&gt; permite instalar:&lt;ol&gt;  &lt;li&gt;Imágenes de software completas&lt;/li&gt;  &lt;li&gt;Service packs de software agrupado&lt;/li&gt;  &lt;li&gt;Actualizaciones de paquetes individuales&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;Para personalizar Ravel, las ubicaciones de los repositorios pueden apuntar a los sitios de actualización estándar de CV, a repositorios propios de la empresa o del centro, o incluso a un almacenamiento local.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>RVObstacleBox</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>Reparar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>The repair did not succeed. These packages can be removed. To install them again instead, cancel and select them.</source>
+        <translation>La reparación no tuvo éxito. Estos paquetes se pueden eliminar. Si prefiere volver a instalarlos, cancele y selecciónelos.</translation>
     </message>
 </context>
 <context>
@@ -564,15 +731,536 @@
     </message>
 </context>
 <context>
+    <name>RVSentence</name>
+    <message>
+        <source>%1 cannot be read back: %2</source>
+        <translation>No se puede releer %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 does not hold what was written to it.</source>
+        <translation>%1 no contiene lo que se escribió en él.</translation>
+    </message>
+    <message>
+        <source>Only an administrator may install on this system.</source>
+        <translation>Solo un administrador puede instalar en este sistema.</translation>
+    </message>
+    <message>
+        <source>Start the program as root.</source>
+        <translation>Inicie el programa como root.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is not installed.</source>
+        <translation>%1 necesita %2, que no está instalado.</translation>
+    </message>
+    <message>
+        <source>Install %2 first, or together with %1.</source>
+        <translation>Instale primero %2, o instálelo junto con %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, but version %3 is installed.</source>
+        <translation>%1 necesita %2, pero está instalada la versión %3.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is not configured.</source>
+        <translation>%1 necesita %2, que no está configurado.</translation>
+    </message>
+    <message>
+        <source>Install %2 again first.</source>
+        <translation>Vuelva a instalar primero %2.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is only partly installed.</source>
+        <translation>%1 necesita %2, que solo está instalado en parte.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be installed beside %2.</source>
+        <translation>%1 no se puede instalar junto con %2.</translation>
+    </message>
+    <message>
+        <source>Install only one of the two, or remove one first.</source>
+        <translation>Instale solo uno de los dos o elimine antes el otro.</translation>
+    </message>
+    <message>
+        <source>%1 would make the installed %2 unusable.</source>
+        <translation>%1 dejaría inutilizable el paquete instalado %2.</translation>
+    </message>
+    <message>
+        <source>Update or remove %2 first.</source>
+        <translation>Actualice o elimine primero %2.</translation>
+    </message>
+    <message>
+        <source>The package contains &apos;%1&apos;, which belongs to %2.</source>
+        <translation>El paquete contiene «%1», que pertenece a %2.</translation>
+    </message>
+    <message>
+        <source>Update or remove %2 first, or ask the publisher for a corrected package.</source>
+        <translation>Actualice o elimine primero %2, o pida al editor un paquete corregido.</translation>
+    </message>
+    <message>
+        <source>There is no space left on the disk.</source>
+        <translation>No queda espacio en el disco.</translation>
+    </message>
+    <message>
+        <source>Free some space, then try again.</source>
+        <translation>Libere espacio y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>The system is read-only.</source>
+        <translation>El sistema es de solo lectura.</translation>
+    </message>
+    <message>
+        <source>Make it writable, then try again.</source>
+        <translation>Habilite la escritura y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>The system is read-only, and &apos;%1&apos; did not change that.</source>
+        <translation>El sistema es de solo lectura y «%1» no cambió ese estado.</translation>
+    </message>
+    <message>
+        <source>Run &apos;%1&apos; to see why, then try again.</source>
+        <translation>Ejecute «%1» para ver el motivo y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>The system does not allow &apos;%1&apos; to be changed.</source>
+        <translation>El sistema no permite modificar «%1».</translation>
+    </message>
+    <message>
+        <source>Check the attributes of that file, then try again.</source>
+        <translation>Compruebe los atributos de ese archivo y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; is not complete.</source>
+        <translation>El archivo de paquete «%1» no está completo.</translation>
+    </message>
+    <message>
+        <source>Try again; if it happens again, the file in the repository is damaged.</source>
+        <translation>Vuelva a intentarlo; si el error se repite, el archivo del repositorio está dañado.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; is damaged.</source>
+        <translation>El archivo de paquete «%1» está dañado.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a Debian package.</source>
+        <translation>El archivo «%1» no es un paquete de Debian.</translation>
+    </message>
+    <message>
+        <source>Ask the administrator of the repository to replace it.</source>
+        <translation>Pida al administrador del repositorio que lo sustituya.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; has a format that this system cannot read.</source>
+        <translation>El archivo de paquete «%1» tiene un formato que este sistema no puede leer.</translation>
+    </message>
+    <message>
+        <source>Update dpkg first, or ask the publisher for a package for this system.</source>
+        <translation>Actualice primero dpkg, o pida al editor un paquete para este sistema.</translation>
+    </message>
+    <message>
+        <source>The control data of &apos;%1&apos; are wrong.</source>
+        <translation>Los datos de control de «%1» son incorrectos.</translation>
+    </message>
+    <message>
+        <source>Ask the publisher for a corrected package.</source>
+        <translation>Pida al editor un paquete corregido.</translation>
+    </message>
+    <message>
+        <source>The package is for %1, but this system is %2.</source>
+        <translation>El paquete es para %1, pero este sistema es %2.</translation>
+    </message>
+    <message>
+        <source>Install the package for %2.</source>
+        <translation>Instale el paquete para %2.</translation>
+    </message>
+    <message>
+        <source>Version %2 of %1 is installed, which is newer than %3.</source>
+        <translation>Está instalada la versión %2 de %1, que es más reciente que %3.</translation>
+    </message>
+    <message>
+        <source>Remove %1 first if you want the older version.</source>
+        <translation>Elimine primero %1 si desea la versión anterior.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 failed with exit code %3.</source>
+        <translation>El script «%2» de %1 falló con el código de salida %3.</translation>
+    </message>
+    <message>
+        <source>The installer&apos;s output may say why; if not, ask the publisher of %1.</source>
+        <translation>La salida del instalador puede indicar el motivo; si no, consulte al editor de %1.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 was ended by a signal (%3).</source>
+        <translation>El script «%2» de %1 fue terminado por una señal (%3).</translation>
+    </message>
+    <message>
+        <source>Try again; if it happens again, ask the publisher of %1.</source>
+        <translation>Vuelva a intentarlo; si el error se repite, consulte al editor de %1.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 may not be run where it lies.</source>
+        <translation>El script «%2» de %1 no se puede ejecutar en su ubicación.</translation>
+    </message>
+    <message>
+        <source>Check whether the file system of &apos;%3&apos; is mounted with &apos;noexec&apos;.</source>
+        <translation>Compruebe si el sistema de archivos de «%3» está montado con «noexec».</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 cannot be run, since its interpreter is missing.</source>
+        <translation>El script «%2» de %1 no se puede ejecutar porque falta su intérprete.</translation>
+    </message>
+    <message>
+        <source>Install the program that the script&apos;s first line names, or ask the publisher of %1.</source>
+        <translation>Instale el programa que indica la primera línea del script o consulte al editor de %1.</translation>
+    </message>
+    <message>
+        <source>A trigger of %1 failed with exit code %2.</source>
+        <translation>Un disparador de %1 falló con el código de salida %2.</translation>
+    </message>
+    <message>
+        <source>Install %1 again; the installer&apos;s output may say why its trigger failed.</source>
+        <translation>Vuelva a instalar %1; la salida del instalador puede indicar por qué falló su disparador.</translation>
+    </message>
+    <message>
+        <source>%1 is only partly installed.</source>
+        <translation>%1 solo está instalado en parte.</translation>
+    </message>
+    <message>
+        <source>Install %1 again.</source>
+        <translation>Vuelva a instalar %1.</translation>
+    </message>
+    <message>
+        <source>The installer gave up after too many errors.</source>
+        <translation>El instalador se detuvo tras demasiados errores.</translation>
+    </message>
+    <message>
+        <source>Install fewer packages at a time.</source>
+        <translation>Instale menos paquetes a la vez.</translation>
+    </message>
+    <message>
+        <source>The package database is damaged: &apos;%1&apos; cannot be read.</source>
+        <translation>La base de datos de paquetes está dañada: no se puede leer «%1».</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to restore the package database from a copy.</source>
+        <translation>Pida a un administrador que restaure la base de datos de paquetes a partir de una copia.</translation>
+    </message>
+    <message>
+        <source>The package database names &apos;%1&apos;, whom this system does not know.</source>
+        <translation>La base de datos de paquetes menciona «%1», un usuario o grupo que este sistema no conoce.</translation>
+    </message>
+    <message>
+        <source>Add that user or group, or remove the entry with dpkg-statoverride.</source>
+        <translation>Añada ese usuario o grupo, o elimine la entrada con dpkg-statoverride.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos; is missing.</source>
+        <translation>Falta el programa «%1».</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to install it, then try again.</source>
+        <translation>Pida a un administrador que lo instale y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos; cannot be run.</source>
+        <translation>No se puede ejecutar el programa «%1».</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to repair it, then try again.</source>
+        <translation>Pida a un administrador que lo repare y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>No package reached the installer.</source>
+        <translation>El instalador no recibió ningún paquete.</translation>
+    </message>
+    <message>
+        <source>Try again.</source>
+        <translation>Vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>The installer was ended by a signal (%1).</source>
+        <translation>El instalador fue terminado por una señal (%1).</translation>
+    </message>
+    <message>
+        <source>Try again; the system may have been short of memory, or shut down.</source>
+        <translation>Vuelva a intentarlo; es posible que el sistema se quedara sin memoria o se apagara.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; is missing.</source>
+        <translation>Falta el instalador «%1».</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; is not executable.</source>
+        <translation>El instalador «%1» no es ejecutable.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to correct its permissions.</source>
+        <translation>Pida a un administrador que corrija sus permisos.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; failed with exit code %2.</source>
+        <translation>El instalador «%1» falló con el código de salida %2.</translation>
+    </message>
+    <message>
+        <source>The installer&apos;s output may say why.</source>
+        <translation>La salida del instalador puede indicar el motivo.</translation>
+    </message>
+    <message>
+        <source>The system could not be restarted, so the image is not installed.</source>
+        <translation>No se pudo reiniciar el sistema, por lo que la imagen no está instalada.</translation>
+    </message>
+    <message>
+        <source>Find out why &apos;%1&apos; fails, then try again.</source>
+        <translation>Averigüe por qué falla «%1» y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>The cause is not known, and the installer wrote nothing.</source>
+        <translation>Se desconoce la causa y el instalador no escribió nada.</translation>
+    </message>
+    <message>
+        <source>The cause is not known; the installer says: %1</source>
+        <translation>Se desconoce la causa; el instalador dice: %1</translation>
+    </message>
+    <message>
+        <source>Wait until that program has ended, then try again.</source>
+        <translation>Espere a que termine ese programa y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>It could not be downloaded: %1</source>
+        <translation>No se pudo descargar: %1</translation>
+    </message>
+    <message>
+        <source>Not enough space in &apos;%1&apos;: %2 needed, %3 free.</source>
+        <translation>No hay espacio suficiente en «%1»: se necesitan %2 y hay %3 libres.</translation>
+    </message>
+    <message>
+        <source>The program was ended before the installation was over.</source>
+        <translation>El programa terminó antes de que finalizara la instalación.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid, and was accepted here. After the restart the device may refuse it, and then it gets no image.</source>
+        <translation>El certificado de %1 no es válido y se aceptó aquí. Tras el reinicio, es posible que el dispositivo lo rechace y entonces no reciba ninguna imagen.</translation>
+    </message>
+    <message>
+        <source>The image is not there.</source>
+        <translation>La imagen no está allí.</translation>
+    </message>
+    <message>
+        <source>The server wants a login for the image. The device has none but the one in the repository&apos;s location.</source>
+        <translation>El servidor exige autenticación para la imagen. El dispositivo no tiene más credenciales que las de la ubicación del repositorio.</translation>
+    </message>
+    <message>
+        <source>The proxy wants a login, which the device does not have.</source>
+        <translation>El proxy exige unas credenciales que el dispositivo no tiene.</translation>
+    </message>
+    <message>
+        <source>The server has no image there: it answers %1.</source>
+        <translation>El servidor no tiene ninguna imagen allí: responde %1.</translation>
+    </message>
+    <message>
+        <source>The image cannot be read: %1</source>
+        <translation>No se puede leer la imagen: %1</translation>
+    </message>
+    <message>
+        <source>The image is empty.</source>
+        <translation>La imagen está vacía.</translation>
+    </message>
+    <message>
+        <source>There is a page in place of the image.</source>
+        <translation>En lugar de la imagen hay una página web.</translation>
+    </message>
+    <message>
+        <source>The file is no image: it is not packed by gzip.</source>
+        <translation>El archivo no es una imagen: no está comprimido con gzip.</translation>
+    </message>
+    <message>
+        <source>The image has %1 bytes. Its description says %2.</source>
+        <translation>La imagen tiene %1 bytes. Su descripción indica %2.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; cannot be started: %2</source>
+        <translation>No se puede iniciar el instalador «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The package is damaged or not complete.</source>
+        <translation>El paquete está dañado o no está completo.</translation>
+    </message>
+    <message>
+        <source>The installer takes only files whose name ends in &apos;.deb&apos;.</source>
+        <translation>El instalador solo acepta archivos cuyo nombre termine en «.deb».</translation>
+    </message>
+    <message>
+        <source>There is no space left for it in %1.</source>
+        <translation>No queda espacio suficiente en %1.</translation>
+    </message>
+    <message>
+        <source>The archive is damaged, or refused for what it holds.</source>
+        <translation>El archivo comprimido está dañado o se rechazó por su contenido.</translation>
+    </message>
+    <message>
+        <source>No archive is left to install.</source>
+        <translation>No queda ningún archivo comprimido por instalar.</translation>
+    </message>
+    <message>
+        <source>There is no installer for &apos;%1&apos;</source>
+        <translation>No hay ningún instalador para «%1»</translation>
+    </message>
+    <message>
+        <source>It cannot be installed together with the others.</source>
+        <translation>No se puede instalar junto con las demás.</translation>
+    </message>
+    <message>
+        <source>The service pack before it was not installed.</source>
+        <translation>No se instaló el service pack anterior.</translation>
+    </message>
+    <message>
+        <source>Could not enter the temporary directory &apos;%1&apos;</source>
+        <translation>No se pudo acceder al directorio temporal «%1»</translation>
+    </message>
+    <message>
+        <source>Its download was ended.</source>
+        <translation>Se interrumpió su descarga.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 still runs.</source>
+        <translation>La instalación iniciada el %1 sigue en curso.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and ended without an error.</source>
+        <translation>La instalación iniciada el %1 continuó sin su programa y terminó sin errores.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and failed with exit code %2.</source>
+        <translation>La instalación iniciada el %1 continuó sin su programa y falló con el código de salida %2.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and was ended by signal %2.</source>
+        <translation>La instalación iniciada el %1 continuó sin su programa y fue terminada por la señal %2.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 was interrupted. How it ended is not known.</source>
+        <translation>La instalación iniciada el %1 se interrumpió. Se desconoce cómo terminó.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by another process.</source>
+        <translation>Otro proceso tiene bloqueada la base de datos de paquetes.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by process %1.</source>
+        <translation>El proceso %1 tiene bloqueada la base de datos de paquetes.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by %1 (process %2).</source>
+        <translation>%1 (proceso %2) tiene bloqueada la base de datos de paquetes.</translation>
+    </message>
+    <message>
+        <source>This user may not install updates: &apos;%1&apos; cannot be changed.</source>
+        <translation>Este usuario no puede instalar actualizaciones: no se puede modificar «%1».</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos;, which installs the updates, is missing.</source>
+        <translation>Falta el programa «%1», que instala las actualizaciones.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is read-only, and the program &apos;%2&apos;, which unlocks the system, is missing.</source>
+        <translation>«%1» es de solo lectura y falta el programa «%2», que desbloquea el sistema.</translation>
+    </message>
+    <message>
+        <source>An earlier installation of packages was interrupted and has to be repaired first (%1).</source>
+        <translation>Una instalación anterior de paquetes se interrumpió y primero hay que repararla (%1).</translation>
+    </message>
+    <message>
+        <source>An earlier installation of packages was interrupted and has to be repaired first.</source>
+        <translation>Una instalación anterior de paquetes se interrumpió y primero hay que repararla.</translation>
+    </message>
+    <message>
+        <source>An earlier installation is still under way.</source>
+        <translation>Una instalación anterior sigue en curso.</translation>
+    </message>
+    <message>
+        <source>Another installation is under way: %1 (process %2).</source>
+        <translation>Hay otra instalación en curso: %1 (proceso %2).</translation>
+    </message>
+    <message>
+        <source>Installation cancelled</source>
+        <translation>Instalación cancelada</translation>
+    </message>
+    <message>
+        <source>The image will be installed at the restart</source>
+        <translation>La imagen se instalará al reiniciar</translation>
+    </message>
+    <message>
+        <source>Installation failed</source>
+        <translation>Falló la instalación</translation>
+    </message>
+    <message>
+        <source>Installed, but the system cannot confirm it</source>
+        <translation>Instalación realizada, pero el sistema no puede confirmarla</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n updates installed</source>
+        <translation>
+            <numerusform>Actualización instalada: %1 de %n</numerusform>
+            <numerusform>Actualizaciones instaladas: %1 de %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 update installed</source>
+        <translation>1 actualización instalada</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updates installed</source>
+        <translation>
+            <numerusform>%n actualización instalada</numerusform>
+            <numerusform>%n actualizaciones instaladas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The installer was ended by a signal.</source>
+        <translation>El instalador fue terminado por una señal.</translation>
+    </message>
+    <message>
+        <source>The installer ended with exit code %1.</source>
+        <translation>El instalador terminó con el código de salida %1.</translation>
+    </message>
+    <message>
+        <source>The package database cannot be read.</source>
+        <translation>No se puede leer la base de datos de paquetes.</translation>
+    </message>
+    <message>
+        <source>The system does not have it.</source>
+        <translation>El paquete no está en el sistema.</translation>
+    </message>
+    <message>
+        <source>It is unpacked, but not configured.</source>
+        <translation>El paquete está desempaquetado, pero sin configurar.</translation>
+    </message>
+    <message>
+        <source>The system has version %1.</source>
+        <translation>El sistema tiene la versión %1.</translation>
+    </message>
+    <message>
+        <source>The installer left the installed package as it was.</source>
+        <translation>El instalador dejó el paquete instalado como estaba.</translation>
+    </message>
+    <message>
+        <source>It was in the list of installed service packs before.</source>
+        <translation>Ya estaba antes en la lista de service packs instalados.</translation>
+    </message>
+    <message>
+        <source>This system has no list of installed service packs.</source>
+        <translation>Este sistema no tiene una lista de service packs instalados.</translation>
+    </message>
+    <message>
+        <source>It is not in the list of installed service packs.</source>
+        <translation>No está en la lista de service packs instalados.</translation>
+    </message>
+</context>
+<context>
     <name>RVTrustTexts</name>
     <message>
         <source>Signed by %1, valid until %2</source>
         <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
         <translation>Firmado por %1, válido hasta %2</translation>
-    </message>
-    <message>
-        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
-        <translation>Aquí no se puede guardar nada: no se detecta un estado antiguo del repositorio.</translation>
     </message>
     <message>
         <source>Not signed: whoever controls the server controls what is installed</source>
@@ -591,28 +1279,32 @@
         <translation>Solo se ofrecen e instalan los archivos que el editor ha incluido en su lista y firmado.</translation>
     </message>
     <message>
-        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
-        <translation>La definición de esta sección no exige una firma. El editor del repositorio puede firmarlo.</translation>
-    </message>
-    <message>
         <source>This device cannot check the signature of the repository.</source>
         <translation>Este dispositivo no puede comprobar la firma del repositorio.</translation>
-    </message>
-    <message>
-        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
-        <translation>La firma del repositorio no es válida en este momento o el reloj de este dispositivo no está en hora.</translation>
     </message>
     <message>
         <source>The repository is not what its publisher signed.</source>
         <translation>El repositorio no es el que firmó su editor.</translation>
     </message>
     <message>
-        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
-        <translation>La imagen se lee una vez y se compara con la lista del repositorio. Así se detectan los daños. Tras el reinicio, el dispositivo vuelve a obtener la imagen y no comprueba nada: un servidor malintencionado puede darle entonces otra.</translation>
-    </message>
-    <message>
         <source>The list of the repository&apos;s files, or its signature, is missing.</source>
         <translation>Falta la lista de archivos del repositorio o su firma.</translation>
+    </message>
+    <message>
+        <source>This device cannot remember the newest list, so it would not notice an outdated one.</source>
+        <translation>Este dispositivo no puede recordar la lista más reciente, por lo que no detectaría una obsoleta.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not require a signature. The publisher can sign the repository.</source>
+        <translation>La definición de esta sección no exige firma. El editor puede firmar el repositorio.</translation>
+    </message>
+    <message>
+        <source>The repository&apos;s signature is not currently valid, or this device&apos;s clock is wrong.</source>
+        <translation>La firma del repositorio no es válida en este momento, o el reloj de este dispositivo no está en hora.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the repository&apos;s list, which reveals damage. After the restart, the device fetches the image again and checks nothing: a hostile server can then deliver another one.</source>
+        <translation>La imagen se lee una vez y se compara con la lista del repositorio, lo que revela los daños. Tras el reinicio, el dispositivo vuelve a obtener la imagen sin comprobar nada: un servidor malintencionado puede entonces entregar otra.</translation>
     </message>
 </context>
 <context>
@@ -692,6 +1384,11 @@ nueva</translation>
         <comment>small word for &apos;not currently installed&apos;</comment>
         <translation>ninguna</translation>
     </message>
+    <message>
+        <source>not configured</source>
+        <comment>small words for &apos;its installation was not completed&apos;</comment>
+        <translation>sin configurar</translation>
+    </message>
 </context>
 <context>
     <name>XFtp</name>
@@ -706,10 +1403,6 @@ nueva</translation>
     <message>
         <source>Not connected to an FTP server</source>
         <translation>Sin conexión con un servidor FTP</translation>
-    </message>
-    <message>
-        <source>The server names no port for the data connection</source>
-        <translation>El servidor no indica ningún puerto para la conexión de datos</translation>
     </message>
     <message>
         <source>The data connection cannot be opened: %1</source>
@@ -752,16 +1445,20 @@ nueva</translation>
         <translation>El servidor no habla FTP</translation>
     </message>
     <message>
-        <source>The server&apos;s answer is out of place: %1</source>
-        <translation>Respuesta inesperada del servidor: %1</translation>
-    </message>
-    <message>
         <source>The server asks for an account, which is not supported</source>
         <translation>El servidor pide una cuenta, lo que no se admite</translation>
     </message>
     <message>
         <source>The server answers %1</source>
         <translation>El servidor responde %1</translation>
+    </message>
+    <message>
+        <source>The server gave no port for the data connection</source>
+        <translation>El servidor no indicó ningún puerto para la conexión de datos</translation>
+    </message>
+    <message>
+        <source>Unexpected answer from the server: %1</source>
+        <translation>Respuesta inesperada del servidor: %1</translation>
     </message>
 </context>
 </TS>

@@ -27,10 +27,6 @@
         <translation>Afficher les détails</translation>
     </message>
     <message>
-        <source>Shows what the installer writes.</source>
-        <translation>Affiche ce qu’écrit le programme d’installation.</translation>
-    </message>
-    <message>
         <source>Installer output</source>
         <translation>Sortie du programme d’installation</translation>
     </message>
@@ -75,6 +71,47 @@
     <message>
         <source>Unknown process error.</source>
         <translation>Erreur inconnue du processus.</translation>
+    </message>
+    <message>
+        <source>Shows the installer&apos;s output.</source>
+        <translation>Affiche la sortie du programme d’installation.</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Résultats</translation>
+    </message>
+    <message>
+        <source>%1 %2: %3</source>
+        <comment>An update, its version, and how it ended.</comment>
+        <translation>%1 %2 : %3</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>installée</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>échec</translation>
+    </message>
+    <message>
+        <source>will be installed at the restart</source>
+        <translation>sera installée au redémarrage</translation>
+    </message>
+    <message>
+        <source>installed, but the system cannot confirm it</source>
+        <translation>installée, mais le système ne peut pas le confirmer</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>omise</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>non tentée</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>annulée</translation>
     </message>
 </context>
 <context>
@@ -492,6 +529,113 @@
     </message>
 </context>
 <context>
+    <name>RVHistoryDialog</name>
+    <message>
+        <source>not ended</source>
+        <translation>non terminée</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>installée</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>échec</translation>
+    </message>
+    <message>
+        <source>will be installed at the restart</source>
+        <translation>sera installée au redémarrage</translation>
+    </message>
+    <message>
+        <source>installed, not confirmed</source>
+        <translation>installée, non confirmée</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>omise</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>non tentée</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>annulée</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>Installation History</source>
+        <translation>Historique des installations</translation>
+    </message>
+    <message>
+        <source>Installed updates</source>
+        <translation>Mises à jour installées</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Date et heure</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Mise à jour</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Depuis</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Vers</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utilisateur</translation>
+    </message>
+    <message>
+        <source>Only the newest entries are shown.</source>
+        <translation>Seules les entrées les plus récentes sont affichées.</translation>
+    </message>
+    <message>
+        <source>Some entries are damaged and cannot be shown.</source>
+        <translation>Certaines entrées sont endommagées et ne peuvent pas être affichées.</translation>
+    </message>
+</context>
+<context>
+    <name>RVHistoryLink</name>
+    <message>
+        <source>Installation &amp;history</source>
+        <translation>&amp;Historique des installations</translation>
+    </message>
+</context>
+<context>
+    <name>RVInstallGate</name>
+    <message numerus="yes">
+        <source>Waiting for %n more second(s)...</source>
+        <translation>
+            <numerusform>Encore %n seconde d’attente…</numerusform>
+            <numerusform>Encore %n secondes d’attente…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Repairing the package database...</source>
+        <translation>Réparation de la base de données des paquets…</translation>
+    </message>
+</context>
+<context>
+    <name>RVLastRun</name>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
     <name>RVMainPage</name>
     <message>
         <source>Ravel</source>
@@ -508,6 +652,29 @@
     <message>
         <source>&lt;p&gt;&lt;b&gt;Ravel&lt;/b&gt; enables the installation of:&lt;ol&gt;  &lt;li&gt;Full software images&lt;/li&gt;  &lt;li&gt;Bundled software service packs&lt;/li&gt;  &lt;li&gt;Individual package updates&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;To customize Ravel, repository locations can be set to look for data in CV&apos;s standard update sites, company or site-specific repositories, or even local storage.&lt;/p&gt;</source>
         <translation>&lt;p&gt;&lt;b&gt;Ravel&lt;/b&gt; permet d’installer&#xa0;:&lt;ol&gt;  &lt;li&gt;des images logicielles complètes&lt;/li&gt;  &lt;li&gt;des service packs de logiciels groupés&lt;/li&gt;  &lt;li&gt;des mises à jour de paquets individuels&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;Pour personnaliser Ravel, l’emplacement des dépôts peut désigner les sites de mise à jour standard de CV, des dépôts propres à l’entreprise ou au site, ou même un stockage local.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>RVObstacleBox</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>Réparer</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>The repair did not succeed. These packages can be removed. To install them again instead, cancel and select them.</source>
+        <translation>La réparation n’a pas réussi. Ces paquets peuvent être supprimés. Pour les réinstaller à la place, annulez et sélectionnez-les.</translation>
     </message>
 </context>
 <context>
@@ -564,15 +731,536 @@
     </message>
 </context>
 <context>
+    <name>RVSentence</name>
+    <message>
+        <source>%1 cannot be read back: %2</source>
+        <translation>Impossible de relire %1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 does not hold what was written to it.</source>
+        <translation>%1 ne contient pas ce qui y a été écrit.</translation>
+    </message>
+    <message>
+        <source>Only an administrator may install on this system.</source>
+        <translation>Seul un administrateur peut effectuer des installations sur ce système.</translation>
+    </message>
+    <message>
+        <source>Start the program as root.</source>
+        <translation>Démarrez le programme en tant que root.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is not installed.</source>
+        <translation>%1 nécessite %2, qui n’est pas installé.</translation>
+    </message>
+    <message>
+        <source>Install %2 first, or together with %1.</source>
+        <translation>Installez d’abord %2, ou installez-le avec %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, but version %3 is installed.</source>
+        <translation>%1 nécessite %2, mais la version installée est %3.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is not configured.</source>
+        <translation>%1 nécessite %2, qui n’est pas configuré.</translation>
+    </message>
+    <message>
+        <source>Install %2 again first.</source>
+        <translation>Réinstallez d’abord %2.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is only partly installed.</source>
+        <translation>%1 nécessite %2, qui n’est que partiellement installé.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be installed beside %2.</source>
+        <translation>%1 ne peut pas être installé en même temps que %2.</translation>
+    </message>
+    <message>
+        <source>Install only one of the two, or remove one first.</source>
+        <translation>N’installez que l’un des deux, ou supprimez d’abord l’autre.</translation>
+    </message>
+    <message>
+        <source>%1 would make the installed %2 unusable.</source>
+        <translation>%1 rendrait inutilisable le paquet installé %2.</translation>
+    </message>
+    <message>
+        <source>Update or remove %2 first.</source>
+        <translation>Mettez d’abord %2 à jour ou supprimez-le.</translation>
+    </message>
+    <message>
+        <source>The package contains &apos;%1&apos;, which belongs to %2.</source>
+        <translation>Le paquet contient « %1 », qui appartient à %2.</translation>
+    </message>
+    <message>
+        <source>Update or remove %2 first, or ask the publisher for a corrected package.</source>
+        <translation>Mettez d’abord %2 à jour ou supprimez-le, ou demandez à l’éditeur un paquet corrigé.</translation>
+    </message>
+    <message>
+        <source>There is no space left on the disk.</source>
+        <translation>Il n’y a plus d’espace libre sur le disque.</translation>
+    </message>
+    <message>
+        <source>Free some space, then try again.</source>
+        <translation>Libérez de l’espace, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The system is read-only.</source>
+        <translation>Le système est en lecture seule.</translation>
+    </message>
+    <message>
+        <source>Make it writable, then try again.</source>
+        <translation>Rendez-le accessible en écriture, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The system is read-only, and &apos;%1&apos; did not change that.</source>
+        <translation>Le système est en lecture seule, et « %1 » n’y a rien changé.</translation>
+    </message>
+    <message>
+        <source>Run &apos;%1&apos; to see why, then try again.</source>
+        <translation>Exécutez « %1 » pour en connaître la raison, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The system does not allow &apos;%1&apos; to be changed.</source>
+        <translation>Le système ne permet pas de modifier « %1 ».</translation>
+    </message>
+    <message>
+        <source>Check the attributes of that file, then try again.</source>
+        <translation>Vérifiez les attributs de ce fichier, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; is not complete.</source>
+        <translation>Le fichier de paquet « %1 » est incomplet.</translation>
+    </message>
+    <message>
+        <source>Try again; if it happens again, the file in the repository is damaged.</source>
+        <translation>Réessayez ; si le problème persiste, le fichier du dépôt est endommagé.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; is damaged.</source>
+        <translation>Le fichier de paquet « %1 » est endommagé.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a Debian package.</source>
+        <translation>Le fichier « %1 » n’est pas un paquet Debian.</translation>
+    </message>
+    <message>
+        <source>Ask the administrator of the repository to replace it.</source>
+        <translation>Demandez à l’administrateur du dépôt de le remplacer.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; has a format that this system cannot read.</source>
+        <translation>Le fichier de paquet « %1 » est dans un format que ce système ne peut pas lire.</translation>
+    </message>
+    <message>
+        <source>Update dpkg first, or ask the publisher for a package for this system.</source>
+        <translation>Mettez d’abord dpkg à jour, ou demandez à l’éditeur un paquet adapté à ce système.</translation>
+    </message>
+    <message>
+        <source>The control data of &apos;%1&apos; are wrong.</source>
+        <translation>Les données de contrôle de « %1 » sont incorrectes.</translation>
+    </message>
+    <message>
+        <source>Ask the publisher for a corrected package.</source>
+        <translation>Demandez à l’éditeur un paquet corrigé.</translation>
+    </message>
+    <message>
+        <source>The package is for %1, but this system is %2.</source>
+        <translation>Le paquet est destiné à %1, mais ce système est %2.</translation>
+    </message>
+    <message>
+        <source>Install the package for %2.</source>
+        <translation>Installez le paquet destiné à %2.</translation>
+    </message>
+    <message>
+        <source>Version %2 of %1 is installed, which is newer than %3.</source>
+        <translation>La version %2 de %1 est installée ; elle est plus récente que %3.</translation>
+    </message>
+    <message>
+        <source>Remove %1 first if you want the older version.</source>
+        <translation>Supprimez d’abord %1 si vous voulez la version antérieure.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 failed with exit code %3.</source>
+        <translation>Le script « %2 » de %1 a échoué avec le code de sortie %3.</translation>
+    </message>
+    <message>
+        <source>The installer&apos;s output may say why; if not, ask the publisher of %1.</source>
+        <translation>La sortie du programme d’installation en indique peut-être la raison ; sinon, adressez-vous à l’éditeur de %1.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 was ended by a signal (%3).</source>
+        <translation>Le script « %2 » de %1 a été arrêté par un signal (%3).</translation>
+    </message>
+    <message>
+        <source>Try again; if it happens again, ask the publisher of %1.</source>
+        <translation>Réessayez ; si le problème persiste, adressez-vous à l’éditeur de %1.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 may not be run where it lies.</source>
+        <translation>Le script « %2 » de %1 ne peut pas être exécuté à son emplacement.</translation>
+    </message>
+    <message>
+        <source>Check whether the file system of &apos;%3&apos; is mounted with &apos;noexec&apos;.</source>
+        <translation>Vérifiez si le système de fichiers de « %3 » est monté avec « noexec ».</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 cannot be run, since its interpreter is missing.</source>
+        <translation>Le script « %2 » de %1 ne peut pas être exécuté, car son interpréteur est absent.</translation>
+    </message>
+    <message>
+        <source>Install the program that the script&apos;s first line names, or ask the publisher of %1.</source>
+        <translation>Installez le programme indiqué sur la première ligne du script, ou adressez-vous à l’éditeur de %1.</translation>
+    </message>
+    <message>
+        <source>A trigger of %1 failed with exit code %2.</source>
+        <translation>Un déclencheur de %1 a échoué avec le code de sortie %2.</translation>
+    </message>
+    <message>
+        <source>Install %1 again; the installer&apos;s output may say why its trigger failed.</source>
+        <translation>Réinstallez %1 ; la sortie du programme d’installation indique peut-être pourquoi son déclencheur a échoué.</translation>
+    </message>
+    <message>
+        <source>%1 is only partly installed.</source>
+        <translation>%1 n’est que partiellement installé.</translation>
+    </message>
+    <message>
+        <source>Install %1 again.</source>
+        <translation>Réinstallez %1.</translation>
+    </message>
+    <message>
+        <source>The installer gave up after too many errors.</source>
+        <translation>Le programme d’installation a abandonné après un trop grand nombre d’erreurs.</translation>
+    </message>
+    <message>
+        <source>Install fewer packages at a time.</source>
+        <translation>Installez moins de paquets à la fois.</translation>
+    </message>
+    <message>
+        <source>The package database is damaged: &apos;%1&apos; cannot be read.</source>
+        <translation>La base de données des paquets est endommagée : impossible de lire « %1 ».</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to restore the package database from a copy.</source>
+        <translation>Demandez à un administrateur de restaurer la base de données des paquets à partir d’une copie.</translation>
+    </message>
+    <message>
+        <source>The package database names &apos;%1&apos;, whom this system does not know.</source>
+        <translation>La base de données des paquets mentionne « %1 », un utilisateur ou un groupe que ce système ne connaît pas.</translation>
+    </message>
+    <message>
+        <source>Add that user or group, or remove the entry with dpkg-statoverride.</source>
+        <translation>Ajoutez cet utilisateur ou ce groupe, ou supprimez l’entrée avec dpkg-statoverride.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos; is missing.</source>
+        <translation>Le programme « %1 » est absent.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to install it, then try again.</source>
+        <translation>Demandez à un administrateur de l’installer, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos; cannot be run.</source>
+        <translation>Le programme « %1 » ne peut pas être exécuté.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to repair it, then try again.</source>
+        <translation>Demandez à un administrateur de le réparer, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>No package reached the installer.</source>
+        <translation>Le programme d’installation n’a reçu aucun paquet.</translation>
+    </message>
+    <message>
+        <source>Try again.</source>
+        <translation>Réessayez.</translation>
+    </message>
+    <message>
+        <source>The installer was ended by a signal (%1).</source>
+        <translation>Le programme d’installation a été arrêté par un signal (%1).</translation>
+    </message>
+    <message>
+        <source>Try again; the system may have been short of memory, or shut down.</source>
+        <translation>Réessayez ; le système a peut-être manqué de mémoire ou été arrêté.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; is missing.</source>
+        <translation>Le programme d’installation « %1 » est absent.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; is not executable.</source>
+        <translation>Le programme d’installation « %1 » n’est pas exécutable.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to correct its permissions.</source>
+        <translation>Demandez à un administrateur de corriger ses permissions.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; failed with exit code %2.</source>
+        <translation>Le programme d’installation « %1 » a échoué avec le code de sortie %2.</translation>
+    </message>
+    <message>
+        <source>The installer&apos;s output may say why.</source>
+        <translation>La sortie du programme d’installation en indique peut-être la raison.</translation>
+    </message>
+    <message>
+        <source>The system could not be restarted, so the image is not installed.</source>
+        <translation>Le système n’a pas pu être redémarré ; l’image n’est donc pas installée.</translation>
+    </message>
+    <message>
+        <source>Find out why &apos;%1&apos; fails, then try again.</source>
+        <translation>Déterminez pourquoi « %1 » échoue, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The cause is not known, and the installer wrote nothing.</source>
+        <translation>La cause est inconnue, et le programme d’installation n’a rien affiché.</translation>
+    </message>
+    <message>
+        <source>The cause is not known; the installer says: %1</source>
+        <translation>La cause est inconnue ; le programme d’installation indique : %1</translation>
+    </message>
+    <message>
+        <source>Wait until that program has ended, then try again.</source>
+        <translation>Attendez que ce programme soit terminé, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>It could not be downloaded: %1</source>
+        <translation>Échec du téléchargement : %1</translation>
+    </message>
+    <message>
+        <source>Not enough space in &apos;%1&apos;: %2 needed, %3 free.</source>
+        <translation>Espace insuffisant dans « %1 » : %2 nécessaires, %3 libres.</translation>
+    </message>
+    <message>
+        <source>The program was ended before the installation was over.</source>
+        <translation>Le programme a été arrêté avant la fin de l’installation.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid, and was accepted here. After the restart the device may refuse it, and then it gets no image.</source>
+        <translation>Le certificat de %1 n’est pas valable et a été accepté ici. Après le redémarrage, l’appareil peut le refuser ; il n’obtient alors aucune image.</translation>
+    </message>
+    <message>
+        <source>The image is not there.</source>
+        <translation>L’image est absente.</translation>
+    </message>
+    <message>
+        <source>The server wants a login for the image. The device has none but the one in the repository&apos;s location.</source>
+        <translation>Le serveur exige une authentification pour l’image. L’appareil n’a pas d’autres identifiants que ceux de l’emplacement du dépôt.</translation>
+    </message>
+    <message>
+        <source>The proxy wants a login, which the device does not have.</source>
+        <translation>Le serveur mandataire exige des identifiants que l’appareil n’a pas.</translation>
+    </message>
+    <message>
+        <source>The server has no image there: it answers %1.</source>
+        <translation>Le serveur n’a pas d’image à cet endroit : il répond %1.</translation>
+    </message>
+    <message>
+        <source>The image cannot be read: %1</source>
+        <translation>Impossible de lire l’image : %1</translation>
+    </message>
+    <message>
+        <source>The image is empty.</source>
+        <translation>L’image est vide.</translation>
+    </message>
+    <message>
+        <source>There is a page in place of the image.</source>
+        <translation>Une page web se trouve à la place de l’image.</translation>
+    </message>
+    <message>
+        <source>The file is no image: it is not packed by gzip.</source>
+        <translation>Le fichier n’est pas une image : il n’est pas compressé avec gzip.</translation>
+    </message>
+    <message>
+        <source>The image has %1 bytes. Its description says %2.</source>
+        <translation>L’image compte %1 octets. Sa description en indique %2.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; cannot be started: %2</source>
+        <translation>Impossible de démarrer le programme d’installation « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>The package is damaged or not complete.</source>
+        <translation>Le paquet est endommagé ou incomplet.</translation>
+    </message>
+    <message>
+        <source>The installer takes only files whose name ends in &apos;.deb&apos;.</source>
+        <translation>Le programme d’installation n’accepte que les fichiers dont le nom se termine par « .deb ».</translation>
+    </message>
+    <message>
+        <source>There is no space left for it in %1.</source>
+        <translation>Il n’y a plus assez d’espace dans %1.</translation>
+    </message>
+    <message>
+        <source>The archive is damaged, or refused for what it holds.</source>
+        <translation>L’archive est endommagée ou refusée en raison de son contenu.</translation>
+    </message>
+    <message>
+        <source>No archive is left to install.</source>
+        <translation>Il ne reste aucune archive à installer.</translation>
+    </message>
+    <message>
+        <source>There is no installer for &apos;%1&apos;</source>
+        <translation>Il n’y a pas de programme d’installation pour « %1 »</translation>
+    </message>
+    <message>
+        <source>It cannot be installed together with the others.</source>
+        <translation>Impossible de l’installer en même temps que les autres.</translation>
+    </message>
+    <message>
+        <source>The service pack before it was not installed.</source>
+        <translation>Le service pack précédent n’a pas été installé.</translation>
+    </message>
+    <message>
+        <source>Could not enter the temporary directory &apos;%1&apos;</source>
+        <translation>Impossible d’accéder au répertoire temporaire « %1 »</translation>
+    </message>
+    <message>
+        <source>Its download was ended.</source>
+        <translation>Son téléchargement a été interrompu.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 still runs.</source>
+        <translation>L’installation démarrée le %1 est toujours en cours.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and ended without an error.</source>
+        <translation>L’installation démarrée le %1 s’est poursuivie sans son programme et s’est terminée sans erreur.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and failed with exit code %2.</source>
+        <translation>L’installation démarrée le %1 s’est poursuivie sans son programme et a échoué avec le code de sortie %2.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and was ended by signal %2.</source>
+        <translation>L’installation démarrée le %1 s’est poursuivie sans son programme et a été arrêtée par le signal %2.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 was interrupted. How it ended is not known.</source>
+        <translation>L’installation démarrée le %1 a été interrompue. On ignore comment elle s’est terminée.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by another process.</source>
+        <translation>La base de données des paquets est verrouillée par un autre processus.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by process %1.</source>
+        <translation>La base de données des paquets est verrouillée par le processus %1.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by %1 (process %2).</source>
+        <translation>La base de données des paquets est verrouillée par %1 (processus %2).</translation>
+    </message>
+    <message>
+        <source>This user may not install updates: &apos;%1&apos; cannot be changed.</source>
+        <translation>Cet utilisateur n’est pas autorisé à installer des mises à jour : « %1 » ne peut pas être modifié.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos;, which installs the updates, is missing.</source>
+        <translation>Le programme « %1 », qui installe les mises à jour, est absent.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is read-only, and the program &apos;%2&apos;, which unlocks the system, is missing.</source>
+        <translation>« %1 » est en lecture seule, et le programme « %2 », qui déverrouille le système, est absent.</translation>
+    </message>
+    <message>
+        <source>An earlier installation of packages was interrupted and has to be repaired first (%1).</source>
+        <translation>Une installation de paquets précédente a été interrompue et doit d’abord être réparée (%1).</translation>
+    </message>
+    <message>
+        <source>An earlier installation of packages was interrupted and has to be repaired first.</source>
+        <translation>Une installation de paquets précédente a été interrompue et doit d’abord être réparée.</translation>
+    </message>
+    <message>
+        <source>An earlier installation is still under way.</source>
+        <translation>Une installation précédente est encore en cours.</translation>
+    </message>
+    <message>
+        <source>Another installation is under way: %1 (process %2).</source>
+        <translation>Une autre installation est en cours : %1 (processus %2).</translation>
+    </message>
+    <message>
+        <source>Installation cancelled</source>
+        <translation>Installation annulée</translation>
+    </message>
+    <message>
+        <source>The image will be installed at the restart</source>
+        <translation>L’image sera installée au redémarrage</translation>
+    </message>
+    <message>
+        <source>Installation failed</source>
+        <translation>Échec de l’installation</translation>
+    </message>
+    <message>
+        <source>Installed, but the system cannot confirm it</source>
+        <translation>Installation effectuée, mais le système ne peut pas la confirmer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n updates installed</source>
+        <translation>
+            <numerusform>Mise à jour installée : %1 sur %n</numerusform>
+            <numerusform>Mises à jour installées : %1 sur %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 update installed</source>
+        <translation>1 mise à jour installée</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updates installed</source>
+        <translation>
+            <numerusform>%n mise à jour installée</numerusform>
+            <numerusform>%n mises à jour installées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The installer was ended by a signal.</source>
+        <translation>Le programme d’installation a été arrêté par un signal.</translation>
+    </message>
+    <message>
+        <source>The installer ended with exit code %1.</source>
+        <translation>Le programme d’installation s’est terminé avec le code de sortie %1.</translation>
+    </message>
+    <message>
+        <source>The package database cannot be read.</source>
+        <translation>Impossible de lire la base de données des paquets.</translation>
+    </message>
+    <message>
+        <source>The system does not have it.</source>
+        <translation>Le paquet est absent du système.</translation>
+    </message>
+    <message>
+        <source>It is unpacked, but not configured.</source>
+        <translation>Le paquet est décompressé, mais non configuré.</translation>
+    </message>
+    <message>
+        <source>The system has version %1.</source>
+        <translation>Le système a la version %1.</translation>
+    </message>
+    <message>
+        <source>The installer left the installed package as it was.</source>
+        <translation>Le programme d’installation a laissé le paquet installé tel quel.</translation>
+    </message>
+    <message>
+        <source>It was in the list of installed service packs before.</source>
+        <translation>Il figurait déjà dans la liste des service packs installés.</translation>
+    </message>
+    <message>
+        <source>This system has no list of installed service packs.</source>
+        <translation>Ce système n’a pas de liste des service packs installés.</translation>
+    </message>
+    <message>
+        <source>It is not in the list of installed service packs.</source>
+        <translation>Il ne figure pas dans la liste des service packs installés.</translation>
+    </message>
+</context>
+<context>
     <name>RVTrustTexts</name>
     <message>
         <source>Signed by %1, valid until %2</source>
         <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
         <translation>Signé par %1, valable jusqu’au %2</translation>
-    </message>
-    <message>
-        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
-        <translation>Rien ne peut être enregistré ici&#xa0;: un ancien état du dépôt n’est pas détecté.</translation>
     </message>
     <message>
         <source>Not signed: whoever controls the server controls what is installed</source>
@@ -591,28 +1279,32 @@
         <translation>Seuls les fichiers que l’éditeur a répertoriés et signés sont proposés et installés.</translation>
     </message>
     <message>
-        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
-        <translation>La définition de cette section n’exige pas de signature. L’éditeur du dépôt peut signer celui-ci.</translation>
-    </message>
-    <message>
         <source>This device cannot check the signature of the repository.</source>
         <translation>Cet appareil ne peut pas vérifier la signature du dépôt.</translation>
-    </message>
-    <message>
-        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
-        <translation>La signature du dépôt n’est pas valable actuellement, ou l’horloge de cet appareil n’est pas à l’heure.</translation>
     </message>
     <message>
         <source>The repository is not what its publisher signed.</source>
         <translation>Le dépôt n’est pas celui que son éditeur a signé.</translation>
     </message>
     <message>
-        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
-        <translation>L’image est lue une fois et comparée à la liste du dépôt. Les dommages sont ainsi détectés. Après le redémarrage, l’appareil récupère de nouveau l’image et ne vérifie rien&#xa0;: un serveur malveillant peut alors lui en donner une autre.</translation>
-    </message>
-    <message>
         <source>The list of the repository&apos;s files, or its signature, is missing.</source>
         <translation>La liste des fichiers du dépôt ou sa signature est absente.</translation>
+    </message>
+    <message>
+        <source>This device cannot remember the newest list, so it would not notice an outdated one.</source>
+        <translation>Cet appareil ne peut pas mémoriser la liste la plus récente ; il ne remarquerait donc pas une liste obsolète.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not require a signature. The publisher can sign the repository.</source>
+        <translation>La définition de cette section n’exige pas de signature. L’éditeur peut signer le dépôt.</translation>
+    </message>
+    <message>
+        <source>The repository&apos;s signature is not currently valid, or this device&apos;s clock is wrong.</source>
+        <translation>La signature du dépôt n’est pas valable actuellement, ou l’horloge de cet appareil est mal réglée.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the repository&apos;s list, which reveals damage. After the restart, the device fetches the image again and checks nothing: a hostile server can then deliver another one.</source>
+        <translation>L’image est lue une fois et comparée à la liste du dépôt, ce qui révèle d’éventuels dommages. Après le redémarrage, l’appareil récupère de nouveau l’image sans rien vérifier : un serveur malveillant peut alors en fournir une autre.</translation>
     </message>
 </context>
 <context>
@@ -692,6 +1384,11 @@ proposée</translation>
         <comment>small word for &apos;not currently installed&apos;</comment>
         <translation>aucune</translation>
     </message>
+    <message>
+        <source>not configured</source>
+        <comment>small words for &apos;its installation was not completed&apos;</comment>
+        <translation>non configurée</translation>
+    </message>
 </context>
 <context>
     <name>XFtp</name>
@@ -706,10 +1403,6 @@ proposée</translation>
     <message>
         <source>Not connected to an FTP server</source>
         <translation>Non connecté à un serveur FTP</translation>
-    </message>
-    <message>
-        <source>The server names no port for the data connection</source>
-        <translation>Le serveur n’indique aucun port pour la connexion de données</translation>
     </message>
     <message>
         <source>The data connection cannot be opened: %1</source>
@@ -752,16 +1445,20 @@ proposée</translation>
         <translation>Le serveur ne parle pas FTP</translation>
     </message>
     <message>
-        <source>The server&apos;s answer is out of place: %1</source>
-        <translation>Réponse inattendue du serveur&#xa0;: %1</translation>
-    </message>
-    <message>
         <source>The server asks for an account, which is not supported</source>
         <translation>Le serveur demande un compte, ce qui n’est pas pris en charge</translation>
     </message>
     <message>
         <source>The server answers %1</source>
         <translation>Le serveur répond %1</translation>
+    </message>
+    <message>
+        <source>The server gave no port for the data connection</source>
+        <translation>Le serveur n’a indiqué aucun port pour la connexion de données</translation>
+    </message>
+    <message>
+        <source>Unexpected answer from the server: %1</source>
+        <translation>Réponse inattendue du serveur : %1</translation>
     </message>
 </context>
 </TS>

@@ -27,10 +27,6 @@
         <translation>הצגת פרטים</translation>
     </message>
     <message>
-        <source>Shows what the installer writes.</source>
-        <translation>מציג את מה שתוכנית ההתקנה כותבת.</translation>
-    </message>
-    <message>
         <source>Installer output</source>
         <translation>פלט תוכנית ההתקנה</translation>
     </message>
@@ -75,6 +71,47 @@
     <message>
         <source>Unknown process error.</source>
         <translation>שגיאת תהליך לא ידועה.</translation>
+    </message>
+    <message>
+        <source>Shows the installer&apos;s output.</source>
+        <translation>הצגת הפלט של תוכנית ההתקנה.</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>תוצאות</translation>
+    </message>
+    <message>
+        <source>%1 %2: %3</source>
+        <comment>An update, its version, and how it ended.</comment>
+        <translation>⁨%1⁩ ⁨%2⁩: ⁨%3⁩</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>הותקן</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>נכשל</translation>
+    </message>
+    <message>
+        <source>will be installed at the restart</source>
+        <translation>יותקן בעת ההפעלה מחדש</translation>
+    </message>
+    <message>
+        <source>installed, but the system cannot confirm it</source>
+        <translation>הותקן, אך המערכת אינה יכולה לאשר זאת</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>הושמט</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>לא בוצע ניסיון</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>בוטל</translation>
     </message>
 </context>
 <context>
@@ -492,6 +529,113 @@
     </message>
 </context>
 <context>
+    <name>RVHistoryDialog</name>
+    <message>
+        <source>not ended</source>
+        <translation>לא הסתיים</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>הותקן</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>נכשל</translation>
+    </message>
+    <message>
+        <source>will be installed at the restart</source>
+        <translation>יותקן בעת ההפעלה מחדש</translation>
+    </message>
+    <message>
+        <source>installed, not confirmed</source>
+        <translation>הותקן, לא אושר</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>הושמט</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>לא בוצע ניסיון</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>בוטל</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>לא ידוע</translation>
+    </message>
+    <message>
+        <source>Installation History</source>
+        <translation>היסטוריית ההתקנות</translation>
+    </message>
+    <message>
+        <source>Installed updates</source>
+        <translation>עדכונים שהותקנו</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>מועד</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>עדכון</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>מגרסה</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>לגרסה</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>תוצאה</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>משתמש</translation>
+    </message>
+    <message>
+        <source>Only the newest entries are shown.</source>
+        <translation>מוצגות רק הרשומות החדשות ביותר.</translation>
+    </message>
+    <message>
+        <source>Some entries are damaged and cannot be shown.</source>
+        <translation>חלק מהרשומות פגומות ולא ניתן להציג אותן.</translation>
+    </message>
+</context>
+<context>
+    <name>RVHistoryLink</name>
+    <message>
+        <source>Installation &amp;history</source>
+        <translation>&amp;היסטוריית ההתקנות</translation>
+    </message>
+</context>
+<context>
+    <name>RVInstallGate</name>
+    <message numerus="yes">
+        <source>Waiting for %n more second(s)...</source>
+        <translation>
+            <numerusform>המתנה של %n שנייה נוספת...</numerusform>
+            <numerusform>המתנה של %n שניות נוספות...</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Repairing the package database...</source>
+        <translation>מתבצע תיקון של מסד הנתונים של החבילות...</translation>
+    </message>
+</context>
+<context>
+    <name>RVLastRun</name>
+    <message>
+        <source>Close</source>
+        <translation>סגירה</translation>
+    </message>
+</context>
+<context>
     <name>RVMainPage</name>
     <message>
         <source>Ravel</source>
@@ -508,6 +652,29 @@
     <message>
         <source>&lt;p&gt;&lt;b&gt;Ravel&lt;/b&gt; enables the installation of:&lt;ol&gt;  &lt;li&gt;Full software images&lt;/li&gt;  &lt;li&gt;Bundled software service packs&lt;/li&gt;  &lt;li&gt;Individual package updates&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;To customize Ravel, repository locations can be set to look for data in CV&apos;s standard update sites, company or site-specific repositories, or even local storage.&lt;/p&gt;</source>
         <translation>&lt;p&gt;&lt;b&gt;Ravel&lt;/b&gt; מאפשר להתקין:&lt;ol&gt;  &lt;li&gt;תמונות תוכנה מלאות&lt;/li&gt;  &lt;li&gt;ערכות שירות של תוכנות&lt;/li&gt;  &lt;li&gt;עדכונים של חבילות בודדות&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;ניתן להתאים את Ravel אישית: מיקומי המאגרים יכולים להצביע על אתרי העדכון הרגילים של CV, על מאגרים של החברה או של האתר ואפילו על אחסון מקומי.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>RVObstacleBox</name>
+    <message>
+        <source>Cancel</source>
+        <translation>ביטול</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>ניסיון חוזר</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>תיקון</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>הסרה</translation>
+    </message>
+    <message>
+        <source>The repair did not succeed. These packages can be removed. To install them again instead, cancel and select them.</source>
+        <translation>התיקון לא הצליח. ניתן להסיר את החבילות האלה. כדי להתקין אותן מחדש במקום זאת, יש לבטל ולבחור אותן.</translation>
     </message>
 </context>
 <context>
@@ -564,15 +731,536 @@
     </message>
 </context>
 <context>
+    <name>RVSentence</name>
+    <message>
+        <source>%1 cannot be read back: %2</source>
+        <translation>לא ניתן לקרוא בחזרה את ⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>%1 does not hold what was written to it.</source>
+        <translation>התוכן של ⁨%1⁩ שונה ממה שנכתב אליו.</translation>
+    </message>
+    <message>
+        <source>Only an administrator may install on this system.</source>
+        <translation>רק מנהל מערכת רשאי להתקין במערכת זו.</translation>
+    </message>
+    <message>
+        <source>Start the program as root.</source>
+        <translation>יש להפעיל את התוכנית כ־root.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is not installed.</source>
+        <translation>החבילה ⁨%1⁩ זקוקה לחבילה ⁨%2⁩, שאינה מותקנת.</translation>
+    </message>
+    <message>
+        <source>Install %2 first, or together with %1.</source>
+        <translation>יש להתקין את ⁨%2⁩ תחילה, או יחד עם ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, but version %3 is installed.</source>
+        <translation>החבילה ⁨%1⁩ זקוקה לחבילה ⁨%2⁩, אך מותקנת גרסה ⁨%3⁩.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is not configured.</source>
+        <translation>החבילה ⁨%1⁩ זקוקה לחבילה ⁨%2⁩, שאינה מוגדרת.</translation>
+    </message>
+    <message>
+        <source>Install %2 again first.</source>
+        <translation>יש להתקין מחדש את ⁨%2⁩ תחילה.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is only partly installed.</source>
+        <translation>החבילה ⁨%1⁩ זקוקה לחבילה ⁨%2⁩, שמותקנת רק באופן חלקי.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be installed beside %2.</source>
+        <translation>לא ניתן להתקין את ⁨%1⁩ לצד ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>Install only one of the two, or remove one first.</source>
+        <translation>יש להתקין רק אחת מהשתיים, או להסיר אחת מהן תחילה.</translation>
+    </message>
+    <message>
+        <source>%1 would make the installed %2 unusable.</source>
+        <translation>התקנת ⁨%1⁩ תמנע את השימוש בחבילה המותקנת ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>Update or remove %2 first.</source>
+        <translation>יש לעדכן או להסיר את ⁨%2⁩ תחילה.</translation>
+    </message>
+    <message>
+        <source>The package contains &apos;%1&apos;, which belongs to %2.</source>
+        <translation>החבילה מכילה את &quot;⁨%1⁩&quot;, ששייך לחבילה ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>Update or remove %2 first, or ask the publisher for a corrected package.</source>
+        <translation>יש לעדכן או להסיר את ⁨%2⁩ תחילה, או לבקש מהמפרסם חבילה מתוקנת.</translation>
+    </message>
+    <message>
+        <source>There is no space left on the disk.</source>
+        <translation>לא נותר מקום בדיסק.</translation>
+    </message>
+    <message>
+        <source>Free some space, then try again.</source>
+        <translation>יש לפנות מקום ולנסות שוב.</translation>
+    </message>
+    <message>
+        <source>The system is read-only.</source>
+        <translation>המערכת היא לקריאה בלבד.</translation>
+    </message>
+    <message>
+        <source>Make it writable, then try again.</source>
+        <translation>יש לאפשר כתיבה במערכת ולנסות שוב.</translation>
+    </message>
+    <message>
+        <source>The system is read-only, and &apos;%1&apos; did not change that.</source>
+        <translation>המערכת היא לקריאה בלבד, והרצת &quot;⁨%1⁩&quot; לא שינתה זאת.</translation>
+    </message>
+    <message>
+        <source>Run &apos;%1&apos; to see why, then try again.</source>
+        <translation>יש להריץ את &quot;⁨%1⁩&quot; כדי לראות מדוע, ולנסות שוב.</translation>
+    </message>
+    <message>
+        <source>The system does not allow &apos;%1&apos; to be changed.</source>
+        <translation>המערכת אינה מאפשרת לשנות את &quot;⁨%1⁩&quot;.</translation>
+    </message>
+    <message>
+        <source>Check the attributes of that file, then try again.</source>
+        <translation>יש לבדוק את המאפיינים של הקובץ ולנסות שוב.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; is not complete.</source>
+        <translation>קובץ החבילה &quot;⁨%1⁩&quot; אינו שלם.</translation>
+    </message>
+    <message>
+        <source>Try again; if it happens again, the file in the repository is damaged.</source>
+        <translation>יש לנסות שוב; אם הבעיה חוזרת, הקובץ במאגר פגום.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; is damaged.</source>
+        <translation>קובץ החבילה &quot;⁨%1⁩&quot; פגום.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a Debian package.</source>
+        <translation>הקובץ &quot;⁨%1⁩&quot; אינו חבילת Debian.</translation>
+    </message>
+    <message>
+        <source>Ask the administrator of the repository to replace it.</source>
+        <translation>יש לבקש ממנהל המאגר להחליף אותו.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; has a format that this system cannot read.</source>
+        <translation>המבנה של קובץ החבילה &quot;⁨%1⁩&quot; אינו ניתן לקריאה במערכת זו.</translation>
+    </message>
+    <message>
+        <source>Update dpkg first, or ask the publisher for a package for this system.</source>
+        <translation>יש לעדכן את dpkg תחילה, או לבקש מהמפרסם חבילה שמתאימה למערכת זו.</translation>
+    </message>
+    <message>
+        <source>The control data of &apos;%1&apos; are wrong.</source>
+        <translation>נתוני הבקרה של &quot;⁨%1⁩&quot; שגויים.</translation>
+    </message>
+    <message>
+        <source>Ask the publisher for a corrected package.</source>
+        <translation>יש לבקש מהמפרסם חבילה מתוקנת.</translation>
+    </message>
+    <message>
+        <source>The package is for %1, but this system is %2.</source>
+        <translation>החבילה מיועדת ל־⁨%1⁩, אך מערכת זו היא ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>Install the package for %2.</source>
+        <translation>יש להתקין את החבילה המיועדת ל־⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>Version %2 of %1 is installed, which is newer than %3.</source>
+        <translation>גרסה ⁨%2⁩ של ⁨%1⁩ מותקנת, והיא חדשה יותר מגרסה ⁨%3⁩.</translation>
+    </message>
+    <message>
+        <source>Remove %1 first if you want the older version.</source>
+        <translation>כדי לקבל את הגרסה הישנה יותר, יש להסיר את ⁨%1⁩ תחילה.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 failed with exit code %3.</source>
+        <translation>הסקריפט &quot;⁨%2⁩&quot; של ⁨%1⁩ נכשל עם קוד יציאה ⁨%3⁩.</translation>
+    </message>
+    <message>
+        <source>The installer&apos;s output may say why; if not, ask the publisher of %1.</source>
+        <translation>ייתכן שהסיבה מופיעה בפלט תוכנית ההתקנה; אם לא, יש לפנות למפרסם של ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 was ended by a signal (%3).</source>
+        <translation>הסקריפט &quot;⁨%2⁩&quot; של ⁨%1⁩ הופסק על ידי אות (⁨%3⁩).</translation>
+    </message>
+    <message>
+        <source>Try again; if it happens again, ask the publisher of %1.</source>
+        <translation>יש לנסות שוב; אם הבעיה חוזרת, יש לפנות למפרסם של ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 may not be run where it lies.</source>
+        <translation>הסקריפט &quot;⁨%2⁩&quot; של ⁨%1⁩ אינו מורשה לרוץ ממיקומו.</translation>
+    </message>
+    <message>
+        <source>Check whether the file system of &apos;%3&apos; is mounted with &apos;noexec&apos;.</source>
+        <translation>יש לבדוק אם מערכת הקבצים של &quot;⁨%3⁩&quot; מעוגנת עם האפשרות &quot;noexec&quot;.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 cannot be run, since its interpreter is missing.</source>
+        <translation>לא ניתן להריץ את הסקריפט &quot;⁨%2⁩&quot; של ⁨%1⁩, כי המפרש שלו חסר.</translation>
+    </message>
+    <message>
+        <source>Install the program that the script&apos;s first line names, or ask the publisher of %1.</source>
+        <translation>יש להתקין את התוכנית שמצוינת בשורה הראשונה של הסקריפט, או לפנות למפרסם של ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>A trigger of %1 failed with exit code %2.</source>
+        <translation>טריגר של ⁨%1⁩ נכשל עם קוד יציאה ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>Install %1 again; the installer&apos;s output may say why its trigger failed.</source>
+        <translation>יש להתקין מחדש את ⁨%1⁩; ייתכן שהסיבה לכשל הטריגר מופיעה בפלט תוכנית ההתקנה.</translation>
+    </message>
+    <message>
+        <source>%1 is only partly installed.</source>
+        <translation>החבילה ⁨%1⁩ מותקנת רק באופן חלקי.</translation>
+    </message>
+    <message>
+        <source>Install %1 again.</source>
+        <translation>יש להתקין מחדש את ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The installer gave up after too many errors.</source>
+        <translation>תוכנית ההתקנה הפסיקה לאחר שגיאות רבות מדי.</translation>
+    </message>
+    <message>
+        <source>Install fewer packages at a time.</source>
+        <translation>יש להתקין פחות חבילות בבת אחת.</translation>
+    </message>
+    <message>
+        <source>The package database is damaged: &apos;%1&apos; cannot be read.</source>
+        <translation>מסד הנתונים של החבילות פגום: לא ניתן לקרוא את &quot;⁨%1⁩&quot;.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to restore the package database from a copy.</source>
+        <translation>יש לבקש ממנהל המערכת לשחזר את מסד הנתונים של החבילות מעותק.</translation>
+    </message>
+    <message>
+        <source>The package database names &apos;%1&apos;, whom this system does not know.</source>
+        <translation>במסד הנתונים של החבילות מופיע השם &quot;⁨%1⁩&quot;, שאינו מוכר במערכת זו.</translation>
+    </message>
+    <message>
+        <source>Add that user or group, or remove the entry with dpkg-statoverride.</source>
+        <translation>יש להוסיף את המשתמש או הקבוצה, או להסיר את הרשומה באמצעות dpkg-statoverride.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos; is missing.</source>
+        <translation>התוכנית &quot;⁨%1⁩&quot; חסרה.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to install it, then try again.</source>
+        <translation>יש לבקש ממנהל המערכת להתקין אותה, ולנסות שוב.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos; cannot be run.</source>
+        <translation>לא ניתן להריץ את התוכנית &quot;⁨%1⁩&quot;.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to repair it, then try again.</source>
+        <translation>יש לבקש ממנהל המערכת לתקן אותה, ולנסות שוב.</translation>
+    </message>
+    <message>
+        <source>No package reached the installer.</source>
+        <translation>אף חבילה לא הגיעה לתוכנית ההתקנה.</translation>
+    </message>
+    <message>
+        <source>Try again.</source>
+        <translation>יש לנסות שוב.</translation>
+    </message>
+    <message>
+        <source>The installer was ended by a signal (%1).</source>
+        <translation>תוכנית ההתקנה הופסקה על ידי אות (⁨%1⁩).</translation>
+    </message>
+    <message>
+        <source>Try again; the system may have been short of memory, or shut down.</source>
+        <translation>יש לנסות שוב; ייתכן שלמערכת חסר זיכרון או שהיא הייתה בתהליך כיבוי.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; is missing.</source>
+        <translation>תוכנית ההתקנה &quot;⁨%1⁩&quot; חסרה.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; is not executable.</source>
+        <translation>תוכנית ההתקנה &quot;⁨%1⁩&quot; אינה ניתנת להרצה.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to correct its permissions.</source>
+        <translation>יש לבקש ממנהל המערכת לתקן את ההרשאות שלה.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; failed with exit code %2.</source>
+        <translation>תוכנית ההתקנה &quot;⁨%1⁩&quot; נכשלה עם קוד יציאה ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>The installer&apos;s output may say why.</source>
+        <translation>ייתכן שהסיבה מופיעה בפלט תוכנית ההתקנה.</translation>
+    </message>
+    <message>
+        <source>The system could not be restarted, so the image is not installed.</source>
+        <translation>לא ניתן היה להפעיל מחדש את המערכת, ולכן תמונת המערכת לא הותקנה.</translation>
+    </message>
+    <message>
+        <source>Find out why &apos;%1&apos; fails, then try again.</source>
+        <translation>יש לברר מדוע &quot;⁨%1⁩&quot; נכשל ולנסות שוב.</translation>
+    </message>
+    <message>
+        <source>The cause is not known, and the installer wrote nothing.</source>
+        <translation>הסיבה אינה ידועה, ותוכנית ההתקנה לא כתבה דבר.</translation>
+    </message>
+    <message>
+        <source>The cause is not known; the installer says: %1</source>
+        <translation>הסיבה אינה ידועה; הודעת תוכנית ההתקנה: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>Wait until that program has ended, then try again.</source>
+        <translation>יש להמתין עד שתוכנית זו תסתיים, ולנסות שוב.</translation>
+    </message>
+    <message>
+        <source>It could not be downloaded: %1</source>
+        <translation>לא ניתן להוריד אותו: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>Not enough space in &apos;%1&apos;: %2 needed, %3 free.</source>
+        <translation>אין די מקום ב־&quot;⁨%1⁩&quot;: נדרשים ⁨%2⁩, פנויים ⁨%3⁩.</translation>
+    </message>
+    <message>
+        <source>The program was ended before the installation was over.</source>
+        <translation>התוכנית הופסקה לפני שההתקנה הסתיימה.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid, and was accepted here. After the restart the device may refuse it, and then it gets no image.</source>
+        <translation>האישור של ⁨%1⁩ אינו תקף, והוא התקבל כאן. לאחר ההפעלה מחדש המכשיר עלול לדחות אותו, ואז לא יקבל תמונת מערכת.</translation>
+    </message>
+    <message>
+        <source>The image is not there.</source>
+        <translation>תמונת המערכת אינה נמצאת שם.</translation>
+    </message>
+    <message>
+        <source>The server wants a login for the image. The device has none but the one in the repository&apos;s location.</source>
+        <translation>השרת דורש כניסה לחשבון עבור תמונת המערכת. למכשיר אין פרטי כניסה מלבד אלה שבמיקום המאגר.</translation>
+    </message>
+    <message>
+        <source>The proxy wants a login, which the device does not have.</source>
+        <translation>המתווך דורש כניסה לחשבון, ולמכשיר אין פרטי כניסה.</translation>
+    </message>
+    <message>
+        <source>The server has no image there: it answers %1.</source>
+        <translation>לשרת אין תמונת מערכת במיקום זה: הוא השיב ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The image cannot be read: %1</source>
+        <translation>לא ניתן לקרוא את תמונת המערכת: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>The image is empty.</source>
+        <translation>תמונת המערכת ריקה.</translation>
+    </message>
+    <message>
+        <source>There is a page in place of the image.</source>
+        <translation>במקום תמונת המערכת נמצא עמוד.</translation>
+    </message>
+    <message>
+        <source>The file is no image: it is not packed by gzip.</source>
+        <translation>הקובץ אינו תמונת מערכת: הוא אינו דחוס באמצעות gzip.</translation>
+    </message>
+    <message>
+        <source>The image has %1 bytes. Its description says %2.</source>
+        <translation>גודל תמונת המערכת הוא ⁨%1⁩ בתים. לפי התיאור שלה, הגודל הוא ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; cannot be started: %2</source>
+        <translation>לא ניתן להפעיל את תוכנית ההתקנה &quot;⁨%1⁩&quot;: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>The package is damaged or not complete.</source>
+        <translation>החבילה פגומה או אינה שלמה.</translation>
+    </message>
+    <message>
+        <source>The installer takes only files whose name ends in &apos;.deb&apos;.</source>
+        <translation>תוכנית ההתקנה מקבלת רק קבצים ששמם מסתיים ב־&quot;⁨.deb⁩&quot;.</translation>
+    </message>
+    <message>
+        <source>There is no space left for it in %1.</source>
+        <translation>לא נותר עבורו מקום ב־⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The archive is damaged, or refused for what it holds.</source>
+        <translation>הארכיון פגום, או שנדחה בשל תוכנו.</translation>
+    </message>
+    <message>
+        <source>No archive is left to install.</source>
+        <translation>לא נותר ארכיון להתקנה.</translation>
+    </message>
+    <message>
+        <source>There is no installer for &apos;%1&apos;</source>
+        <translation>אין תוכנית התקנה עבור &quot;⁨%1⁩&quot;</translation>
+    </message>
+    <message>
+        <source>It cannot be installed together with the others.</source>
+        <translation>לא ניתן להתקין אותו יחד עם האחרים.</translation>
+    </message>
+    <message>
+        <source>The service pack before it was not installed.</source>
+        <translation>ערכת השירות שלפניה לא הותקנה.</translation>
+    </message>
+    <message>
+        <source>Could not enter the temporary directory &apos;%1&apos;</source>
+        <translation>לא ניתן להיכנס לתיקייה הזמנית &quot;⁨%1⁩&quot;</translation>
+    </message>
+    <message>
+        <source>Its download was ended.</source>
+        <translation>ההורדה שלו הופסקה.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 still runs.</source>
+        <translation>ההתקנה שהתחילה ב־⁨%1⁩ עדיין פועלת.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and ended without an error.</source>
+        <translation>ההתקנה שהתחילה ב־⁨%1⁩ המשיכה ללא התוכנית שהפעילה אותה והסתיימה ללא שגיאות.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and failed with exit code %2.</source>
+        <translation>ההתקנה שהתחילה ב־⁨%1⁩ המשיכה ללא התוכנית שהפעילה אותה ונכשלה עם קוד יציאה ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and was ended by signal %2.</source>
+        <translation>ההתקנה שהתחילה ב־⁨%1⁩ המשיכה ללא התוכנית שהפעילה אותה והופסקה על ידי אות ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 was interrupted. How it ended is not known.</source>
+        <translation>ההתקנה שהתחילה ב־⁨%1⁩ נקטעה. לא ידוע כיצד הסתיימה.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by another process.</source>
+        <translation>מסד הנתונים של החבילות נעול על ידי תהליך אחר.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by process %1.</source>
+        <translation>מסד הנתונים של החבילות נעול על ידי תהליך ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by %1 (process %2).</source>
+        <translation>מסד הנתונים של החבילות נעול על ידי ⁨%1⁩ (תהליך ⁨%2⁩).</translation>
+    </message>
+    <message>
+        <source>This user may not install updates: &apos;%1&apos; cannot be changed.</source>
+        <translation>משתמש זה אינו רשאי להתקין עדכונים: לא ניתן לשנות את &quot;⁨%1⁩&quot;.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos;, which installs the updates, is missing.</source>
+        <translation>התוכנית &quot;⁨%1⁩&quot;, שמתקינה את העדכונים, חסרה.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is read-only, and the program &apos;%2&apos;, which unlocks the system, is missing.</source>
+        <translation>התיקייה &quot;⁨%1⁩&quot; היא לקריאה בלבד, והתוכנית &quot;⁨%2⁩&quot;, שמבטלת את נעילת המערכת, חסרה.</translation>
+    </message>
+    <message>
+        <source>An earlier installation of packages was interrupted and has to be repaired first (%1).</source>
+        <translation>התקנה קודמת של חבילות נקטעה ויש לתקן אותה תחילה (⁨%1⁩).</translation>
+    </message>
+    <message>
+        <source>An earlier installation of packages was interrupted and has to be repaired first.</source>
+        <translation>התקנה קודמת של חבילות נקטעה ויש לתקן אותה תחילה.</translation>
+    </message>
+    <message>
+        <source>An earlier installation is still under way.</source>
+        <translation>התקנה קודמת עדיין מתבצעת.</translation>
+    </message>
+    <message>
+        <source>Another installation is under way: %1 (process %2).</source>
+        <translation>מתבצעת התקנה אחרת: ⁨%1⁩ (תהליך ⁨%2⁩).</translation>
+    </message>
+    <message>
+        <source>Installation cancelled</source>
+        <translation>ההתקנה בוטלה</translation>
+    </message>
+    <message>
+        <source>The image will be installed at the restart</source>
+        <translation>תמונת המערכת תותקן בעת ההפעלה מחדש</translation>
+    </message>
+    <message>
+        <source>Installation failed</source>
+        <translation>ההתקנה נכשלה</translation>
+    </message>
+    <message>
+        <source>Installed, but the system cannot confirm it</source>
+        <translation>הותקן, אך המערכת אינה יכולה לאשר זאת</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n updates installed</source>
+        <translation>
+            <numerusform>עדכונים שהותקנו: ⁨%1⁩ מתוך %n</numerusform>
+            <numerusform>עדכונים שהותקנו: ⁨%1⁩ מתוך %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 update installed</source>
+        <translation>הותקן עדכון אחד</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updates installed</source>
+        <translation>
+            <numerusform>הותקן %n עדכון</numerusform>
+            <numerusform>הותקנו %n עדכונים</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The installer was ended by a signal.</source>
+        <translation>תוכנית ההתקנה הופסקה על ידי אות.</translation>
+    </message>
+    <message>
+        <source>The installer ended with exit code %1.</source>
+        <translation>תוכנית ההתקנה הסתיימה עם קוד יציאה ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The package database cannot be read.</source>
+        <translation>לא ניתן לקרוא את מסד הנתונים של החבילות.</translation>
+    </message>
+    <message>
+        <source>The system does not have it.</source>
+        <translation>החבילה אינה נמצאת במערכת.</translation>
+    </message>
+    <message>
+        <source>It is unpacked, but not configured.</source>
+        <translation>החבילה חולצה, אך אינה מוגדרת.</translation>
+    </message>
+    <message>
+        <source>The system has version %1.</source>
+        <translation>במערכת נמצאת גרסה ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The installer left the installed package as it was.</source>
+        <translation>תוכנית ההתקנה השאירה את החבילה המותקנת כפי שהייתה.</translation>
+    </message>
+    <message>
+        <source>It was in the list of installed service packs before.</source>
+        <translation>היא כבר הופיעה קודם לכן ברשימת ערכות השירות המותקנות.</translation>
+    </message>
+    <message>
+        <source>This system has no list of installed service packs.</source>
+        <translation>במערכת זו אין רשימה של ערכות שירות מותקנות.</translation>
+    </message>
+    <message>
+        <source>It is not in the list of installed service packs.</source>
+        <translation>היא אינה ברשימת ערכות השירות המותקנות.</translation>
+    </message>
+</context>
+<context>
     <name>RVTrustTexts</name>
     <message>
         <source>Signed by %1, valid until %2</source>
         <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
         <translation>נחתם על ידי ⁨%1⁩, בתוקף עד ⁨%2⁩</translation>
-    </message>
-    <message>
-        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
-        <translation>לא ניתן לאחסן כאן דבר: מצב ישן של המאגר לא יתגלה.</translation>
     </message>
     <message>
         <source>Not signed: whoever controls the server controls what is installed</source>
@@ -591,28 +1279,32 @@
         <translation>רק קבצים שהמפרסם כלל ברשימה וחתם עליהם מוצעים ומותקנים.</translation>
     </message>
     <message>
-        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
-        <translation>ההגדרה של מקטע זה אינה דורשת חתימה. מפרסם המאגר יכול לחתום עליו.</translation>
-    </message>
-    <message>
         <source>This device cannot check the signature of the repository.</source>
         <translation>מכשיר זה אינו יכול לבדוק את חתימת המאגר.</translation>
-    </message>
-    <message>
-        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
-        <translation>חתימת המאגר אינה תקפה כעת, או שהשעון של מכשיר זה שגוי.</translation>
     </message>
     <message>
         <source>The repository is not what its publisher signed.</source>
         <translation>המאגר אינו מה שהמפרסם שלו חתם עליו.</translation>
     </message>
     <message>
-        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
-        <translation>תמונת המערכת נקראת פעם אחת ומושווית לרשימת המאגר. כך מתגלים נזקים. המכשיר מאחזר את תמונת המערכת שוב לאחר ההפעלה מחדש ואינו בודק דבר: שרת עוין יכול לתת לו אז תמונה אחרת.</translation>
-    </message>
-    <message>
         <source>The list of the repository&apos;s files, or its signature, is missing.</source>
         <translation>רשימת הקבצים של המאגר או החתימה שלה חסרה.</translation>
+    </message>
+    <message>
+        <source>This device cannot remember the newest list, so it would not notice an outdated one.</source>
+        <translation>מכשיר זה אינו יכול לזכור את הרשימה העדכנית ביותר, ולכן לא יבחין ברשימה מיושנת.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not require a signature. The publisher can sign the repository.</source>
+        <translation>ההגדרה של מקטע זה אינה דורשת חתימה. המפרסם יכול לחתום על המאגר.</translation>
+    </message>
+    <message>
+        <source>The repository&apos;s signature is not currently valid, or this device&apos;s clock is wrong.</source>
+        <translation>חתימת המאגר אינה תקפה כעת, או שהשעון של מכשיר זה שגוי.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the repository&apos;s list, which reveals damage. After the restart, the device fetches the image again and checks nothing: a hostile server can then deliver another one.</source>
+        <translation>תמונת המערכת נקראת פעם אחת ומושווית לרשימה של המאגר, וכך מתגלים נזקים. לאחר ההפעלה מחדש המכשיר מאחזר את תמונת המערכת שוב ואינו בודק דבר: אז שרת עוין יכול לספק תמונת מערכת אחרת.</translation>
     </message>
 </context>
 <context>
@@ -692,6 +1384,11 @@ Version</source>
         <comment>small word for &apos;not currently installed&apos;</comment>
         <translation>אין</translation>
     </message>
+    <message>
+        <source>not configured</source>
+        <comment>small words for &apos;its installation was not completed&apos;</comment>
+        <translation>לא מוגדר</translation>
+    </message>
 </context>
 <context>
     <name>XFtp</name>
@@ -706,10 +1403,6 @@ Version</source>
     <message>
         <source>Not connected to an FTP server</source>
         <translation>אין חיבור לשרת FTP</translation>
-    </message>
-    <message>
-        <source>The server names no port for the data connection</source>
-        <translation>השרת לא ציין יציאה לחיבור הנתונים</translation>
     </message>
     <message>
         <source>The data connection cannot be opened: %1</source>
@@ -752,16 +1445,20 @@ Version</source>
         <translation>השרת אינו תומך ב־FTP</translation>
     </message>
     <message>
-        <source>The server&apos;s answer is out of place: %1</source>
-        <translation>תשובת השרת אינה במקומה: ⁨%1⁩</translation>
-    </message>
-    <message>
         <source>The server asks for an account, which is not supported</source>
         <translation>השרת מבקש חשבון, דבר שאינו נתמך</translation>
     </message>
     <message>
         <source>The server answers %1</source>
         <translation>השרת השיב ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>The server gave no port for the data connection</source>
+        <translation>השרת לא מסר יציאה לחיבור הנתונים</translation>
+    </message>
+    <message>
+        <source>Unexpected answer from the server: %1</source>
+        <translation>תשובה לא צפויה מהשרת: ⁨%1⁩</translation>
     </message>
 </context>
 </TS>

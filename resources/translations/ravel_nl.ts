@@ -27,10 +27,6 @@
         <translation>Details tonen</translation>
     </message>
     <message>
-        <source>Shows what the installer writes.</source>
-        <translation>Toont wat het installatieprogramma schrijft.</translation>
-    </message>
-    <message>
         <source>Installer output</source>
         <translation>Uitvoer van het installatieprogramma</translation>
     </message>
@@ -75,6 +71,47 @@
     <message>
         <source>Unknown process error.</source>
         <translation>Onbekende procesfout.</translation>
+    </message>
+    <message>
+        <source>Shows the installer&apos;s output.</source>
+        <translation>Toont de uitvoer van het installatieprogramma.</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Resultaten</translation>
+    </message>
+    <message>
+        <source>%1 %2: %3</source>
+        <comment>An update, its version, and how it ended.</comment>
+        <translation>%1 %2: %3</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>mislukt</translation>
+    </message>
+    <message>
+        <source>will be installed at the restart</source>
+        <translation>wordt bij de herstart geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>installed, but the system cannot confirm it</source>
+        <translation>geïnstalleerd, maar het systeem kan dit niet bevestigen</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>overgeslagen</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>niet geprobeerd</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>geannuleerd</translation>
     </message>
 </context>
 <context>
@@ -492,6 +529,113 @@
     </message>
 </context>
 <context>
+    <name>RVHistoryDialog</name>
+    <message>
+        <source>not ended</source>
+        <translation>niet beëindigd</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>mislukt</translation>
+    </message>
+    <message>
+        <source>will be installed at the restart</source>
+        <translation>wordt bij de herstart geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>installed, not confirmed</source>
+        <translation>geïnstalleerd, niet bevestigd</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>overgeslagen</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>niet geprobeerd</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>geannuleerd</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>onbekend</translation>
+    </message>
+    <message>
+        <source>Installation History</source>
+        <translation>Installatiegeschiedenis</translation>
+    </message>
+    <message>
+        <source>Installed updates</source>
+        <translation>Geïnstalleerde updates</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tijd</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Update</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Van versie</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Naar versie</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Gebruiker</translation>
+    </message>
+    <message>
+        <source>Only the newest entries are shown.</source>
+        <translation>Alleen de nieuwste vermeldingen worden getoond.</translation>
+    </message>
+    <message>
+        <source>Some entries are damaged and cannot be shown.</source>
+        <translation>Sommige vermeldingen zijn beschadigd en kunnen niet worden getoond.</translation>
+    </message>
+</context>
+<context>
+    <name>RVHistoryLink</name>
+    <message>
+        <source>Installation &amp;history</source>
+        <translation>Installatieges&amp;chiedenis</translation>
+    </message>
+</context>
+<context>
+    <name>RVInstallGate</name>
+    <message numerus="yes">
+        <source>Waiting for %n more second(s)...</source>
+        <translation>
+            <numerusform>Nog %n seconde wachten…</numerusform>
+            <numerusform>Nog %n seconden wachten…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Repairing the package database...</source>
+        <translation>De pakketdatabase wordt hersteld…</translation>
+    </message>
+</context>
+<context>
+    <name>RVLastRun</name>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
     <name>RVMainPage</name>
     <message>
         <source>Ravel</source>
@@ -508,6 +652,29 @@
     <message>
         <source>&lt;p&gt;&lt;b&gt;Ravel&lt;/b&gt; enables the installation of:&lt;ol&gt;  &lt;li&gt;Full software images&lt;/li&gt;  &lt;li&gt;Bundled software service packs&lt;/li&gt;  &lt;li&gt;Individual package updates&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;To customize Ravel, repository locations can be set to look for data in CV&apos;s standard update sites, company or site-specific repositories, or even local storage.&lt;/p&gt;</source>
         <translation>&lt;p&gt;Met &lt;b&gt;Ravel&lt;/b&gt; kunt u installeren:&lt;ol&gt;  &lt;li&gt;Volledige software-images&lt;/li&gt;  &lt;li&gt;Servicepacks met gebundelde software&lt;/li&gt;  &lt;li&gt;Updates van afzonderlijke pakketten&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;U kunt Ravel aanpassen door als repositorylocatie de standaardupdatesites van CV, repositories van uw bedrijf of vestiging of zelfs lokale opslag op te geven.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>RVObstacleBox</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Opnieuw proberen</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>Herstellen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>The repair did not succeed. These packages can be removed. To install them again instead, cancel and select them.</source>
+        <translation>Het herstel is niet gelukt. Deze pakketten kunnen worden verwijderd. Als u ze in plaats daarvan opnieuw wilt installeren, annuleert u en selecteert u ze.</translation>
     </message>
 </context>
 <context>
@@ -564,15 +731,536 @@
     </message>
 </context>
 <context>
+    <name>RVSentence</name>
+    <message>
+        <source>%1 cannot be read back: %2</source>
+        <translation>%1 kan niet worden teruggelezen: %2</translation>
+    </message>
+    <message>
+        <source>%1 does not hold what was written to it.</source>
+        <translation>%1 bevat niet wat ernaar is geschreven.</translation>
+    </message>
+    <message>
+        <source>Only an administrator may install on this system.</source>
+        <translation>Alleen een beheerder mag op dit systeem software installeren.</translation>
+    </message>
+    <message>
+        <source>Start the program as root.</source>
+        <translation>Start het programma als root.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is not installed.</source>
+        <translation>%1 vereist %2, dat niet is geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>Install %2 first, or together with %1.</source>
+        <translation>Installeer eerst %2, of installeer het samen met %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, but version %3 is installed.</source>
+        <translation>%1 vereist %2, maar versie %3 is geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is not configured.</source>
+        <translation>%1 vereist %2, dat niet is geconfigureerd.</translation>
+    </message>
+    <message>
+        <source>Install %2 again first.</source>
+        <translation>Installeer eerst %2 opnieuw.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is only partly installed.</source>
+        <translation>%1 vereist %2, dat slechts gedeeltelijk is geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be installed beside %2.</source>
+        <translation>%1 kan niet naast %2 worden geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>Install only one of the two, or remove one first.</source>
+        <translation>Installeer slechts een van de twee, of verwijder eerst het andere.</translation>
+    </message>
+    <message>
+        <source>%1 would make the installed %2 unusable.</source>
+        <translation>%1 zou het geïnstalleerde %2 onbruikbaar maken.</translation>
+    </message>
+    <message>
+        <source>Update or remove %2 first.</source>
+        <translation>Werk eerst %2 bij of verwijder het.</translation>
+    </message>
+    <message>
+        <source>The package contains &apos;%1&apos;, which belongs to %2.</source>
+        <translation>Het pakket bevat ‘%1’, dat bij %2 hoort.</translation>
+    </message>
+    <message>
+        <source>Update or remove %2 first, or ask the publisher for a corrected package.</source>
+        <translation>Werk eerst %2 bij of verwijder het, of vraag de uitgever om een gecorrigeerd pakket.</translation>
+    </message>
+    <message>
+        <source>There is no space left on the disk.</source>
+        <translation>Er is geen ruimte meer vrij op de schijf.</translation>
+    </message>
+    <message>
+        <source>Free some space, then try again.</source>
+        <translation>Maak ruimte vrij en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>The system is read-only.</source>
+        <translation>Het systeem is alleen-lezen.</translation>
+    </message>
+    <message>
+        <source>Make it writable, then try again.</source>
+        <translation>Maak het beschrijfbaar en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>The system is read-only, and &apos;%1&apos; did not change that.</source>
+        <translation>Het systeem is alleen-lezen en ‘%1’ heeft daar niets aan veranderd.</translation>
+    </message>
+    <message>
+        <source>Run &apos;%1&apos; to see why, then try again.</source>
+        <translation>Voer ‘%1’ uit om te zien waarom en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>The system does not allow &apos;%1&apos; to be changed.</source>
+        <translation>Het systeem staat niet toe dat ‘%1’ wordt gewijzigd.</translation>
+    </message>
+    <message>
+        <source>Check the attributes of that file, then try again.</source>
+        <translation>Controleer de attributen van dat bestand en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; is not complete.</source>
+        <translation>Het pakketbestand ‘%1’ is niet volledig.</translation>
+    </message>
+    <message>
+        <source>Try again; if it happens again, the file in the repository is damaged.</source>
+        <translation>Probeer het opnieuw; als het weer gebeurt, is het bestand in de repository beschadigd.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; is damaged.</source>
+        <translation>Het pakketbestand ‘%1’ is beschadigd.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a Debian package.</source>
+        <translation>Het bestand ‘%1’ is geen Debian-pakket.</translation>
+    </message>
+    <message>
+        <source>Ask the administrator of the repository to replace it.</source>
+        <translation>Vraag de beheerder van de repository het te vervangen.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; has a format that this system cannot read.</source>
+        <translation>Het pakketbestand ‘%1’ heeft een indeling die dit systeem niet kan lezen.</translation>
+    </message>
+    <message>
+        <source>Update dpkg first, or ask the publisher for a package for this system.</source>
+        <translation>Werk eerst dpkg bij, of vraag de uitgever om een pakket voor dit systeem.</translation>
+    </message>
+    <message>
+        <source>The control data of &apos;%1&apos; are wrong.</source>
+        <translation>De besturingsgegevens van ‘%1’ zijn onjuist.</translation>
+    </message>
+    <message>
+        <source>Ask the publisher for a corrected package.</source>
+        <translation>Vraag de uitgever om een gecorrigeerd pakket.</translation>
+    </message>
+    <message>
+        <source>The package is for %1, but this system is %2.</source>
+        <translation>Het pakket is voor %1, maar dit systeem is %2.</translation>
+    </message>
+    <message>
+        <source>Install the package for %2.</source>
+        <translation>Installeer het pakket voor %2.</translation>
+    </message>
+    <message>
+        <source>Version %2 of %1 is installed, which is newer than %3.</source>
+        <translation>Van %1 is versie %2 geïnstalleerd, die nieuwer is dan %3.</translation>
+    </message>
+    <message>
+        <source>Remove %1 first if you want the older version.</source>
+        <translation>Verwijder eerst %1 als u de oudere versie wilt.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 failed with exit code %3.</source>
+        <translation>Het script ‘%2’ van %1 is mislukt met afsluitcode %3.</translation>
+    </message>
+    <message>
+        <source>The installer&apos;s output may say why; if not, ask the publisher of %1.</source>
+        <translation>De uitvoer van het installatieprogramma vermeldt mogelijk de reden; neem anders contact op met de uitgever van %1.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 was ended by a signal (%3).</source>
+        <translation>Het script ‘%2’ van %1 is door een signaal beëindigd (%3).</translation>
+    </message>
+    <message>
+        <source>Try again; if it happens again, ask the publisher of %1.</source>
+        <translation>Probeer het opnieuw; als het weer gebeurt, neem dan contact op met de uitgever van %1.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 may not be run where it lies.</source>
+        <translation>Het script ‘%2’ van %1 mag niet worden uitgevoerd op de plaats waar het staat.</translation>
+    </message>
+    <message>
+        <source>Check whether the file system of &apos;%3&apos; is mounted with &apos;noexec&apos;.</source>
+        <translation>Controleer of het bestandssysteem van ‘%3’ met ‘noexec’ is aangekoppeld.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 cannot be run, since its interpreter is missing.</source>
+        <translation>Het script ‘%2’ van %1 kan niet worden uitgevoerd, omdat de interpreter ervan ontbreekt.</translation>
+    </message>
+    <message>
+        <source>Install the program that the script&apos;s first line names, or ask the publisher of %1.</source>
+        <translation>Installeer het programma dat op de eerste regel van het script staat, of neem contact op met de uitgever van %1.</translation>
+    </message>
+    <message>
+        <source>A trigger of %1 failed with exit code %2.</source>
+        <translation>Een trigger van %1 is mislukt met afsluitcode %2.</translation>
+    </message>
+    <message>
+        <source>Install %1 again; the installer&apos;s output may say why its trigger failed.</source>
+        <translation>Installeer %1 opnieuw; de uitvoer van het installatieprogramma vermeldt mogelijk waarom de trigger is mislukt.</translation>
+    </message>
+    <message>
+        <source>%1 is only partly installed.</source>
+        <translation>%1 is slechts gedeeltelijk geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>Install %1 again.</source>
+        <translation>Installeer %1 opnieuw.</translation>
+    </message>
+    <message>
+        <source>The installer gave up after too many errors.</source>
+        <translation>Het installatieprogramma is na te veel fouten gestopt.</translation>
+    </message>
+    <message>
+        <source>Install fewer packages at a time.</source>
+        <translation>Installeer minder pakketten tegelijk.</translation>
+    </message>
+    <message>
+        <source>The package database is damaged: &apos;%1&apos; cannot be read.</source>
+        <translation>De pakketdatabase is beschadigd: ‘%1’ kan niet worden gelezen.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to restore the package database from a copy.</source>
+        <translation>Vraag een beheerder de pakketdatabase vanaf een kopie te herstellen.</translation>
+    </message>
+    <message>
+        <source>The package database names &apos;%1&apos;, whom this system does not know.</source>
+        <translation>De pakketdatabase noemt ‘%1’, een gebruiker of groep die op dit systeem niet bekend is.</translation>
+    </message>
+    <message>
+        <source>Add that user or group, or remove the entry with dpkg-statoverride.</source>
+        <translation>Voeg die gebruiker of groep toe, of verwijder de vermelding met dpkg-statoverride.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos; is missing.</source>
+        <translation>Het programma ‘%1’ ontbreekt.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to install it, then try again.</source>
+        <translation>Vraag een beheerder het te installeren en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos; cannot be run.</source>
+        <translation>Het programma ‘%1’ kan niet worden uitgevoerd.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to repair it, then try again.</source>
+        <translation>Vraag een beheerder het te repareren en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>No package reached the installer.</source>
+        <translation>Het installatieprogramma heeft geen enkel pakket ontvangen.</translation>
+    </message>
+    <message>
+        <source>Try again.</source>
+        <translation>Probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>The installer was ended by a signal (%1).</source>
+        <translation>Het installatieprogramma is door een signaal beëindigd (%1).</translation>
+    </message>
+    <message>
+        <source>Try again; the system may have been short of memory, or shut down.</source>
+        <translation>Probeer het opnieuw; mogelijk had het systeem te weinig geheugen of werd het afgesloten.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; is missing.</source>
+        <translation>Het installatieprogramma ‘%1’ ontbreekt.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; is not executable.</source>
+        <translation>Het installatieprogramma ‘%1’ is niet uitvoerbaar.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to correct its permissions.</source>
+        <translation>Vraag een beheerder de rechten ervan te corrigeren.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; failed with exit code %2.</source>
+        <translation>Het installatieprogramma ‘%1’ is mislukt met afsluitcode %2.</translation>
+    </message>
+    <message>
+        <source>The installer&apos;s output may say why.</source>
+        <translation>De uitvoer van het installatieprogramma vermeldt mogelijk de reden.</translation>
+    </message>
+    <message>
+        <source>The system could not be restarted, so the image is not installed.</source>
+        <translation>Het systeem kon niet opnieuw worden gestart, dus de image is niet geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>Find out why &apos;%1&apos; fails, then try again.</source>
+        <translation>Zoek uit waarom ‘%1’ mislukt en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>The cause is not known, and the installer wrote nothing.</source>
+        <translation>De oorzaak is niet bekend en het installatieprogramma heeft niets gemeld.</translation>
+    </message>
+    <message>
+        <source>The cause is not known; the installer says: %1</source>
+        <translation>De oorzaak is niet bekend; het installatieprogramma meldt: %1</translation>
+    </message>
+    <message>
+        <source>Wait until that program has ended, then try again.</source>
+        <translation>Wacht tot dat programma is beëindigd en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>It could not be downloaded: %1</source>
+        <translation>Het downloaden is mislukt: %1</translation>
+    </message>
+    <message>
+        <source>Not enough space in &apos;%1&apos;: %2 needed, %3 free.</source>
+        <translation>Niet genoeg ruimte in ‘%1’: %2 nodig, %3 vrij.</translation>
+    </message>
+    <message>
+        <source>The program was ended before the installation was over.</source>
+        <translation>Het programma is beëindigd voordat de installatie was voltooid.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid, and was accepted here. After the restart the device may refuse it, and then it gets no image.</source>
+        <translation>Het certificaat van %1 is niet geldig, maar is hier geaccepteerd. Na de herstart kan het apparaat het weigeren, en dan krijgt het geen image.</translation>
+    </message>
+    <message>
+        <source>The image is not there.</source>
+        <translation>De image is daar niet aanwezig.</translation>
+    </message>
+    <message>
+        <source>The server wants a login for the image. The device has none but the one in the repository&apos;s location.</source>
+        <translation>De server vereist aanmelding voor de image. Het apparaat heeft alleen de aanmeldgegevens uit de locatie van de repository.</translation>
+    </message>
+    <message>
+        <source>The proxy wants a login, which the device does not have.</source>
+        <translation>De proxy vereist aanmelding, maar het apparaat heeft daarvoor geen aanmeldgegevens.</translation>
+    </message>
+    <message>
+        <source>The server has no image there: it answers %1.</source>
+        <translation>De server heeft daar geen image: het antwoord is %1.</translation>
+    </message>
+    <message>
+        <source>The image cannot be read: %1</source>
+        <translation>De image kan niet worden gelezen: %1</translation>
+    </message>
+    <message>
+        <source>The image is empty.</source>
+        <translation>De image is leeg.</translation>
+    </message>
+    <message>
+        <source>There is a page in place of the image.</source>
+        <translation>In plaats van de image staat er een webpagina.</translation>
+    </message>
+    <message>
+        <source>The file is no image: it is not packed by gzip.</source>
+        <translation>Het bestand is geen image: het is niet met gzip gecomprimeerd.</translation>
+    </message>
+    <message>
+        <source>The image has %1 bytes. Its description says %2.</source>
+        <translation>De image is %1 bytes groot. Volgens de beschrijving zijn het er %2.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; cannot be started: %2</source>
+        <translation>Het installatieprogramma ‘%1’ kan niet worden gestart: %2</translation>
+    </message>
+    <message>
+        <source>The package is damaged or not complete.</source>
+        <translation>Het pakket is beschadigd of niet volledig.</translation>
+    </message>
+    <message>
+        <source>The installer takes only files whose name ends in &apos;.deb&apos;.</source>
+        <translation>Het installatieprogramma accepteert alleen bestanden waarvan de naam op ‘.deb’ eindigt.</translation>
+    </message>
+    <message>
+        <source>There is no space left for it in %1.</source>
+        <translation>In %1 is geen ruimte meer vrij voor deze update.</translation>
+    </message>
+    <message>
+        <source>The archive is damaged, or refused for what it holds.</source>
+        <translation>Het archief is beschadigd of vanwege de inhoud geweigerd.</translation>
+    </message>
+    <message>
+        <source>No archive is left to install.</source>
+        <translation>Er is geen archief meer over om te installeren.</translation>
+    </message>
+    <message>
+        <source>There is no installer for &apos;%1&apos;</source>
+        <translation>Er is geen installatieprogramma voor ‘%1’</translation>
+    </message>
+    <message>
+        <source>It cannot be installed together with the others.</source>
+        <translation>Deze update kan niet samen met de andere worden geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>The service pack before it was not installed.</source>
+        <translation>Het voorafgaande servicepack is niet geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>Could not enter the temporary directory &apos;%1&apos;</source>
+        <translation>Kan de tijdelijke map ‘%1’ niet openen</translation>
+    </message>
+    <message>
+        <source>Its download was ended.</source>
+        <translation>Het downloaden is beëindigd.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 still runs.</source>
+        <translation>De installatie die op %1 is gestart, loopt nog.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and ended without an error.</source>
+        <translation>De installatie die op %1 is gestart, ging zonder het bijbehorende programma verder en eindigde zonder fouten.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and failed with exit code %2.</source>
+        <translation>De installatie die op %1 is gestart, ging zonder het bijbehorende programma verder en mislukte met afsluitcode %2.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and was ended by signal %2.</source>
+        <translation>De installatie die op %1 is gestart, ging zonder het bijbehorende programma verder en werd door signaal %2 beëindigd.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 was interrupted. How it ended is not known.</source>
+        <translation>De installatie die op %1 is gestart, is onderbroken. Hoe deze is geëindigd, is niet bekend.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by another process.</source>
+        <translation>De pakketdatabase is vergrendeld door een ander proces.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by process %1.</source>
+        <translation>De pakketdatabase is vergrendeld door proces %1.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by %1 (process %2).</source>
+        <translation>De pakketdatabase is vergrendeld door %1 (proces %2).</translation>
+    </message>
+    <message>
+        <source>This user may not install updates: &apos;%1&apos; cannot be changed.</source>
+        <translation>Deze gebruiker mag geen updates installeren: ‘%1’ kan niet worden gewijzigd.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos;, which installs the updates, is missing.</source>
+        <translation>Het programma ‘%1’, dat de updates installeert, ontbreekt.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is read-only, and the program &apos;%2&apos;, which unlocks the system, is missing.</source>
+        <translation>‘%1’ is alleen-lezen en het programma ‘%2’, dat het systeem ontgrendelt, ontbreekt.</translation>
+    </message>
+    <message>
+        <source>An earlier installation of packages was interrupted and has to be repaired first (%1).</source>
+        <translation>Een eerdere installatie van pakketten is onderbroken en moet eerst worden hersteld (%1).</translation>
+    </message>
+    <message>
+        <source>An earlier installation of packages was interrupted and has to be repaired first.</source>
+        <translation>Een eerdere installatie van pakketten is onderbroken en moet eerst worden hersteld.</translation>
+    </message>
+    <message>
+        <source>An earlier installation is still under way.</source>
+        <translation>Er is nog een eerdere installatie bezig.</translation>
+    </message>
+    <message>
+        <source>Another installation is under way: %1 (process %2).</source>
+        <translation>Er is een andere installatie bezig: %1 (proces %2).</translation>
+    </message>
+    <message>
+        <source>Installation cancelled</source>
+        <translation>Installatie geannuleerd</translation>
+    </message>
+    <message>
+        <source>The image will be installed at the restart</source>
+        <translation>De image wordt bij de herstart geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>Installation failed</source>
+        <translation>Installatie mislukt</translation>
+    </message>
+    <message>
+        <source>Installed, but the system cannot confirm it</source>
+        <translation>Geïnstalleerd, maar het systeem kan dit niet bevestigen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n updates installed</source>
+        <translation>
+            <numerusform>%1 van %n update geïnstalleerd</numerusform>
+            <numerusform>%1 van %n updates geïnstalleerd</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 update installed</source>
+        <translation>1 update geïnstalleerd</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updates installed</source>
+        <translation>
+            <numerusform>%n update geïnstalleerd</numerusform>
+            <numerusform>%n updates geïnstalleerd</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The installer was ended by a signal.</source>
+        <translation>Het installatieprogramma is door een signaal beëindigd.</translation>
+    </message>
+    <message>
+        <source>The installer ended with exit code %1.</source>
+        <translation>Het installatieprogramma is geëindigd met afsluitcode %1.</translation>
+    </message>
+    <message>
+        <source>The package database cannot be read.</source>
+        <translation>De pakketdatabase kan niet worden gelezen.</translation>
+    </message>
+    <message>
+        <source>The system does not have it.</source>
+        <translation>Het pakket is niet aanwezig op het systeem.</translation>
+    </message>
+    <message>
+        <source>It is unpacked, but not configured.</source>
+        <translation>Het pakket is uitgepakt, maar niet geconfigureerd.</translation>
+    </message>
+    <message>
+        <source>The system has version %1.</source>
+        <translation>Het systeem heeft versie %1.</translation>
+    </message>
+    <message>
+        <source>The installer left the installed package as it was.</source>
+        <translation>Het installatieprogramma heeft het geïnstalleerde pakket ongewijzigd gelaten.</translation>
+    </message>
+    <message>
+        <source>It was in the list of installed service packs before.</source>
+        <translation>Dit servicepack stond al eerder in de lijst met geïnstalleerde servicepacks.</translation>
+    </message>
+    <message>
+        <source>This system has no list of installed service packs.</source>
+        <translation>Dit systeem heeft geen lijst met geïnstalleerde servicepacks.</translation>
+    </message>
+    <message>
+        <source>It is not in the list of installed service packs.</source>
+        <translation>Dit servicepack staat niet in de lijst met geïnstalleerde servicepacks.</translation>
+    </message>
+</context>
+<context>
     <name>RVTrustTexts</name>
     <message>
         <source>Signed by %1, valid until %2</source>
         <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
         <translation>Ondertekend door %1, geldig tot en met %2</translation>
-    </message>
-    <message>
-        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
-        <translation>Hier kan niets worden opgeslagen: een oude staat van de repository wordt niet opgemerkt.</translation>
     </message>
     <message>
         <source>Not signed: whoever controls the server controls what is installed</source>
@@ -591,28 +1279,32 @@
         <translation>Alleen bestanden die de uitgever in de lijst heeft opgenomen en ondertekend, worden aangeboden en geïnstalleerd.</translation>
     </message>
     <message>
-        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
-        <translation>De definitie van deze sectie vraagt niet om een ondertekening. De uitgever van de repository kan deze ondertekenen.</translation>
-    </message>
-    <message>
         <source>This device cannot check the signature of the repository.</source>
         <translation>Dit apparaat kan de ondertekening van de repository niet controleren.</translation>
-    </message>
-    <message>
-        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
-        <translation>De ondertekening van de repository is nu niet geldig, of de klok van dit apparaat loopt niet goed.</translation>
     </message>
     <message>
         <source>The repository is not what its publisher signed.</source>
         <translation>De repository is niet wat de uitgever heeft ondertekend.</translation>
     </message>
     <message>
-        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
-        <translation>De image wordt één keer gelezen en vergeleken met de lijst van de repository. Zo wordt beschadiging gevonden. Na de herstart haalt het apparaat de image opnieuw op en controleert het niets: een kwaadwillende server kan dan een andere geven.</translation>
-    </message>
-    <message>
         <source>The list of the repository&apos;s files, or its signature, is missing.</source>
         <translation>De lijst met bestanden van de repository of de ondertekening ervan ontbreekt.</translation>
+    </message>
+    <message>
+        <source>This device cannot remember the newest list, so it would not notice an outdated one.</source>
+        <translation>Dit apparaat kan de nieuwste lijst niet onthouden en zou een verouderde lijst dus niet opmerken.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not require a signature. The publisher can sign the repository.</source>
+        <translation>De definitie van deze sectie vereist geen ondertekening. De uitgever kan de repository ondertekenen.</translation>
+    </message>
+    <message>
+        <source>The repository&apos;s signature is not currently valid, or this device&apos;s clock is wrong.</source>
+        <translation>De ondertekening van de repository is momenteel niet geldig, of de klok van dit apparaat staat verkeerd.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the repository&apos;s list, which reveals damage. After the restart, the device fetches the image again and checks nothing: a hostile server can then deliver another one.</source>
+        <translation>De image wordt één keer gelezen en met de lijst van de repository vergeleken, waardoor beschadigingen aan het licht komen. Na de herstart haalt het apparaat de image opnieuw op en controleert het niets: een kwaadwillende server kan dan een andere leveren.</translation>
     </message>
 </context>
 <context>
@@ -692,6 +1384,11 @@ versie</translation>
         <comment>small word for &apos;not currently installed&apos;</comment>
         <translation>geen</translation>
     </message>
+    <message>
+        <source>not configured</source>
+        <comment>small words for &apos;its installation was not completed&apos;</comment>
+        <translation>niet geconfigureerd</translation>
+    </message>
 </context>
 <context>
     <name>XFtp</name>
@@ -706,10 +1403,6 @@ versie</translation>
     <message>
         <source>Not connected to an FTP server</source>
         <translation>Niet verbonden met een FTP-server</translation>
-    </message>
-    <message>
-        <source>The server names no port for the data connection</source>
-        <translation>De server noemt geen poort voor de dataverbinding</translation>
     </message>
     <message>
         <source>The data connection cannot be opened: %1</source>
@@ -752,16 +1445,20 @@ versie</translation>
         <translation>De server spreekt geen FTP</translation>
     </message>
     <message>
-        <source>The server&apos;s answer is out of place: %1</source>
-        <translation>Onverwacht antwoord van de server: %1</translation>
-    </message>
-    <message>
         <source>The server asks for an account, which is not supported</source>
         <translation>De server vraagt om een account, wat niet wordt ondersteund</translation>
     </message>
     <message>
         <source>The server answers %1</source>
         <translation>De server antwoordt %1</translation>
+    </message>
+    <message>
+        <source>The server gave no port for the data connection</source>
+        <translation>De server heeft geen poort voor de dataverbinding opgegeven</translation>
+    </message>
+    <message>
+        <source>Unexpected answer from the server: %1</source>
+        <translation>Onverwacht antwoord van de server: %1</translation>
     </message>
 </context>
 </TS>

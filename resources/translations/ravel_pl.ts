@@ -27,10 +27,6 @@
         <translation>Pokaż szczegóły</translation>
     </message>
     <message>
-        <source>Shows what the installer writes.</source>
-        <translation>Pokazuje, co wypisuje instalator.</translation>
-    </message>
-    <message>
         <source>Installer output</source>
         <translation>Wyjście instalatora</translation>
     </message>
@@ -75,6 +71,47 @@
     <message>
         <source>Unknown process error.</source>
         <translation>Nieznany błąd procesu.</translation>
+    </message>
+    <message>
+        <source>Shows the installer&apos;s output.</source>
+        <translation>Pokazuje wyjście instalatora.</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Wyniki</translation>
+    </message>
+    <message>
+        <source>%1 %2: %3</source>
+        <comment>An update, its version, and how it ended.</comment>
+        <translation>%1 %2: %3</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>zainstalowana</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>nieudana</translation>
+    </message>
+    <message>
+        <source>will be installed at the restart</source>
+        <translation>zostanie zainstalowana przy ponownym uruchomieniu</translation>
+    </message>
+    <message>
+        <source>installed, but the system cannot confirm it</source>
+        <translation>zainstalowana, ale system nie może tego potwierdzić</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>pominięta</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>nie próbowano</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>anulowana</translation>
     </message>
 </context>
 <context>
@@ -493,6 +530,114 @@
     </message>
 </context>
 <context>
+    <name>RVHistoryDialog</name>
+    <message>
+        <source>not ended</source>
+        <translation>niezakończona</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>zainstalowana</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>nieudana</translation>
+    </message>
+    <message>
+        <source>will be installed at the restart</source>
+        <translation>zostanie zainstalowana przy ponownym uruchomieniu</translation>
+    </message>
+    <message>
+        <source>installed, not confirmed</source>
+        <translation>zainstalowana, niepotwierdzona</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>pominięta</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>nie próbowano</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>anulowana</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>nieznany</translation>
+    </message>
+    <message>
+        <source>Installation History</source>
+        <translation>Historia instalacji</translation>
+    </message>
+    <message>
+        <source>Installed updates</source>
+        <translation>Zainstalowane aktualizacje</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Czas</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualizacja</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Z wersji</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Do wersji</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Wynik</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Użytkownik</translation>
+    </message>
+    <message>
+        <source>Only the newest entries are shown.</source>
+        <translation>Pokazano tylko najnowsze wpisy.</translation>
+    </message>
+    <message>
+        <source>Some entries are damaged and cannot be shown.</source>
+        <translation>Niektóre wpisy są uszkodzone i nie można ich pokazać.</translation>
+    </message>
+</context>
+<context>
+    <name>RVHistoryLink</name>
+    <message>
+        <source>Installation &amp;history</source>
+        <translation>&amp;Historia instalacji</translation>
+    </message>
+</context>
+<context>
+    <name>RVInstallGate</name>
+    <message numerus="yes">
+        <source>Waiting for %n more second(s)...</source>
+        <translation>
+            <numerusform>Oczekiwanie jeszcze przez %n sekundę…</numerusform>
+            <numerusform>Oczekiwanie jeszcze przez %n sekundy…</numerusform>
+            <numerusform>Oczekiwanie jeszcze przez %n sekund…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Repairing the package database...</source>
+        <translation>Naprawianie bazy danych pakietów…</translation>
+    </message>
+</context>
+<context>
+    <name>RVLastRun</name>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+</context>
+<context>
     <name>RVMainPage</name>
     <message>
         <source>Ravel</source>
@@ -509,6 +654,29 @@
     <message>
         <source>&lt;p&gt;&lt;b&gt;Ravel&lt;/b&gt; enables the installation of:&lt;ol&gt;  &lt;li&gt;Full software images&lt;/li&gt;  &lt;li&gt;Bundled software service packs&lt;/li&gt;  &lt;li&gt;Individual package updates&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;To customize Ravel, repository locations can be set to look for data in CV&apos;s standard update sites, company or site-specific repositories, or even local storage.&lt;/p&gt;</source>
         <translation>&lt;p&gt;&lt;b&gt;Ravel&lt;/b&gt; umożliwia instalację:&lt;ol&gt;  &lt;li&gt;pełnych obrazów oprogramowania&lt;/li&gt;  &lt;li&gt;zbiorczych dodatków Service Pack&lt;/li&gt;  &lt;li&gt;aktualizacji pojedynczych pakietów&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;Program Ravel można dostosować: repozytoria mogą wskazywać standardowe witryny aktualizacji CV, repozytoria firmowe lub lokalizacji, a nawet pamięć lokalną.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>RVObstacleBox</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Ponów</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>Napraw</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>The repair did not succeed. These packages can be removed. To install them again instead, cancel and select them.</source>
+        <translation>Naprawa nie powiodła się. Można usunąć te pakiety. Aby zamiast tego zainstalować je ponownie, należy anulować i je zaznaczyć.</translation>
     </message>
 </context>
 <context>
@@ -565,15 +733,538 @@
     </message>
 </context>
 <context>
+    <name>RVSentence</name>
+    <message>
+        <source>%1 cannot be read back: %2</source>
+        <translation>Nie można ponownie odczytać pliku %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 does not hold what was written to it.</source>
+        <translation>Plik %1 nie zawiera tego, co w nim zapisano.</translation>
+    </message>
+    <message>
+        <source>Only an administrator may install on this system.</source>
+        <translation>Tylko administrator może instalować oprogramowanie w tym systemie.</translation>
+    </message>
+    <message>
+        <source>Start the program as root.</source>
+        <translation>Należy uruchomić program jako root.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is not installed.</source>
+        <translation>Pakiet %1 wymaga pakietu %2, który nie jest zainstalowany.</translation>
+    </message>
+    <message>
+        <source>Install %2 first, or together with %1.</source>
+        <translation>Należy najpierw zainstalować pakiet %2 lub zainstalować go razem z pakietem %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, but version %3 is installed.</source>
+        <translation>Pakiet %1 wymaga pakietu %2, ale zainstalowana jest wersja %3.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is not configured.</source>
+        <translation>Pakiet %1 wymaga pakietu %2, który nie jest skonfigurowany.</translation>
+    </message>
+    <message>
+        <source>Install %2 again first.</source>
+        <translation>Należy najpierw ponownie zainstalować pakiet %2.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is only partly installed.</source>
+        <translation>Pakiet %1 wymaga pakietu %2, który jest zainstalowany tylko częściowo.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be installed beside %2.</source>
+        <translation>Pakietu %1 nie można zainstalować obok pakietu %2.</translation>
+    </message>
+    <message>
+        <source>Install only one of the two, or remove one first.</source>
+        <translation>Należy zainstalować tylko jeden z nich lub najpierw usunąć drugi.</translation>
+    </message>
+    <message>
+        <source>%1 would make the installed %2 unusable.</source>
+        <translation>Pakiet %1 uniemożliwiłby działanie zainstalowanego pakietu %2.</translation>
+    </message>
+    <message>
+        <source>Update or remove %2 first.</source>
+        <translation>Należy najpierw zaktualizować lub usunąć pakiet %2.</translation>
+    </message>
+    <message>
+        <source>The package contains &apos;%1&apos;, which belongs to %2.</source>
+        <translation>Pakiet zawiera plik „%1”, który należy do pakietu %2.</translation>
+    </message>
+    <message>
+        <source>Update or remove %2 first, or ask the publisher for a corrected package.</source>
+        <translation>Należy najpierw zaktualizować lub usunąć pakiet %2 albo poprosić wydawcę o poprawiony pakiet.</translation>
+    </message>
+    <message>
+        <source>There is no space left on the disk.</source>
+        <translation>Na dysku nie ma już wolnego miejsca.</translation>
+    </message>
+    <message>
+        <source>Free some space, then try again.</source>
+        <translation>Należy zwolnić miejsce i spróbować ponownie.</translation>
+    </message>
+    <message>
+        <source>The system is read-only.</source>
+        <translation>System jest tylko do odczytu.</translation>
+    </message>
+    <message>
+        <source>Make it writable, then try again.</source>
+        <translation>Należy umożliwić zapis i spróbować ponownie.</translation>
+    </message>
+    <message>
+        <source>The system is read-only, and &apos;%1&apos; did not change that.</source>
+        <translation>System jest tylko do odczytu, a program „%1” tego nie zmienił.</translation>
+    </message>
+    <message>
+        <source>Run &apos;%1&apos; to see why, then try again.</source>
+        <translation>Należy uruchomić program „%1”, aby poznać przyczynę, i spróbować ponownie.</translation>
+    </message>
+    <message>
+        <source>The system does not allow &apos;%1&apos; to be changed.</source>
+        <translation>System nie zezwala na zmianę pliku „%1”.</translation>
+    </message>
+    <message>
+        <source>Check the attributes of that file, then try again.</source>
+        <translation>Należy sprawdzić atrybuty tego pliku i spróbować ponownie.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; is not complete.</source>
+        <translation>Plik pakietu „%1” jest niekompletny.</translation>
+    </message>
+    <message>
+        <source>Try again; if it happens again, the file in the repository is damaged.</source>
+        <translation>Należy spróbować ponownie; jeśli błąd się powtórzy, plik w repozytorium jest uszkodzony.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; is damaged.</source>
+        <translation>Plik pakietu „%1” jest uszkodzony.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a Debian package.</source>
+        <translation>Plik „%1” nie jest pakietem Debiana.</translation>
+    </message>
+    <message>
+        <source>Ask the administrator of the repository to replace it.</source>
+        <translation>Należy poprosić administratora repozytorium o wymianę tego pliku.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; has a format that this system cannot read.</source>
+        <translation>Plik pakietu „%1” ma format, którego ten system nie może odczytać.</translation>
+    </message>
+    <message>
+        <source>Update dpkg first, or ask the publisher for a package for this system.</source>
+        <translation>Należy najpierw zaktualizować program dpkg lub poprosić wydawcę o pakiet dla tego systemu.</translation>
+    </message>
+    <message>
+        <source>The control data of &apos;%1&apos; are wrong.</source>
+        <translation>Dane kontrolne pliku „%1” są nieprawidłowe.</translation>
+    </message>
+    <message>
+        <source>Ask the publisher for a corrected package.</source>
+        <translation>Należy poprosić wydawcę o poprawiony pakiet.</translation>
+    </message>
+    <message>
+        <source>The package is for %1, but this system is %2.</source>
+        <translation>Pakiet jest przeznaczony dla architektury %1, a ten system ma architekturę %2.</translation>
+    </message>
+    <message>
+        <source>Install the package for %2.</source>
+        <translation>Należy zainstalować pakiet dla architektury %2.</translation>
+    </message>
+    <message>
+        <source>Version %2 of %1 is installed, which is newer than %3.</source>
+        <translation>Zainstalowana jest wersja %2 pakietu %1, nowsza niż %3.</translation>
+    </message>
+    <message>
+        <source>Remove %1 first if you want the older version.</source>
+        <translation>Aby używać starszej wersji, należy najpierw usunąć pakiet %1.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 failed with exit code %3.</source>
+        <translation>Skrypt „%2” pakietu %1 zakończył się błędem z kodem wyjścia %3.</translation>
+    </message>
+    <message>
+        <source>The installer&apos;s output may say why; if not, ask the publisher of %1.</source>
+        <translation>Wyjście instalatora może podawać przyczynę; jeśli nie, należy zwrócić się do wydawcy pakietu %1.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 was ended by a signal (%3).</source>
+        <translation>Skrypt „%2” pakietu %1 został zakończony przez sygnał (%3).</translation>
+    </message>
+    <message>
+        <source>Try again; if it happens again, ask the publisher of %1.</source>
+        <translation>Należy spróbować ponownie, a jeśli błąd się powtórzy, zwrócić się do wydawcy pakietu %1.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 may not be run where it lies.</source>
+        <translation>Skryptu „%2” pakietu %1 nie wolno uruchomić w miejscu, w którym się znajduje.</translation>
+    </message>
+    <message>
+        <source>Check whether the file system of &apos;%3&apos; is mounted with &apos;noexec&apos;.</source>
+        <translation>Należy sprawdzić, czy system plików katalogu „%3” jest zamontowany z opcją „noexec”.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 cannot be run, since its interpreter is missing.</source>
+        <translation>Nie można uruchomić skryptu „%2” pakietu %1, ponieważ brakuje jego interpretera.</translation>
+    </message>
+    <message>
+        <source>Install the program that the script&apos;s first line names, or ask the publisher of %1.</source>
+        <translation>Należy zainstalować program podany w pierwszym wierszu skryptu lub zwrócić się do wydawcy pakietu %1.</translation>
+    </message>
+    <message>
+        <source>A trigger of %1 failed with exit code %2.</source>
+        <translation>Wyzwalacz pakietu %1 zakończył się błędem z kodem wyjścia %2.</translation>
+    </message>
+    <message>
+        <source>Install %1 again; the installer&apos;s output may say why its trigger failed.</source>
+        <translation>Należy ponownie zainstalować pakiet %1; wyjście instalatora może podawać, dlaczego jego wyzwalacz zawiódł.</translation>
+    </message>
+    <message>
+        <source>%1 is only partly installed.</source>
+        <translation>Pakiet %1 jest zainstalowany tylko częściowo.</translation>
+    </message>
+    <message>
+        <source>Install %1 again.</source>
+        <translation>Należy ponownie zainstalować pakiet %1.</translation>
+    </message>
+    <message>
+        <source>The installer gave up after too many errors.</source>
+        <translation>Instalator przerwał pracę z powodu zbyt wielu błędów.</translation>
+    </message>
+    <message>
+        <source>Install fewer packages at a time.</source>
+        <translation>Należy instalować mniej pakietów naraz.</translation>
+    </message>
+    <message>
+        <source>The package database is damaged: &apos;%1&apos; cannot be read.</source>
+        <translation>Baza danych pakietów jest uszkodzona: nie można odczytać „%1”.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to restore the package database from a copy.</source>
+        <translation>Należy poprosić administratora o przywrócenie bazy danych pakietów z kopii.</translation>
+    </message>
+    <message>
+        <source>The package database names &apos;%1&apos;, whom this system does not know.</source>
+        <translation>Baza danych pakietów zawiera nazwę „%1”, a ten system nie zna takiego użytkownika ani grupy.</translation>
+    </message>
+    <message>
+        <source>Add that user or group, or remove the entry with dpkg-statoverride.</source>
+        <translation>Należy dodać tego użytkownika lub grupę albo usunąć wpis za pomocą programu dpkg-statoverride.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos; is missing.</source>
+        <translation>Brakuje programu „%1”.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to install it, then try again.</source>
+        <translation>Należy poprosić administratora o jego zainstalowanie i spróbować ponownie.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos; cannot be run.</source>
+        <translation>Nie można uruchomić programu „%1”.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to repair it, then try again.</source>
+        <translation>Należy poprosić administratora o jego naprawienie i spróbować ponownie.</translation>
+    </message>
+    <message>
+        <source>No package reached the installer.</source>
+        <translation>Do instalatora nie dotarł żaden pakiet.</translation>
+    </message>
+    <message>
+        <source>Try again.</source>
+        <translation>Należy spróbować ponownie.</translation>
+    </message>
+    <message>
+        <source>The installer was ended by a signal (%1).</source>
+        <translation>Instalator został zakończony przez sygnał (%1).</translation>
+    </message>
+    <message>
+        <source>Try again; the system may have been short of memory, or shut down.</source>
+        <translation>Należy spróbować ponownie; być może w systemie zabrakło pamięci lub system był zamykany.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; is missing.</source>
+        <translation>Brakuje instalatora „%1”.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; is not executable.</source>
+        <translation>Instalator „%1” nie jest plikiem wykonywalnym.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to correct its permissions.</source>
+        <translation>Należy poprosić administratora o poprawienie jego uprawnień.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; failed with exit code %2.</source>
+        <translation>Instalator „%1” zakończył się błędem z kodem wyjścia %2.</translation>
+    </message>
+    <message>
+        <source>The installer&apos;s output may say why.</source>
+        <translation>Wyjście instalatora może podawać przyczynę.</translation>
+    </message>
+    <message>
+        <source>The system could not be restarted, so the image is not installed.</source>
+        <translation>Nie udało się uruchomić systemu ponownie, więc obraz nie jest zainstalowany.</translation>
+    </message>
+    <message>
+        <source>Find out why &apos;%1&apos; fails, then try again.</source>
+        <translation>Należy ustalić, dlaczego program „%1” zawodzi, i spróbować ponownie.</translation>
+    </message>
+    <message>
+        <source>The cause is not known, and the installer wrote nothing.</source>
+        <translation>Przyczyna nie jest znana, a instalator niczego nie wypisał.</translation>
+    </message>
+    <message>
+        <source>The cause is not known; the installer says: %1</source>
+        <translation>Przyczyna nie jest znana; komunikat instalatora: %1</translation>
+    </message>
+    <message>
+        <source>Wait until that program has ended, then try again.</source>
+        <translation>Należy zaczekać na zakończenie tego programu i spróbować ponownie.</translation>
+    </message>
+    <message>
+        <source>It could not be downloaded: %1</source>
+        <translation>Nie udało się pobrać aktualizacji: %1</translation>
+    </message>
+    <message>
+        <source>Not enough space in &apos;%1&apos;: %2 needed, %3 free.</source>
+        <translation>Za mało miejsca w „%1”: potrzeba %2, wolne %3.</translation>
+    </message>
+    <message>
+        <source>The program was ended before the installation was over.</source>
+        <translation>Program został zakończony przed ukończeniem instalacji.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid, and was accepted here. After the restart the device may refuse it, and then it gets no image.</source>
+        <translation>Certyfikat serwera %1 jest nieprawidłowy, ale został tutaj zaakceptowany. Po ponownym uruchomieniu urządzenie może go odrzucić i wtedy nie otrzyma obrazu.</translation>
+    </message>
+    <message>
+        <source>The image is not there.</source>
+        <translation>Nie ma tam obrazu.</translation>
+    </message>
+    <message>
+        <source>The server wants a login for the image. The device has none but the one in the repository&apos;s location.</source>
+        <translation>Serwer wymaga zalogowania, aby pobrać obraz. Urządzenie ma tylko dane logowania zawarte w położeniu repozytorium.</translation>
+    </message>
+    <message>
+        <source>The proxy wants a login, which the device does not have.</source>
+        <translation>Serwer pośredniczący wymaga danych logowania, których urządzenie nie ma.</translation>
+    </message>
+    <message>
+        <source>The server has no image there: it answers %1.</source>
+        <translation>Na serwerze nie ma tam obrazu: serwer odpowiada %1.</translation>
+    </message>
+    <message>
+        <source>The image cannot be read: %1</source>
+        <translation>Nie można odczytać obrazu: %1</translation>
+    </message>
+    <message>
+        <source>The image is empty.</source>
+        <translation>Obraz jest pusty.</translation>
+    </message>
+    <message>
+        <source>There is a page in place of the image.</source>
+        <translation>Zamiast obrazu znajduje się tam strona internetowa.</translation>
+    </message>
+    <message>
+        <source>The file is no image: it is not packed by gzip.</source>
+        <translation>Plik nie jest obrazem: nie jest skompresowany programem gzip.</translation>
+    </message>
+    <message>
+        <source>The image has %1 bytes. Its description says %2.</source>
+        <translation>Rozmiar obrazu w bajtach: %1. Jego opis podaje %2.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; cannot be started: %2</source>
+        <translation>Nie można uruchomić instalatora „%1”: %2</translation>
+    </message>
+    <message>
+        <source>The package is damaged or not complete.</source>
+        <translation>Pakiet jest uszkodzony lub niekompletny.</translation>
+    </message>
+    <message>
+        <source>The installer takes only files whose name ends in &apos;.deb&apos;.</source>
+        <translation>Instalator przyjmuje tylko pliki o nazwach kończących się na „.deb”.</translation>
+    </message>
+    <message>
+        <source>There is no space left for it in %1.</source>
+        <translation>W katalogu %1 nie ma już wolnego miejsca na tę aktualizację.</translation>
+    </message>
+    <message>
+        <source>The archive is damaged, or refused for what it holds.</source>
+        <translation>Archiwum jest uszkodzone lub zostało odrzucone ze względu na zawartość.</translation>
+    </message>
+    <message>
+        <source>No archive is left to install.</source>
+        <translation>Nie pozostało żadne archiwum do zainstalowania.</translation>
+    </message>
+    <message>
+        <source>There is no installer for &apos;%1&apos;</source>
+        <translation>Brak instalatora dla „%1”</translation>
+    </message>
+    <message>
+        <source>It cannot be installed together with the others.</source>
+        <translation>Tej aktualizacji nie można zainstalować razem z pozostałymi.</translation>
+    </message>
+    <message>
+        <source>The service pack before it was not installed.</source>
+        <translation>Poprzedni dodatek Service Pack nie został zainstalowany.</translation>
+    </message>
+    <message>
+        <source>Could not enter the temporary directory &apos;%1&apos;</source>
+        <translation>Nie udało się przejść do katalogu tymczasowego „%1”</translation>
+    </message>
+    <message>
+        <source>Its download was ended.</source>
+        <translation>Pobieranie zostało zakończone.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 still runs.</source>
+        <translation>Instalacja rozpoczęta %1 nadal trwa.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and ended without an error.</source>
+        <translation>Instalacja rozpoczęta %1 trwała dalej bez swojego programu i zakończyła się bez błędów.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and failed with exit code %2.</source>
+        <translation>Instalacja rozpoczęta %1 trwała dalej bez swojego programu i zakończyła się błędem z kodem wyjścia %2.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and was ended by signal %2.</source>
+        <translation>Instalacja rozpoczęta %1 trwała dalej bez swojego programu i została zakończona przez sygnał %2.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 was interrupted. How it ended is not known.</source>
+        <translation>Instalacja rozpoczęta %1 została przerwana. Nie wiadomo, jak się zakończyła.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by another process.</source>
+        <translation>Baza danych pakietów jest zablokowana przez inny proces.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by process %1.</source>
+        <translation>Baza danych pakietów jest zablokowana przez proces %1.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by %1 (process %2).</source>
+        <translation>Baza danych pakietów jest zablokowana przez program %1 (proces %2).</translation>
+    </message>
+    <message>
+        <source>This user may not install updates: &apos;%1&apos; cannot be changed.</source>
+        <translation>Ten użytkownik nie może instalować aktualizacji: nie można zmienić „%1”.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos;, which installs the updates, is missing.</source>
+        <translation>Brakuje programu „%1”, który instaluje aktualizacje.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is read-only, and the program &apos;%2&apos;, which unlocks the system, is missing.</source>
+        <translation>Katalog „%1” jest tylko do odczytu i brakuje programu „%2”, który odblokowuje system.</translation>
+    </message>
+    <message>
+        <source>An earlier installation of packages was interrupted and has to be repaired first (%1).</source>
+        <translation>Wcześniejsza instalacja pakietów została przerwana i trzeba ją najpierw naprawić (%1).</translation>
+    </message>
+    <message>
+        <source>An earlier installation of packages was interrupted and has to be repaired first.</source>
+        <translation>Wcześniejsza instalacja pakietów została przerwana i trzeba ją najpierw naprawić.</translation>
+    </message>
+    <message>
+        <source>An earlier installation is still under way.</source>
+        <translation>Wcześniejsza instalacja jeszcze trwa.</translation>
+    </message>
+    <message>
+        <source>Another installation is under way: %1 (process %2).</source>
+        <translation>Trwa inna instalacja: %1 (proces %2).</translation>
+    </message>
+    <message>
+        <source>Installation cancelled</source>
+        <translation>Instalacja anulowana</translation>
+    </message>
+    <message>
+        <source>The image will be installed at the restart</source>
+        <translation>Obraz zostanie zainstalowany przy ponownym uruchomieniu</translation>
+    </message>
+    <message>
+        <source>Installation failed</source>
+        <translation>Instalacja nie powiodła się</translation>
+    </message>
+    <message>
+        <source>Installed, but the system cannot confirm it</source>
+        <translation>Zainstalowano, ale system nie może tego potwierdzić</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n updates installed</source>
+        <translation>
+            <numerusform>Zainstalowano %1 z %n aktualizacji</numerusform>
+            <numerusform>Zainstalowano %1 z %n aktualizacji</numerusform>
+            <numerusform>Zainstalowano %1 z %n aktualizacji</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 update installed</source>
+        <translation>Zainstalowano 1 aktualizację</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updates installed</source>
+        <translation>
+            <numerusform>Zainstalowano %n aktualizację</numerusform>
+            <numerusform>Zainstalowano %n aktualizacje</numerusform>
+            <numerusform>Zainstalowano %n aktualizacji</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The installer was ended by a signal.</source>
+        <translation>Instalator został zakończony przez sygnał.</translation>
+    </message>
+    <message>
+        <source>The installer ended with exit code %1.</source>
+        <translation>Instalator zakończył pracę z kodem wyjścia %1.</translation>
+    </message>
+    <message>
+        <source>The package database cannot be read.</source>
+        <translation>Nie można odczytać bazy danych pakietów.</translation>
+    </message>
+    <message>
+        <source>The system does not have it.</source>
+        <translation>W systemie nie ma tego pakietu.</translation>
+    </message>
+    <message>
+        <source>It is unpacked, but not configured.</source>
+        <translation>Pakiet jest rozpakowany, ale nieskonfigurowany.</translation>
+    </message>
+    <message>
+        <source>The system has version %1.</source>
+        <translation>W systemie jest wersja %1.</translation>
+    </message>
+    <message>
+        <source>The installer left the installed package as it was.</source>
+        <translation>Instalator pozostawił zainstalowany pakiet bez zmian.</translation>
+    </message>
+    <message>
+        <source>It was in the list of installed service packs before.</source>
+        <translation>Ten dodatek był już wcześniej na liście zainstalowanych dodatków Service Pack.</translation>
+    </message>
+    <message>
+        <source>This system has no list of installed service packs.</source>
+        <translation>Ten system nie ma listy zainstalowanych dodatków Service Pack.</translation>
+    </message>
+    <message>
+        <source>It is not in the list of installed service packs.</source>
+        <translation>Tego dodatku nie ma na liście zainstalowanych dodatków Service Pack.</translation>
+    </message>
+</context>
+<context>
     <name>RVTrustTexts</name>
     <message>
         <source>Signed by %1, valid until %2</source>
         <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
         <translation>Podpis: %1, ważny do %2</translation>
-    </message>
-    <message>
-        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
-        <translation>Nie można tu niczego zapisać: starszy stan repozytorium nie zostanie zauważony.</translation>
     </message>
     <message>
         <source>Not signed: whoever controls the server controls what is installed</source>
@@ -592,28 +1283,32 @@
         <translation>Oferowane i instalowane są tylko pliki, które wydawca umieścił na liście i podpisał.</translation>
     </message>
     <message>
-        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
-        <translation>Definicja tej sekcji nie wymaga podpisu. Wydawca repozytorium może je podpisać.</translation>
-    </message>
-    <message>
         <source>This device cannot check the signature of the repository.</source>
         <translation>To urządzenie nie może sprawdzić podpisu repozytorium.</translation>
-    </message>
-    <message>
-        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
-        <translation>Podpis repozytorium jest obecnie nieważny lub zegar tego urządzenia jest źle ustawiony.</translation>
     </message>
     <message>
         <source>The repository is not what its publisher signed.</source>
         <translation>Repozytorium nie jest tym, co podpisał jego wydawca.</translation>
     </message>
     <message>
-        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
-        <translation>Obraz jest odczytywany raz i porównywany z listą repozytorium. Pozwala to wykryć uszkodzenia. Po ponownym uruchomieniu urządzenie pobiera obraz jeszcze raz i niczego nie sprawdza: wrogi serwer może mu wtedy podać inny.</translation>
-    </message>
-    <message>
         <source>The list of the repository&apos;s files, or its signature, is missing.</source>
         <translation>Brakuje listy plików repozytorium lub jej podpisu.</translation>
+    </message>
+    <message>
+        <source>This device cannot remember the newest list, so it would not notice an outdated one.</source>
+        <translation>To urządzenie nie może zapamiętać najnowszej listy, więc nie zauważyłoby listy nieaktualnej.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not require a signature. The publisher can sign the repository.</source>
+        <translation>Definicja tej sekcji nie wymaga podpisu. Wydawca może podpisać repozytorium.</translation>
+    </message>
+    <message>
+        <source>The repository&apos;s signature is not currently valid, or this device&apos;s clock is wrong.</source>
+        <translation>Podpis repozytorium jest obecnie nieważny lub zegar tego urządzenia wskazuje błędny czas.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the repository&apos;s list, which reveals damage. After the restart, the device fetches the image again and checks nothing: a hostile server can then deliver another one.</source>
+        <translation>Obraz jest odczytywany raz i porównywany z listą repozytorium, co ujawnia uszkodzenia. Po ponownym uruchomieniu urządzenie pobiera obraz jeszcze raz i niczego nie sprawdza: wrogi serwer może wtedy dostarczyć inny.</translation>
     </message>
 </context>
 <context>
@@ -693,6 +1388,11 @@ dostępna</translation>
         <comment>small word for &apos;not currently installed&apos;</comment>
         <translation>brak</translation>
     </message>
+    <message>
+        <source>not configured</source>
+        <comment>small words for &apos;its installation was not completed&apos;</comment>
+        <translation>nieskonfigurowana</translation>
+    </message>
 </context>
 <context>
     <name>XFtp</name>
@@ -707,10 +1407,6 @@ dostępna</translation>
     <message>
         <source>Not connected to an FTP server</source>
         <translation>Brak połączenia z serwerem FTP</translation>
-    </message>
-    <message>
-        <source>The server names no port for the data connection</source>
-        <translation>Serwer nie podaje portu dla połączenia danych</translation>
     </message>
     <message>
         <source>The data connection cannot be opened: %1</source>
@@ -753,16 +1449,20 @@ dostępna</translation>
         <translation>Serwer nie obsługuje FTP</translation>
     </message>
     <message>
-        <source>The server&apos;s answer is out of place: %1</source>
-        <translation>Nieoczekiwana odpowiedź serwera: %1</translation>
-    </message>
-    <message>
         <source>The server asks for an account, which is not supported</source>
         <translation>Serwer wymaga konta, co nie jest obsługiwane</translation>
     </message>
     <message>
         <source>The server answers %1</source>
         <translation>Serwer odpowiada %1</translation>
+    </message>
+    <message>
+        <source>The server gave no port for the data connection</source>
+        <translation>Serwer nie podał portu dla połączenia danych</translation>
+    </message>
+    <message>
+        <source>Unexpected answer from the server: %1</source>
+        <translation>Nieoczekiwana odpowiedź serwera: %1</translation>
     </message>
 </context>
 </TS>

@@ -27,10 +27,6 @@
         <translation>Mostrar detalhes</translation>
     </message>
     <message>
-        <source>Shows what the installer writes.</source>
-        <translation>Mostra o que o instalador escreve.</translation>
-    </message>
-    <message>
         <source>Installer output</source>
         <translation>Saída do instalador</translation>
     </message>
@@ -75,6 +71,47 @@
     <message>
         <source>Unknown process error.</source>
         <translation>Erro desconhecido do processo.</translation>
+    </message>
+    <message>
+        <source>Shows the installer&apos;s output.</source>
+        <translation>Mostra a saída do instalador.</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Resultados</translation>
+    </message>
+    <message>
+        <source>%1 %2: %3</source>
+        <comment>An update, its version, and how it ended.</comment>
+        <translation>%1 %2: %3</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>instalada</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>falhou</translation>
+    </message>
+    <message>
+        <source>will be installed at the restart</source>
+        <translation>será instalada na reinicialização</translation>
+    </message>
+    <message>
+        <source>installed, but the system cannot confirm it</source>
+        <translation>instalada, mas o sistema não pode confirmar isso</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>ignorada</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>não tentada</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelada</translation>
     </message>
 </context>
 <context>
@@ -492,6 +529,113 @@
     </message>
 </context>
 <context>
+    <name>RVHistoryDialog</name>
+    <message>
+        <source>not ended</source>
+        <translation>não concluída</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>instalada</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>falhou</translation>
+    </message>
+    <message>
+        <source>will be installed at the restart</source>
+        <translation>será instalada na reinicialização</translation>
+    </message>
+    <message>
+        <source>installed, not confirmed</source>
+        <translation>instalada, não confirmada</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>ignorada</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>não tentada</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelada</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconhecido</translation>
+    </message>
+    <message>
+        <source>Installation History</source>
+        <translation>Histórico de instalação</translation>
+    </message>
+    <message>
+        <source>Installed updates</source>
+        <translation>Atualizações instaladas</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Atualização</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Da versão</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Para a versão</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuário</translation>
+    </message>
+    <message>
+        <source>Only the newest entries are shown.</source>
+        <translation>Somente as entradas mais recentes são mostradas.</translation>
+    </message>
+    <message>
+        <source>Some entries are damaged and cannot be shown.</source>
+        <translation>Algumas entradas estão danificadas e não podem ser mostradas.</translation>
+    </message>
+</context>
+<context>
+    <name>RVHistoryLink</name>
+    <message>
+        <source>Installation &amp;history</source>
+        <translation>&amp;Histórico de instalação</translation>
+    </message>
+</context>
+<context>
+    <name>RVInstallGate</name>
+    <message numerus="yes">
+        <source>Waiting for %n more second(s)...</source>
+        <translation>
+            <numerusform>Aguardando mais %n segundo…</numerusform>
+            <numerusform>Aguardando mais %n segundos…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Repairing the package database...</source>
+        <translation>Reparando o banco de dados de pacotes…</translation>
+    </message>
+</context>
+<context>
+    <name>RVLastRun</name>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
     <name>RVMainPage</name>
     <message>
         <source>Ravel</source>
@@ -508,6 +652,29 @@
     <message>
         <source>&lt;p&gt;&lt;b&gt;Ravel&lt;/b&gt; enables the installation of:&lt;ol&gt;  &lt;li&gt;Full software images&lt;/li&gt;  &lt;li&gt;Bundled software service packs&lt;/li&gt;  &lt;li&gt;Individual package updates&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;To customize Ravel, repository locations can be set to look for data in CV&apos;s standard update sites, company or site-specific repositories, or even local storage.&lt;/p&gt;</source>
         <translation>&lt;p&gt;O &lt;b&gt;Ravel&lt;/b&gt; permite instalar:&lt;ol&gt;  &lt;li&gt;Imagens de software completas&lt;/li&gt;  &lt;li&gt;Service packs de software&lt;/li&gt;  &lt;li&gt;Atualizações de pacotes individuais&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;Para personalizar o Ravel, os locais dos repositórios podem apontar para os sites de atualização padrão da CV, para repositórios da empresa ou da unidade ou até para um armazenamento local.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>RVObstacleBox</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Tentar novamente</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>Reparar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>The repair did not succeed. These packages can be removed. To install them again instead, cancel and select them.</source>
+        <translation>O reparo não teve êxito. Estes pacotes podem ser removidos. Se preferir instalá-los novamente, cancele e selecione-os.</translation>
     </message>
 </context>
 <context>
@@ -564,15 +731,536 @@
     </message>
 </context>
 <context>
+    <name>RVSentence</name>
+    <message>
+        <source>%1 cannot be read back: %2</source>
+        <translation>Não é possível reler %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 does not hold what was written to it.</source>
+        <translation>%1 não contém o que foi gravado nele.</translation>
+    </message>
+    <message>
+        <source>Only an administrator may install on this system.</source>
+        <translation>Somente um administrador pode fazer instalações neste sistema.</translation>
+    </message>
+    <message>
+        <source>Start the program as root.</source>
+        <translation>Inicie o programa como root.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is not installed.</source>
+        <translation>%1 requer %2, que não está instalado.</translation>
+    </message>
+    <message>
+        <source>Install %2 first, or together with %1.</source>
+        <translation>Instale %2 primeiro ou junto com %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, but version %3 is installed.</source>
+        <translation>%1 requer %2, mas a versão %3 está instalada.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is not configured.</source>
+        <translation>%1 requer %2, que não está configurado.</translation>
+    </message>
+    <message>
+        <source>Install %2 again first.</source>
+        <translation>Primeiro, instale %2 novamente.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is only partly installed.</source>
+        <translation>%1 requer %2, que está instalado apenas parcialmente.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be installed beside %2.</source>
+        <translation>%1 não pode ser instalado junto com %2.</translation>
+    </message>
+    <message>
+        <source>Install only one of the two, or remove one first.</source>
+        <translation>Instale apenas um dos dois ou remova o outro primeiro.</translation>
+    </message>
+    <message>
+        <source>%1 would make the installed %2 unusable.</source>
+        <translation>%1 tornaria inutilizável o pacote instalado %2.</translation>
+    </message>
+    <message>
+        <source>Update or remove %2 first.</source>
+        <translation>Atualize ou remova %2 primeiro.</translation>
+    </message>
+    <message>
+        <source>The package contains &apos;%1&apos;, which belongs to %2.</source>
+        <translation>O pacote contém “%1”, que pertence a %2.</translation>
+    </message>
+    <message>
+        <source>Update or remove %2 first, or ask the publisher for a corrected package.</source>
+        <translation>Atualize ou remova %2 primeiro, ou peça um pacote corrigido ao editor.</translation>
+    </message>
+    <message>
+        <source>There is no space left on the disk.</source>
+        <translation>Não há mais espaço livre no disco.</translation>
+    </message>
+    <message>
+        <source>Free some space, then try again.</source>
+        <translation>Libere espaço e tente novamente.</translation>
+    </message>
+    <message>
+        <source>The system is read-only.</source>
+        <translation>O sistema está em modo somente leitura.</translation>
+    </message>
+    <message>
+        <source>Make it writable, then try again.</source>
+        <translation>Habilite a gravação e tente novamente.</translation>
+    </message>
+    <message>
+        <source>The system is read-only, and &apos;%1&apos; did not change that.</source>
+        <translation>O sistema está em modo somente leitura, e “%1” não mudou isso.</translation>
+    </message>
+    <message>
+        <source>Run &apos;%1&apos; to see why, then try again.</source>
+        <translation>Execute “%1” para ver o motivo e tente novamente.</translation>
+    </message>
+    <message>
+        <source>The system does not allow &apos;%1&apos; to be changed.</source>
+        <translation>O sistema não permite que “%1” seja alterado.</translation>
+    </message>
+    <message>
+        <source>Check the attributes of that file, then try again.</source>
+        <translation>Verifique os atributos desse arquivo e tente novamente.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; is not complete.</source>
+        <translation>O arquivo de pacote “%1” não está completo.</translation>
+    </message>
+    <message>
+        <source>Try again; if it happens again, the file in the repository is damaged.</source>
+        <translation>Tente novamente; se o erro se repetir, o arquivo no repositório está danificado.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; is damaged.</source>
+        <translation>O arquivo de pacote “%1” está danificado.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a Debian package.</source>
+        <translation>O arquivo “%1” não é um pacote Debian.</translation>
+    </message>
+    <message>
+        <source>Ask the administrator of the repository to replace it.</source>
+        <translation>Peça ao administrador do repositório que o substitua.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; has a format that this system cannot read.</source>
+        <translation>O arquivo de pacote “%1” tem um formato que este sistema não consegue ler.</translation>
+    </message>
+    <message>
+        <source>Update dpkg first, or ask the publisher for a package for this system.</source>
+        <translation>Atualize o dpkg primeiro ou peça ao editor um pacote para este sistema.</translation>
+    </message>
+    <message>
+        <source>The control data of &apos;%1&apos; are wrong.</source>
+        <translation>Os dados de controle de “%1” estão incorretos.</translation>
+    </message>
+    <message>
+        <source>Ask the publisher for a corrected package.</source>
+        <translation>Peça um pacote corrigido ao editor.</translation>
+    </message>
+    <message>
+        <source>The package is for %1, but this system is %2.</source>
+        <translation>O pacote é para %1, mas este sistema é %2.</translation>
+    </message>
+    <message>
+        <source>Install the package for %2.</source>
+        <translation>Instale o pacote para %2.</translation>
+    </message>
+    <message>
+        <source>Version %2 of %1 is installed, which is newer than %3.</source>
+        <translation>A versão %2 de %1 está instalada e é mais recente que %3.</translation>
+    </message>
+    <message>
+        <source>Remove %1 first if you want the older version.</source>
+        <translation>Remova %1 primeiro se quiser a versão mais antiga.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 failed with exit code %3.</source>
+        <translation>O script “%2” de %1 falhou com o código de saída %3.</translation>
+    </message>
+    <message>
+        <source>The installer&apos;s output may say why; if not, ask the publisher of %1.</source>
+        <translation>A saída do instalador pode informar o motivo; caso contrário, consulte o editor de %1.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 was ended by a signal (%3).</source>
+        <translation>O script “%2” de %1 foi encerrado por um sinal (%3).</translation>
+    </message>
+    <message>
+        <source>Try again; if it happens again, ask the publisher of %1.</source>
+        <translation>Tente novamente; se o erro se repetir, consulte o editor de %1.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 may not be run where it lies.</source>
+        <translation>O script “%2” de %1 não pode ser executado no local em que está.</translation>
+    </message>
+    <message>
+        <source>Check whether the file system of &apos;%3&apos; is mounted with &apos;noexec&apos;.</source>
+        <translation>Verifique se o sistema de arquivos de “%3” está montado com “noexec”.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 cannot be run, since its interpreter is missing.</source>
+        <translation>O script “%2” de %1 não pode ser executado porque seu interpretador está ausente.</translation>
+    </message>
+    <message>
+        <source>Install the program that the script&apos;s first line names, or ask the publisher of %1.</source>
+        <translation>Instale o programa indicado na primeira linha do script ou consulte o editor de %1.</translation>
+    </message>
+    <message>
+        <source>A trigger of %1 failed with exit code %2.</source>
+        <translation>Um gatilho de %1 falhou com o código de saída %2.</translation>
+    </message>
+    <message>
+        <source>Install %1 again; the installer&apos;s output may say why its trigger failed.</source>
+        <translation>Instale %1 novamente; a saída do instalador pode informar por que o gatilho falhou.</translation>
+    </message>
+    <message>
+        <source>%1 is only partly installed.</source>
+        <translation>%1 está instalado apenas parcialmente.</translation>
+    </message>
+    <message>
+        <source>Install %1 again.</source>
+        <translation>Instale %1 novamente.</translation>
+    </message>
+    <message>
+        <source>The installer gave up after too many errors.</source>
+        <translation>O instalador desistiu após muitos erros.</translation>
+    </message>
+    <message>
+        <source>Install fewer packages at a time.</source>
+        <translation>Instale menos pacotes de cada vez.</translation>
+    </message>
+    <message>
+        <source>The package database is damaged: &apos;%1&apos; cannot be read.</source>
+        <translation>O banco de dados de pacotes está danificado: não é possível ler “%1”.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to restore the package database from a copy.</source>
+        <translation>Peça a um administrador que restaure o banco de dados de pacotes a partir de uma cópia.</translation>
+    </message>
+    <message>
+        <source>The package database names &apos;%1&apos;, whom this system does not know.</source>
+        <translation>O banco de dados de pacotes menciona “%1”, um usuário ou grupo que este sistema não conhece.</translation>
+    </message>
+    <message>
+        <source>Add that user or group, or remove the entry with dpkg-statoverride.</source>
+        <translation>Adicione esse usuário ou grupo ou remova a entrada com dpkg-statoverride.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos; is missing.</source>
+        <translation>O programa “%1” está ausente.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to install it, then try again.</source>
+        <translation>Peça a um administrador que o instale e tente novamente.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos; cannot be run.</source>
+        <translation>Não é possível executar o programa “%1”.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to repair it, then try again.</source>
+        <translation>Peça a um administrador que o repare e tente novamente.</translation>
+    </message>
+    <message>
+        <source>No package reached the installer.</source>
+        <translation>O instalador não recebeu nenhum pacote.</translation>
+    </message>
+    <message>
+        <source>Try again.</source>
+        <translation>Tente novamente.</translation>
+    </message>
+    <message>
+        <source>The installer was ended by a signal (%1).</source>
+        <translation>O instalador foi encerrado por um sinal (%1).</translation>
+    </message>
+    <message>
+        <source>Try again; the system may have been short of memory, or shut down.</source>
+        <translation>Tente novamente; o sistema pode ter ficado sem memória ou sido desligado.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; is missing.</source>
+        <translation>O instalador “%1” está ausente.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; is not executable.</source>
+        <translation>O instalador “%1” não é executável.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to correct its permissions.</source>
+        <translation>Peça a um administrador que corrija suas permissões.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; failed with exit code %2.</source>
+        <translation>O instalador “%1” falhou com o código de saída %2.</translation>
+    </message>
+    <message>
+        <source>The installer&apos;s output may say why.</source>
+        <translation>A saída do instalador pode informar o motivo.</translation>
+    </message>
+    <message>
+        <source>The system could not be restarted, so the image is not installed.</source>
+        <translation>Não foi possível reiniciar o sistema; por isso, a imagem não está instalada.</translation>
+    </message>
+    <message>
+        <source>Find out why &apos;%1&apos; fails, then try again.</source>
+        <translation>Descubra por que “%1” falha e tente novamente.</translation>
+    </message>
+    <message>
+        <source>The cause is not known, and the installer wrote nothing.</source>
+        <translation>A causa é desconhecida, e o instalador não informou nada.</translation>
+    </message>
+    <message>
+        <source>The cause is not known; the installer says: %1</source>
+        <translation>A causa é desconhecida; o instalador informa: %1</translation>
+    </message>
+    <message>
+        <source>Wait until that program has ended, then try again.</source>
+        <translation>Aguarde até que esse programa termine e tente novamente.</translation>
+    </message>
+    <message>
+        <source>It could not be downloaded: %1</source>
+        <translation>Não foi possível baixar a atualização: %1</translation>
+    </message>
+    <message>
+        <source>Not enough space in &apos;%1&apos;: %2 needed, %3 free.</source>
+        <translation>Espaço insuficiente em “%1”: %2 necessários, %3 livres.</translation>
+    </message>
+    <message>
+        <source>The program was ended before the installation was over.</source>
+        <translation>O programa foi encerrado antes do término da instalação.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid, and was accepted here. After the restart the device may refuse it, and then it gets no image.</source>
+        <translation>O certificado de %1 não é válido, mas foi aceito aqui. Após a reinicialização, o dispositivo pode rejeitá-lo e, nesse caso, não obterá a imagem.</translation>
+    </message>
+    <message>
+        <source>The image is not there.</source>
+        <translation>A imagem não está lá.</translation>
+    </message>
+    <message>
+        <source>The server wants a login for the image. The device has none but the one in the repository&apos;s location.</source>
+        <translation>O servidor exige autenticação para a imagem. O dispositivo só tem as credenciais contidas no local do repositório.</translation>
+    </message>
+    <message>
+        <source>The proxy wants a login, which the device does not have.</source>
+        <translation>O proxy exige autenticação, mas o dispositivo não tem as credenciais.</translation>
+    </message>
+    <message>
+        <source>The server has no image there: it answers %1.</source>
+        <translation>O servidor não tem nenhuma imagem nesse local: ele responde %1.</translation>
+    </message>
+    <message>
+        <source>The image cannot be read: %1</source>
+        <translation>Não é possível ler a imagem: %1</translation>
+    </message>
+    <message>
+        <source>The image is empty.</source>
+        <translation>A imagem está vazia.</translation>
+    </message>
+    <message>
+        <source>There is a page in place of the image.</source>
+        <translation>Há uma página da web no lugar da imagem.</translation>
+    </message>
+    <message>
+        <source>The file is no image: it is not packed by gzip.</source>
+        <translation>O arquivo não é uma imagem: não está compactado com gzip.</translation>
+    </message>
+    <message>
+        <source>The image has %1 bytes. Its description says %2.</source>
+        <translation>A imagem tem %1 bytes. Sua descrição indica %2.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; cannot be started: %2</source>
+        <translation>Não é possível iniciar o instalador “%1”: %2</translation>
+    </message>
+    <message>
+        <source>The package is damaged or not complete.</source>
+        <translation>O pacote está danificado ou incompleto.</translation>
+    </message>
+    <message>
+        <source>The installer takes only files whose name ends in &apos;.deb&apos;.</source>
+        <translation>O instalador só aceita arquivos cujo nome termina em “.deb”.</translation>
+    </message>
+    <message>
+        <source>There is no space left for it in %1.</source>
+        <translation>Não há mais espaço livre para a atualização em %1.</translation>
+    </message>
+    <message>
+        <source>The archive is damaged, or refused for what it holds.</source>
+        <translation>O arquivo compactado está danificado ou foi rejeitado por causa do seu conteúdo.</translation>
+    </message>
+    <message>
+        <source>No archive is left to install.</source>
+        <translation>Não restou nenhum arquivo compactado para instalar.</translation>
+    </message>
+    <message>
+        <source>There is no installer for &apos;%1&apos;</source>
+        <translation>Não há instalador para “%1”</translation>
+    </message>
+    <message>
+        <source>It cannot be installed together with the others.</source>
+        <translation>A atualização não pode ser instalada junto com as outras.</translation>
+    </message>
+    <message>
+        <source>The service pack before it was not installed.</source>
+        <translation>O service pack anterior a este não foi instalado.</translation>
+    </message>
+    <message>
+        <source>Could not enter the temporary directory &apos;%1&apos;</source>
+        <translation>Não foi possível entrar no diretório temporário “%1”</translation>
+    </message>
+    <message>
+        <source>Its download was ended.</source>
+        <translation>O download foi encerrado.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 still runs.</source>
+        <translation>A instalação iniciada em %1 ainda está em andamento.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and ended without an error.</source>
+        <translation>A instalação iniciada em %1 continuou sem seu programa e terminou sem erros.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and failed with exit code %2.</source>
+        <translation>A instalação iniciada em %1 continuou sem seu programa e falhou com o código de saída %2.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and was ended by signal %2.</source>
+        <translation>A instalação iniciada em %1 continuou sem seu programa e foi encerrada pelo sinal %2.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 was interrupted. How it ended is not known.</source>
+        <translation>A instalação iniciada em %1 foi interrompida. Não se sabe como ela terminou.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by another process.</source>
+        <translation>O banco de dados de pacotes está bloqueado por outro processo.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by process %1.</source>
+        <translation>O banco de dados de pacotes está bloqueado pelo processo %1.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by %1 (process %2).</source>
+        <translation>O banco de dados de pacotes está bloqueado por %1 (processo %2).</translation>
+    </message>
+    <message>
+        <source>This user may not install updates: &apos;%1&apos; cannot be changed.</source>
+        <translation>Este usuário não pode instalar atualizações: não é possível alterar “%1”.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos;, which installs the updates, is missing.</source>
+        <translation>O programa “%1”, que instala as atualizações, está ausente.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is read-only, and the program &apos;%2&apos;, which unlocks the system, is missing.</source>
+        <translation>“%1” está em modo somente leitura, e o programa “%2”, que desbloqueia o sistema, está ausente.</translation>
+    </message>
+    <message>
+        <source>An earlier installation of packages was interrupted and has to be repaired first (%1).</source>
+        <translation>Uma instalação anterior de pacotes foi interrompida e precisa ser reparada primeiro (%1).</translation>
+    </message>
+    <message>
+        <source>An earlier installation of packages was interrupted and has to be repaired first.</source>
+        <translation>Uma instalação anterior de pacotes foi interrompida e precisa ser reparada primeiro.</translation>
+    </message>
+    <message>
+        <source>An earlier installation is still under way.</source>
+        <translation>Uma instalação anterior ainda está em andamento.</translation>
+    </message>
+    <message>
+        <source>Another installation is under way: %1 (process %2).</source>
+        <translation>Outra instalação está em andamento: %1 (processo %2).</translation>
+    </message>
+    <message>
+        <source>Installation cancelled</source>
+        <translation>Instalação cancelada</translation>
+    </message>
+    <message>
+        <source>The image will be installed at the restart</source>
+        <translation>A imagem será instalada na reinicialização</translation>
+    </message>
+    <message>
+        <source>Installation failed</source>
+        <translation>Falha na instalação</translation>
+    </message>
+    <message>
+        <source>Installed, but the system cannot confirm it</source>
+        <translation>Instalação concluída, mas o sistema não pode confirmá-la</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n updates installed</source>
+        <translation>
+            <numerusform>Atualização instalada: %1 de %n</numerusform>
+            <numerusform>Atualizações instaladas: %1 de %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 update installed</source>
+        <translation>1 atualização instalada</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updates installed</source>
+        <translation>
+            <numerusform>%n atualização instalada</numerusform>
+            <numerusform>%n atualizações instaladas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The installer was ended by a signal.</source>
+        <translation>O instalador foi encerrado por um sinal.</translation>
+    </message>
+    <message>
+        <source>The installer ended with exit code %1.</source>
+        <translation>O instalador terminou com o código de saída %1.</translation>
+    </message>
+    <message>
+        <source>The package database cannot be read.</source>
+        <translation>Não é possível ler o banco de dados de pacotes.</translation>
+    </message>
+    <message>
+        <source>The system does not have it.</source>
+        <translation>O pacote não está presente no sistema.</translation>
+    </message>
+    <message>
+        <source>It is unpacked, but not configured.</source>
+        <translation>O pacote está descompactado, mas não configurado.</translation>
+    </message>
+    <message>
+        <source>The system has version %1.</source>
+        <translation>O sistema tem a versão %1.</translation>
+    </message>
+    <message>
+        <source>The installer left the installed package as it was.</source>
+        <translation>O instalador deixou o pacote instalado como estava.</translation>
+    </message>
+    <message>
+        <source>It was in the list of installed service packs before.</source>
+        <translation>O service pack já estava na lista de service packs instalados.</translation>
+    </message>
+    <message>
+        <source>This system has no list of installed service packs.</source>
+        <translation>Este sistema não tem uma lista de service packs instalados.</translation>
+    </message>
+    <message>
+        <source>It is not in the list of installed service packs.</source>
+        <translation>O service pack não está na lista de service packs instalados.</translation>
+    </message>
+</context>
+<context>
     <name>RVTrustTexts</name>
     <message>
         <source>Signed by %1, valid until %2</source>
         <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
         <translation>Assinado por %1, válido até %2</translation>
-    </message>
-    <message>
-        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
-        <translation>Nada pode ser armazenado aqui: um estado antigo do repositório não é percebido.</translation>
     </message>
     <message>
         <source>Not signed: whoever controls the server controls what is installed</source>
@@ -591,28 +1279,32 @@
         <translation>Somente os arquivos que o editor listou e assinou são oferecidos e instalados.</translation>
     </message>
     <message>
-        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
-        <translation>A definição desta seção não exige assinatura. O editor do repositório pode assiná-lo.</translation>
-    </message>
-    <message>
         <source>This device cannot check the signature of the repository.</source>
         <translation>Este dispositivo não pode verificar a assinatura do repositório.</translation>
-    </message>
-    <message>
-        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
-        <translation>A assinatura do repositório não é válida no momento ou o relógio deste dispositivo está errado.</translation>
     </message>
     <message>
         <source>The repository is not what its publisher signed.</source>
         <translation>O repositório não é o que seu editor assinou.</translation>
     </message>
     <message>
-        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
-        <translation>A imagem é lida uma vez e comparada com a lista do repositório. Isso detecta danos. Após a reinicialização, o dispositivo obtém a imagem novamente e não verifica nada: um servidor mal-intencionado pode então fornecer outra.</translation>
-    </message>
-    <message>
         <source>The list of the repository&apos;s files, or its signature, is missing.</source>
         <translation>A lista de arquivos do repositório ou sua assinatura está ausente.</translation>
+    </message>
+    <message>
+        <source>This device cannot remember the newest list, so it would not notice an outdated one.</source>
+        <translation>Este dispositivo não consegue memorizar a lista mais recente e, portanto, não perceberia uma lista desatualizada.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not require a signature. The publisher can sign the repository.</source>
+        <translation>A definição desta seção não exige assinatura. O editor pode assinar o repositório.</translation>
+    </message>
+    <message>
+        <source>The repository&apos;s signature is not currently valid, or this device&apos;s clock is wrong.</source>
+        <translation>A assinatura do repositório não é válida no momento, ou o relógio deste dispositivo está errado.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the repository&apos;s list, which reveals damage. After the restart, the device fetches the image again and checks nothing: a hostile server can then deliver another one.</source>
+        <translation>A imagem é lida uma vez e comparada com a lista do repositório, o que revela danos. Após a reinicialização, o dispositivo obtém a imagem novamente e não verifica nada: um servidor mal-intencionado pode então fornecer outra.</translation>
     </message>
 </context>
 <context>
@@ -692,6 +1384,11 @@ nova</translation>
         <comment>small word for &apos;not currently installed&apos;</comment>
         <translation>nenhuma</translation>
     </message>
+    <message>
+        <source>not configured</source>
+        <comment>small words for &apos;its installation was not completed&apos;</comment>
+        <translation>não configurada</translation>
+    </message>
 </context>
 <context>
     <name>XFtp</name>
@@ -706,10 +1403,6 @@ nova</translation>
     <message>
         <source>Not connected to an FTP server</source>
         <translation>Não conectado a um servidor FTP</translation>
-    </message>
-    <message>
-        <source>The server names no port for the data connection</source>
-        <translation>O servidor não informa nenhuma porta para a conexão de dados</translation>
     </message>
     <message>
         <source>The data connection cannot be opened: %1</source>
@@ -752,16 +1445,20 @@ nova</translation>
         <translation>O servidor não usa FTP</translation>
     </message>
     <message>
-        <source>The server&apos;s answer is out of place: %1</source>
-        <translation>Resposta inesperada do servidor: %1</translation>
-    </message>
-    <message>
         <source>The server asks for an account, which is not supported</source>
         <translation>O servidor solicita uma conta, o que não é suportado</translation>
     </message>
     <message>
         <source>The server answers %1</source>
         <translation>O servidor responde %1</translation>
+    </message>
+    <message>
+        <source>The server gave no port for the data connection</source>
+        <translation>O servidor não informou nenhuma porta para a conexão de dados</translation>
+    </message>
+    <message>
+        <source>Unexpected answer from the server: %1</source>
+        <translation>Resposta inesperada do servidor: %1</translation>
     </message>
 </context>
 </TS>

@@ -27,10 +27,6 @@
         <translation>Показать подробности</translation>
     </message>
     <message>
-        <source>Shows what the installer writes.</source>
-        <translation>Показывает вывод программы установки.</translation>
-    </message>
-    <message>
         <source>Installer output</source>
         <translation>Вывод программы установки</translation>
     </message>
@@ -75,6 +71,47 @@
     <message>
         <source>Unknown process error.</source>
         <translation>Неизвестная ошибка процесса.</translation>
+    </message>
+    <message>
+        <source>Shows the installer&apos;s output.</source>
+        <translation>Показывает вывод программы установки.</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Результаты</translation>
+    </message>
+    <message>
+        <source>%1 %2: %3</source>
+        <comment>An update, its version, and how it ended.</comment>
+        <translation>%1 %2: %3</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>установлено</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>ошибка</translation>
+    </message>
+    <message>
+        <source>will be installed at the restart</source>
+        <translation>будет установлено при перезагрузке</translation>
+    </message>
+    <message>
+        <source>installed, but the system cannot confirm it</source>
+        <translation>установлено, но система не может это подтвердить</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>пропущено</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>не устанавливалось</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>отменено</translation>
     </message>
 </context>
 <context>
@@ -493,6 +530,114 @@
     </message>
 </context>
 <context>
+    <name>RVHistoryDialog</name>
+    <message>
+        <source>not ended</source>
+        <translation>не завершено</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>установлено</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>ошибка</translation>
+    </message>
+    <message>
+        <source>will be installed at the restart</source>
+        <translation>будет установлено при перезагрузке</translation>
+    </message>
+    <message>
+        <source>installed, not confirmed</source>
+        <translation>установлено, не подтверждено</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>пропущено</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>не устанавливалось</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>отменено</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>неизвестно</translation>
+    </message>
+    <message>
+        <source>Installation History</source>
+        <translation>История установок</translation>
+    </message>
+    <message>
+        <source>Installed updates</source>
+        <translation>Установленные обновления</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Обновление</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>С версии</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>До версии</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Результат</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Пользователь</translation>
+    </message>
+    <message>
+        <source>Only the newest entries are shown.</source>
+        <translation>Показаны только самые новые записи.</translation>
+    </message>
+    <message>
+        <source>Some entries are damaged and cannot be shown.</source>
+        <translation>Некоторые записи повреждены и не могут быть показаны.</translation>
+    </message>
+</context>
+<context>
+    <name>RVHistoryLink</name>
+    <message>
+        <source>Installation &amp;history</source>
+        <translation>&amp;История установок</translation>
+    </message>
+</context>
+<context>
+    <name>RVInstallGate</name>
+    <message numerus="yes">
+        <source>Waiting for %n more second(s)...</source>
+        <translation>
+            <numerusform>Осталось ждать %n секунду…</numerusform>
+            <numerusform>Осталось ждать %n секунды…</numerusform>
+            <numerusform>Осталось ждать %n секунд…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Repairing the package database...</source>
+        <translation>Исправление базы данных пакетов…</translation>
+    </message>
+</context>
+<context>
+    <name>RVLastRun</name>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
     <name>RVMainPage</name>
     <message>
         <source>Ravel</source>
@@ -509,6 +654,29 @@
     <message>
         <source>&lt;p&gt;&lt;b&gt;Ravel&lt;/b&gt; enables the installation of:&lt;ol&gt;  &lt;li&gt;Full software images&lt;/li&gt;  &lt;li&gt;Bundled software service packs&lt;/li&gt;  &lt;li&gt;Individual package updates&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;To customize Ravel, repository locations can be set to look for data in CV&apos;s standard update sites, company or site-specific repositories, or even local storage.&lt;/p&gt;</source>
         <translation>&lt;p&gt;&lt;b&gt;Ravel&lt;/b&gt; позволяет устанавливать:&lt;ol&gt;  &lt;li&gt;полные образы программного обеспечения&lt;/li&gt;  &lt;li&gt;пакеты обновлений (service pack)&lt;/li&gt;  &lt;li&gt;обновления отдельных пакетов&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;Ravel можно настроить: репозитории могут указывать на стандартные сайты обновлений CV, на репозитории компании или подразделения и даже на локальное хранилище.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>RVObstacleBox</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>Исправить</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>The repair did not succeed. These packages can be removed. To install them again instead, cancel and select them.</source>
+        <translation>Исправить не удалось. Эти пакеты можно удалить. Чтобы вместо этого установить их заново, нажмите «Отмена» и выберите их.</translation>
     </message>
 </context>
 <context>
@@ -565,15 +733,538 @@
     </message>
 </context>
 <context>
+    <name>RVSentence</name>
+    <message>
+        <source>%1 cannot be read back: %2</source>
+        <translation>Не удалось прочитать записанный файл %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 does not hold what was written to it.</source>
+        <translation>Содержимое файла %1 отличается от записанного.</translation>
+    </message>
+    <message>
+        <source>Only an administrator may install on this system.</source>
+        <translation>Установка в этой системе разрешена только администратору.</translation>
+    </message>
+    <message>
+        <source>Start the program as root.</source>
+        <translation>Запустите программу от имени root.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is not installed.</source>
+        <translation>Для %1 требуется пакет %2, который не установлен.</translation>
+    </message>
+    <message>
+        <source>Install %2 first, or together with %1.</source>
+        <translation>Сначала установите %2 либо установите его вместе с %1.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, but version %3 is installed.</source>
+        <translation>Для %1 требуется %2, но установлена версия %3.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is not configured.</source>
+        <translation>Для %1 требуется пакет %2, который не настроен.</translation>
+    </message>
+    <message>
+        <source>Install %2 again first.</source>
+        <translation>Сначала переустановите %2.</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is only partly installed.</source>
+        <translation>Для %1 требуется пакет %2, который установлен лишь частично.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be installed beside %2.</source>
+        <translation>Пакеты %1 и %2 не могут быть установлены одновременно.</translation>
+    </message>
+    <message>
+        <source>Install only one of the two, or remove one first.</source>
+        <translation>Установите только один из двух пакетов или сначала удалите один из них.</translation>
+    </message>
+    <message>
+        <source>%1 would make the installed %2 unusable.</source>
+        <translation>Из-за %1 установленный пакет %2 перестанет работать.</translation>
+    </message>
+    <message>
+        <source>Update or remove %2 first.</source>
+        <translation>Сначала обновите или удалите %2.</translation>
+    </message>
+    <message>
+        <source>The package contains &apos;%1&apos;, which belongs to %2.</source>
+        <translation>Содержащийся в пакете путь «%1» принадлежит пакету %2.</translation>
+    </message>
+    <message>
+        <source>Update or remove %2 first, or ask the publisher for a corrected package.</source>
+        <translation>Сначала обновите или удалите %2 либо запросите у издателя исправленный пакет.</translation>
+    </message>
+    <message>
+        <source>There is no space left on the disk.</source>
+        <translation>На диске не осталось места.</translation>
+    </message>
+    <message>
+        <source>Free some space, then try again.</source>
+        <translation>Освободите место и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The system is read-only.</source>
+        <translation>Система доступна только для чтения.</translation>
+    </message>
+    <message>
+        <source>Make it writable, then try again.</source>
+        <translation>Сделайте её доступной для записи и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The system is read-only, and &apos;%1&apos; did not change that.</source>
+        <translation>Система доступна только для чтения, и команда «%1» этого не изменила.</translation>
+    </message>
+    <message>
+        <source>Run &apos;%1&apos; to see why, then try again.</source>
+        <translation>Запустите «%1», чтобы узнать причину, и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The system does not allow &apos;%1&apos; to be changed.</source>
+        <translation>Система не разрешает изменять «%1».</translation>
+    </message>
+    <message>
+        <source>Check the attributes of that file, then try again.</source>
+        <translation>Проверьте атрибуты этого файла и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; is not complete.</source>
+        <translation>Файл пакета «%1» неполный.</translation>
+    </message>
+    <message>
+        <source>Try again; if it happens again, the file in the repository is damaged.</source>
+        <translation>Повторите попытку; если ошибка возникнет снова, значит, файл в репозитории повреждён.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; is damaged.</source>
+        <translation>Файл пакета «%1» повреждён.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a Debian package.</source>
+        <translation>Файл «%1» не является пакетом Debian.</translation>
+    </message>
+    <message>
+        <source>Ask the administrator of the repository to replace it.</source>
+        <translation>Попросите администратора репозитория заменить его.</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; has a format that this system cannot read.</source>
+        <translation>Файл пакета «%1» имеет формат, который эта система не может прочитать.</translation>
+    </message>
+    <message>
+        <source>Update dpkg first, or ask the publisher for a package for this system.</source>
+        <translation>Сначала обновите dpkg либо запросите у издателя пакет для этой системы.</translation>
+    </message>
+    <message>
+        <source>The control data of &apos;%1&apos; are wrong.</source>
+        <translation>Управляющие данные в «%1» неверны.</translation>
+    </message>
+    <message>
+        <source>Ask the publisher for a corrected package.</source>
+        <translation>Запросите у издателя исправленный пакет.</translation>
+    </message>
+    <message>
+        <source>The package is for %1, but this system is %2.</source>
+        <translation>Пакет предназначен для %1, а эта система — %2.</translation>
+    </message>
+    <message>
+        <source>Install the package for %2.</source>
+        <translation>Установите пакет для %2.</translation>
+    </message>
+    <message>
+        <source>Version %2 of %1 is installed, which is newer than %3.</source>
+        <translation>Установлена версия %2 пакета %1, которая новее, чем %3.</translation>
+    </message>
+    <message>
+        <source>Remove %1 first if you want the older version.</source>
+        <translation>Если нужна более старая версия, сначала удалите %1.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 failed with exit code %3.</source>
+        <translation>Сценарий «%2» пакета %1 завершился с ошибкой (код завершения %3).</translation>
+    </message>
+    <message>
+        <source>The installer&apos;s output may say why; if not, ask the publisher of %1.</source>
+        <translation>Причина может быть указана в выводе программы установки; если её там нет, обратитесь к издателю %1.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 was ended by a signal (%3).</source>
+        <translation>Сценарий «%2» пакета %1 был завершён сигналом (%3).</translation>
+    </message>
+    <message>
+        <source>Try again; if it happens again, ask the publisher of %1.</source>
+        <translation>Повторите попытку; если ошибка возникнет снова, обратитесь к издателю %1.</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 may not be run where it lies.</source>
+        <translation>Сценарий «%2» пакета %1 нельзя выполнять там, где он находится.</translation>
+    </message>
+    <message>
+        <source>Check whether the file system of &apos;%3&apos; is mounted with &apos;noexec&apos;.</source>
+        <translation>Проверьте, не подключена ли файловая система, где находится «%3», с параметром «noexec».</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 cannot be run, since its interpreter is missing.</source>
+        <translation>Сценарий «%2» пакета %1 нельзя выполнить: отсутствует его интерпретатор.</translation>
+    </message>
+    <message>
+        <source>Install the program that the script&apos;s first line names, or ask the publisher of %1.</source>
+        <translation>Установите программу, указанную в первой строке сценария, или обратитесь к издателю %1.</translation>
+    </message>
+    <message>
+        <source>A trigger of %1 failed with exit code %2.</source>
+        <translation>Триггер пакета %1 завершился с ошибкой (код завершения %2).</translation>
+    </message>
+    <message>
+        <source>Install %1 again; the installer&apos;s output may say why its trigger failed.</source>
+        <translation>Переустановите %1; причина сбоя триггера может быть указана в выводе программы установки.</translation>
+    </message>
+    <message>
+        <source>%1 is only partly installed.</source>
+        <translation>Пакет %1 установлен лишь частично.</translation>
+    </message>
+    <message>
+        <source>Install %1 again.</source>
+        <translation>Переустановите %1.</translation>
+    </message>
+    <message>
+        <source>The installer gave up after too many errors.</source>
+        <translation>Программа установки прекратила работу: слишком много ошибок.</translation>
+    </message>
+    <message>
+        <source>Install fewer packages at a time.</source>
+        <translation>Устанавливайте меньше пакетов за один раз.</translation>
+    </message>
+    <message>
+        <source>The package database is damaged: &apos;%1&apos; cannot be read.</source>
+        <translation>База данных пакетов повреждена: не удалось прочитать «%1».</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to restore the package database from a copy.</source>
+        <translation>Попросите администратора восстановить базу данных пакетов из копии.</translation>
+    </message>
+    <message>
+        <source>The package database names &apos;%1&apos;, whom this system does not know.</source>
+        <translation>В базе данных пакетов указано имя «%1», неизвестное этой системе.</translation>
+    </message>
+    <message>
+        <source>Add that user or group, or remove the entry with dpkg-statoverride.</source>
+        <translation>Добавьте этого пользователя или эту группу либо удалите запись с помощью dpkg-statoverride.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos; is missing.</source>
+        <translation>Отсутствует программа «%1».</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to install it, then try again.</source>
+        <translation>Попросите администратора установить её, затем повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos; cannot be run.</source>
+        <translation>Не удаётся запустить программу «%1».</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to repair it, then try again.</source>
+        <translation>Попросите администратора исправить её, затем повторите попытку.</translation>
+    </message>
+    <message>
+        <source>No package reached the installer.</source>
+        <translation>Программа установки не получила ни одного пакета.</translation>
+    </message>
+    <message>
+        <source>Try again.</source>
+        <translation>Повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The installer was ended by a signal (%1).</source>
+        <translation>Программа установки была завершена сигналом (%1).</translation>
+    </message>
+    <message>
+        <source>Try again; the system may have been short of memory, or shut down.</source>
+        <translation>Повторите попытку; возможно, системе не хватило памяти или она завершала работу.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; is missing.</source>
+        <translation>Отсутствует программа установки «%1».</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; is not executable.</source>
+        <translation>Программа установки «%1» не является исполняемым файлом.</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to correct its permissions.</source>
+        <translation>Попросите администратора исправить права доступа к ней.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; failed with exit code %2.</source>
+        <translation>Программа установки «%1» завершилась с ошибкой (код завершения %2).</translation>
+    </message>
+    <message>
+        <source>The installer&apos;s output may say why.</source>
+        <translation>Причина может быть указана в выводе программы установки.</translation>
+    </message>
+    <message>
+        <source>The system could not be restarted, so the image is not installed.</source>
+        <translation>Не удалось перезагрузить систему, поэтому образ не установлен.</translation>
+    </message>
+    <message>
+        <source>Find out why &apos;%1&apos; fails, then try again.</source>
+        <translation>Выясните, почему не удаётся выполнить «%1», и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The cause is not known, and the installer wrote nothing.</source>
+        <translation>Причина неизвестна, программа установки ничего не вывела.</translation>
+    </message>
+    <message>
+        <source>The cause is not known; the installer says: %1</source>
+        <translation>Причина неизвестна; сообщение программы установки: %1</translation>
+    </message>
+    <message>
+        <source>Wait until that program has ended, then try again.</source>
+        <translation>Дождитесь завершения этой программы и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>It could not be downloaded: %1</source>
+        <translation>Не удалось загрузить обновление: %1</translation>
+    </message>
+    <message>
+        <source>Not enough space in &apos;%1&apos;: %2 needed, %3 free.</source>
+        <translation>Недостаточно места в «%1»: требуется %2, свободно %3.</translation>
+    </message>
+    <message>
+        <source>The program was ended before the installation was over.</source>
+        <translation>Программа была завершена до окончания установки.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid, and was accepted here. After the restart the device may refuse it, and then it gets no image.</source>
+        <translation>Сертификат %1 недействителен и был принят здесь. После перезагрузки устройство может отклонить его и тогда не получит образ.</translation>
+    </message>
+    <message>
+        <source>The image is not there.</source>
+        <translation>Образ по этому адресу отсутствует.</translation>
+    </message>
+    <message>
+        <source>The server wants a login for the image. The device has none but the one in the repository&apos;s location.</source>
+        <translation>Сервер требует входа для получения образа. У устройства есть только данные для входа из расположения репозитория.</translation>
+    </message>
+    <message>
+        <source>The proxy wants a login, which the device does not have.</source>
+        <translation>Прокси-сервер требует входа, данных для которого у устройства нет.</translation>
+    </message>
+    <message>
+        <source>The server has no image there: it answers %1.</source>
+        <translation>На сервере нет этого образа: он отвечает %1.</translation>
+    </message>
+    <message>
+        <source>The image cannot be read: %1</source>
+        <translation>Не удалось прочитать образ: %1</translation>
+    </message>
+    <message>
+        <source>The image is empty.</source>
+        <translation>Образ пуст.</translation>
+    </message>
+    <message>
+        <source>There is a page in place of the image.</source>
+        <translation>Вместо образа получена веб-страница.</translation>
+    </message>
+    <message>
+        <source>The file is no image: it is not packed by gzip.</source>
+        <translation>Файл не является образом: он не сжат с помощью gzip.</translation>
+    </message>
+    <message>
+        <source>The image has %1 bytes. Its description says %2.</source>
+        <translation>Размер образа в байтах: %1. В его описании указано %2.</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; cannot be started: %2</source>
+        <translation>Не удалось запустить программу установки «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The package is damaged or not complete.</source>
+        <translation>Пакет повреждён или неполный.</translation>
+    </message>
+    <message>
+        <source>The installer takes only files whose name ends in &apos;.deb&apos;.</source>
+        <translation>Программа установки принимает только файлы, имя которых заканчивается на «.deb».</translation>
+    </message>
+    <message>
+        <source>There is no space left for it in %1.</source>
+        <translation>В каталоге %1 не осталось места для этого обновления.</translation>
+    </message>
+    <message>
+        <source>The archive is damaged, or refused for what it holds.</source>
+        <translation>Архив повреждён или отклонён из-за своего содержимого.</translation>
+    </message>
+    <message>
+        <source>No archive is left to install.</source>
+        <translation>Не осталось архивов для установки.</translation>
+    </message>
+    <message>
+        <source>There is no installer for &apos;%1&apos;</source>
+        <translation>Нет программы установки для «%1»</translation>
+    </message>
+    <message>
+        <source>It cannot be installed together with the others.</source>
+        <translation>Это обновление нельзя установить вместе с остальными.</translation>
+    </message>
+    <message>
+        <source>The service pack before it was not installed.</source>
+        <translation>Предыдущий пакет обновления не был установлен.</translation>
+    </message>
+    <message>
+        <source>Could not enter the temporary directory &apos;%1&apos;</source>
+        <translation>Не удалось перейти во временный каталог «%1»</translation>
+    </message>
+    <message>
+        <source>Its download was ended.</source>
+        <translation>Загрузка была прекращена.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 still runs.</source>
+        <translation>Установка, начатая %1, ещё выполняется.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and ended without an error.</source>
+        <translation>Установка, начатая %1, продолжилась без запустившей её программы и завершилась без ошибок.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and failed with exit code %2.</source>
+        <translation>Установка, начатая %1, продолжилась без запустившей её программы и завершилась с ошибкой (код завершения %2).</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and was ended by signal %2.</source>
+        <translation>Установка, начатая %1, продолжилась без запустившей её программы и была завершена сигналом %2.</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 was interrupted. How it ended is not known.</source>
+        <translation>Установка, начатая %1, была прервана. Чем она закончилась, неизвестно.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by another process.</source>
+        <translation>База данных пакетов заблокирована другим процессом.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by process %1.</source>
+        <translation>База данных пакетов заблокирована процессом %1.</translation>
+    </message>
+    <message>
+        <source>The package database is locked by %1 (process %2).</source>
+        <translation>База данных пакетов заблокирована программой %1 (процесс %2).</translation>
+    </message>
+    <message>
+        <source>This user may not install updates: &apos;%1&apos; cannot be changed.</source>
+        <translation>Этот пользователь не может устанавливать обновления: «%1» нельзя изменить.</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos;, which installs the updates, is missing.</source>
+        <translation>Отсутствует программа «%1», которая устанавливает обновления.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is read-only, and the program &apos;%2&apos;, which unlocks the system, is missing.</source>
+        <translation>Каталог «%1» доступен только для чтения, а программа «%2», снимающая блокировку системы, отсутствует.</translation>
+    </message>
+    <message>
+        <source>An earlier installation of packages was interrupted and has to be repaired first (%1).</source>
+        <translation>Предыдущая установка пакетов была прервана; сначала нужно исправить её последствия (%1).</translation>
+    </message>
+    <message>
+        <source>An earlier installation of packages was interrupted and has to be repaired first.</source>
+        <translation>Предыдущая установка пакетов была прервана; сначала нужно исправить её последствия.</translation>
+    </message>
+    <message>
+        <source>An earlier installation is still under way.</source>
+        <translation>Предыдущая установка ещё выполняется.</translation>
+    </message>
+    <message>
+        <source>Another installation is under way: %1 (process %2).</source>
+        <translation>Выполняется другая установка: %1 (процесс %2).</translation>
+    </message>
+    <message>
+        <source>Installation cancelled</source>
+        <translation>Установка отменена</translation>
+    </message>
+    <message>
+        <source>The image will be installed at the restart</source>
+        <translation>Образ будет установлен при перезагрузке</translation>
+    </message>
+    <message>
+        <source>Installation failed</source>
+        <translation>Не удалось выполнить установку</translation>
+    </message>
+    <message>
+        <source>Installed, but the system cannot confirm it</source>
+        <translation>Установлено, но система не может это подтвердить</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n updates installed</source>
+        <translation>
+            <numerusform>Установлено %1 из %n обновления</numerusform>
+            <numerusform>Установлено %1 из %n обновлений</numerusform>
+            <numerusform>Установлено %1 из %n обновлений</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 update installed</source>
+        <translation>Установлено 1 обновление</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updates installed</source>
+        <translation>
+            <numerusform>Установлено %n обновление</numerusform>
+            <numerusform>Установлено %n обновления</numerusform>
+            <numerusform>Установлено %n обновлений</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The installer was ended by a signal.</source>
+        <translation>Программа установки была завершена сигналом.</translation>
+    </message>
+    <message>
+        <source>The installer ended with exit code %1.</source>
+        <translation>Программа установки завершилась с кодом %1.</translation>
+    </message>
+    <message>
+        <source>The package database cannot be read.</source>
+        <translation>Не удалось прочитать базу данных пакетов.</translation>
+    </message>
+    <message>
+        <source>The system does not have it.</source>
+        <translation>Этого пакета нет в системе.</translation>
+    </message>
+    <message>
+        <source>It is unpacked, but not configured.</source>
+        <translation>Пакет распакован, но не настроен.</translation>
+    </message>
+    <message>
+        <source>The system has version %1.</source>
+        <translation>В системе установлена версия %1.</translation>
+    </message>
+    <message>
+        <source>The installer left the installed package as it was.</source>
+        <translation>Программа установки оставила установленный пакет без изменений.</translation>
+    </message>
+    <message>
+        <source>It was in the list of installed service packs before.</source>
+        <translation>Этот пакет обновления уже был в списке установленных.</translation>
+    </message>
+    <message>
+        <source>This system has no list of installed service packs.</source>
+        <translation>В этой системе нет списка установленных пакетов обновления.</translation>
+    </message>
+    <message>
+        <source>It is not in the list of installed service packs.</source>
+        <translation>Этого пакета обновления нет в списке установленных.</translation>
+    </message>
+</context>
+<context>
     <name>RVTrustTexts</name>
     <message>
         <source>Signed by %1, valid until %2</source>
         <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
         <translation>Подпись: %1, действительна до %2</translation>
-    </message>
-    <message>
-        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
-        <translation>Здесь ничего нельзя сохранить: устаревшее состояние репозитория не будет замечено.</translation>
     </message>
     <message>
         <source>Not signed: whoever controls the server controls what is installed</source>
@@ -592,28 +1283,32 @@
         <translation>Предлагаются и устанавливаются только файлы, которые издатель внёс в список и подписал.</translation>
     </message>
     <message>
-        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
-        <translation>Определение этого раздела не требует подписи. Издатель репозитория может его подписать.</translation>
-    </message>
-    <message>
         <source>This device cannot check the signature of the repository.</source>
         <translation>Это устройство не может проверить подпись репозитория.</translation>
-    </message>
-    <message>
-        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
-        <translation>Подпись репозитория сейчас недействительна, или часы этого устройства идут неверно.</translation>
     </message>
     <message>
         <source>The repository is not what its publisher signed.</source>
         <translation>Репозиторий не соответствует тому, что подписал его издатель.</translation>
     </message>
     <message>
-        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
-        <translation>Образ считывается один раз и сравнивается со списком репозитория. Так обнаруживаются повреждения. После перезагрузки устройство снова получает образ и ничего не проверяет: враждебный сервер может передать ему другой.</translation>
-    </message>
-    <message>
         <source>The list of the repository&apos;s files, or its signature, is missing.</source>
         <translation>Отсутствует список файлов репозитория или подпись этого списка.</translation>
+    </message>
+    <message>
+        <source>This device cannot remember the newest list, so it would not notice an outdated one.</source>
+        <translation>Это устройство не может запомнить самый новый список и потому не заметит устаревший.</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not require a signature. The publisher can sign the repository.</source>
+        <translation>Определение этого раздела не требует подписи. Издатель может подписать репозиторий.</translation>
+    </message>
+    <message>
+        <source>The repository&apos;s signature is not currently valid, or this device&apos;s clock is wrong.</source>
+        <translation>Подпись репозитория сейчас недействительна, или часы этого устройства показывают неверное время.</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the repository&apos;s list, which reveals damage. After the restart, the device fetches the image again and checks nothing: a hostile server can then deliver another one.</source>
+        <translation>Образ считывается один раз и сверяется со списком репозитория, что позволяет обнаружить повреждения. После перезагрузки устройство получает образ снова и ничего не проверяет: злонамеренный сервер может передать тогда другой образ.</translation>
     </message>
 </context>
 <context>
@@ -693,6 +1388,11 @@ Version</source>
         <comment>small word for &apos;not currently installed&apos;</comment>
         <translation>нет</translation>
     </message>
+    <message>
+        <source>not configured</source>
+        <comment>small words for &apos;its installation was not completed&apos;</comment>
+        <translation>не настроено</translation>
+    </message>
 </context>
 <context>
     <name>XFtp</name>
@@ -707,10 +1407,6 @@ Version</source>
     <message>
         <source>Not connected to an FTP server</source>
         <translation>Нет соединения с сервером FTP</translation>
-    </message>
-    <message>
-        <source>The server names no port for the data connection</source>
-        <translation>Сервер не указал порт для соединения данных</translation>
     </message>
     <message>
         <source>The data connection cannot be opened: %1</source>
@@ -753,16 +1449,20 @@ Version</source>
         <translation>Сервер не поддерживает FTP</translation>
     </message>
     <message>
-        <source>The server&apos;s answer is out of place: %1</source>
-        <translation>Неожиданный ответ сервера: %1</translation>
-    </message>
-    <message>
         <source>The server asks for an account, which is not supported</source>
         <translation>Сервер запрашивает учётную запись, что не поддерживается</translation>
     </message>
     <message>
         <source>The server answers %1</source>
         <translation>Сервер отвечает %1</translation>
+    </message>
+    <message>
+        <source>The server gave no port for the data connection</source>
+        <translation>Сервер не указал порт для соединения данных</translation>
+    </message>
+    <message>
+        <source>Unexpected answer from the server: %1</source>
+        <translation>Неожиданный ответ сервера: %1</translation>
     </message>
 </context>
 </TS>

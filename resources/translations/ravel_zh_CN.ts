@@ -27,10 +27,6 @@
         <translation>显示详细信息</translation>
     </message>
     <message>
-        <source>Shows what the installer writes.</source>
-        <translation>显示安装程序的输出。</translation>
-    </message>
-    <message>
         <source>Installer output</source>
         <translation>安装程序输出</translation>
     </message>
@@ -75,6 +71,47 @@
     <message>
         <source>Unknown process error.</source>
         <translation>未知的进程错误。</translation>
+    </message>
+    <message>
+        <source>Shows the installer&apos;s output.</source>
+        <translation>显示安装程序的输出。</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>%1 %2: %3</source>
+        <comment>An update, its version, and how it ended.</comment>
+        <translation>%1 %2：%3</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>已安装</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>will be installed at the restart</source>
+        <translation>将在重新启动时安装</translation>
+    </message>
+    <message>
+        <source>installed, but the system cannot confirm it</source>
+        <translation>已安装，但系统无法确认</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>已跳过</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>未尝试</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
     </message>
 </context>
 <context>
@@ -491,6 +528,112 @@
     </message>
 </context>
 <context>
+    <name>RVHistoryDialog</name>
+    <message>
+        <source>not ended</source>
+        <translation>未结束</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>已安装</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>will be installed at the restart</source>
+        <translation>将在重新启动时安装</translation>
+    </message>
+    <message>
+        <source>installed, not confirmed</source>
+        <translation>已安装，未确认</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>已跳过</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>未尝试</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>Installation History</source>
+        <translation>安装历史记录</translation>
+    </message>
+    <message>
+        <source>Installed updates</source>
+        <translation>已安装的更新</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>原版本</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>新版本</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>用户</translation>
+    </message>
+    <message>
+        <source>Only the newest entries are shown.</source>
+        <translation>仅显示最新的条目。</translation>
+    </message>
+    <message>
+        <source>Some entries are damaged and cannot be shown.</source>
+        <translation>部分条目已损坏，无法显示。</translation>
+    </message>
+</context>
+<context>
+    <name>RVHistoryLink</name>
+    <message>
+        <source>Installation &amp;history</source>
+        <translation>安装历史记录(&amp;Y)</translation>
+    </message>
+</context>
+<context>
+    <name>RVInstallGate</name>
+    <message numerus="yes">
+        <source>Waiting for %n more second(s)...</source>
+        <translation>
+            <numerusform>继续等待 %n 秒…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Repairing the package database...</source>
+        <translation>正在修复软件包数据库…</translation>
+    </message>
+</context>
+<context>
+    <name>RVLastRun</name>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
     <name>RVMainPage</name>
     <message>
         <source>Ravel</source>
@@ -507,6 +650,29 @@
     <message>
         <source>&lt;p&gt;&lt;b&gt;Ravel&lt;/b&gt; enables the installation of:&lt;ol&gt;  &lt;li&gt;Full software images&lt;/li&gt;  &lt;li&gt;Bundled software service packs&lt;/li&gt;  &lt;li&gt;Individual package updates&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;To customize Ravel, repository locations can be set to look for data in CV&apos;s standard update sites, company or site-specific repositories, or even local storage.&lt;/p&gt;</source>
         <translation>&lt;p&gt;&lt;b&gt;Ravel&lt;/b&gt; 可以安装：&lt;ol&gt;  &lt;li&gt;完整的软件映像&lt;/li&gt;  &lt;li&gt;捆绑的软件服务包&lt;/li&gt;  &lt;li&gt;单个软件包更新&lt;/li&gt;&lt;/ol&gt;&lt;/p&gt;&lt;p&gt;您可以自定义 Ravel：软件仓库的位置可以设为 CV 的标准更新站点、公司或站点专用的软件仓库，甚至本地存储。&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>RVObstacleBox</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>修复</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>卸载</translation>
+    </message>
+    <message>
+        <source>The repair did not succeed. These packages can be removed. To install them again instead, cancel and select them.</source>
+        <translation>修复未成功。可以卸载这些软件包。如要改为重新安装，请取消，然后选择这些软件包。</translation>
     </message>
 </context>
 <context>
@@ -563,15 +729,534 @@
     </message>
 </context>
 <context>
+    <name>RVSentence</name>
+    <message>
+        <source>%1 cannot be read back: %2</source>
+        <translation>无法回读 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 does not hold what was written to it.</source>
+        <translation>%1 的内容与写入的内容不符。</translation>
+    </message>
+    <message>
+        <source>Only an administrator may install on this system.</source>
+        <translation>只有管理员才能在此系统上进行安装。</translation>
+    </message>
+    <message>
+        <source>Start the program as root.</source>
+        <translation>请以 root 身份启动程序。</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is not installed.</source>
+        <translation>%1 需要 %2，但后者未安装。</translation>
+    </message>
+    <message>
+        <source>Install %2 first, or together with %1.</source>
+        <translation>请先安装 %2，或将其与 %1 一起安装。</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, but version %3 is installed.</source>
+        <translation>%1 需要 %2，但已安装的版本为 %3。</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is not configured.</source>
+        <translation>%1 需要 %2，但后者未配置。</translation>
+    </message>
+    <message>
+        <source>Install %2 again first.</source>
+        <translation>请先重新安装 %2。</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which is only partly installed.</source>
+        <translation>%1 需要 %2，但后者仅部分安装。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be installed beside %2.</source>
+        <translation>%1 不能与 %2 同时安装。</translation>
+    </message>
+    <message>
+        <source>Install only one of the two, or remove one first.</source>
+        <translation>请只安装两者之一，或先卸载其中一个。</translation>
+    </message>
+    <message>
+        <source>%1 would make the installed %2 unusable.</source>
+        <translation>%1 会导致已安装的 %2 无法使用。</translation>
+    </message>
+    <message>
+        <source>Update or remove %2 first.</source>
+        <translation>请先更新或卸载 %2。</translation>
+    </message>
+    <message>
+        <source>The package contains &apos;%1&apos;, which belongs to %2.</source>
+        <translation>软件包中包含属于 %2 的“%1”。</translation>
+    </message>
+    <message>
+        <source>Update or remove %2 first, or ask the publisher for a corrected package.</source>
+        <translation>请先更新或卸载 %2，或向发布者索取更正后的软件包。</translation>
+    </message>
+    <message>
+        <source>There is no space left on the disk.</source>
+        <translation>磁盘上没有剩余空间。</translation>
+    </message>
+    <message>
+        <source>Free some space, then try again.</source>
+        <translation>请释放一些空间，然后重试。</translation>
+    </message>
+    <message>
+        <source>The system is read-only.</source>
+        <translation>系统为只读。</translation>
+    </message>
+    <message>
+        <source>Make it writable, then try again.</source>
+        <translation>请将系统设为可写，然后重试。</translation>
+    </message>
+    <message>
+        <source>The system is read-only, and &apos;%1&apos; did not change that.</source>
+        <translation>系统为只读，“%1”未能改变这一状态。</translation>
+    </message>
+    <message>
+        <source>Run &apos;%1&apos; to see why, then try again.</source>
+        <translation>请运行“%1”查看原因，然后重试。</translation>
+    </message>
+    <message>
+        <source>The system does not allow &apos;%1&apos; to be changed.</source>
+        <translation>系统不允许更改“%1”。</translation>
+    </message>
+    <message>
+        <source>Check the attributes of that file, then try again.</source>
+        <translation>请检查该文件的属性，然后重试。</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; is not complete.</source>
+        <translation>软件包文件“%1”不完整。</translation>
+    </message>
+    <message>
+        <source>Try again; if it happens again, the file in the repository is damaged.</source>
+        <translation>请重试；如果再次发生，则说明软件仓库中的文件已损坏。</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; is damaged.</source>
+        <translation>软件包文件“%1”已损坏。</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a Debian package.</source>
+        <translation>文件“%1”不是 Debian 软件包。</translation>
+    </message>
+    <message>
+        <source>Ask the administrator of the repository to replace it.</source>
+        <translation>请联系软件仓库的管理员替换该文件。</translation>
+    </message>
+    <message>
+        <source>The package file &apos;%1&apos; has a format that this system cannot read.</source>
+        <translation>软件包文件“%1”的格式无法由此系统读取。</translation>
+    </message>
+    <message>
+        <source>Update dpkg first, or ask the publisher for a package for this system.</source>
+        <translation>请先更新 dpkg，或向发布者索取适用于此系统的软件包。</translation>
+    </message>
+    <message>
+        <source>The control data of &apos;%1&apos; are wrong.</source>
+        <translation>“%1”的控制数据有误。</translation>
+    </message>
+    <message>
+        <source>Ask the publisher for a corrected package.</source>
+        <translation>请向发布者索取更正后的软件包。</translation>
+    </message>
+    <message>
+        <source>The package is for %1, but this system is %2.</source>
+        <translation>该软件包适用于 %1，但此系统为 %2。</translation>
+    </message>
+    <message>
+        <source>Install the package for %2.</source>
+        <translation>请安装适用于 %2 的软件包。</translation>
+    </message>
+    <message>
+        <source>Version %2 of %1 is installed, which is newer than %3.</source>
+        <translation>已安装 %1 的版本 %2，该版本比 %3 新。</translation>
+    </message>
+    <message>
+        <source>Remove %1 first if you want the older version.</source>
+        <translation>如果需要旧版本，请先卸载 %1。</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 failed with exit code %3.</source>
+        <translation>%1 的脚本“%2”失败，退出代码为 %3。</translation>
+    </message>
+    <message>
+        <source>The installer&apos;s output may say why; if not, ask the publisher of %1.</source>
+        <translation>安装程序的输出可能会说明原因；如果没有，请咨询 %1 的发布者。</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 was ended by a signal (%3).</source>
+        <translation>%1 的脚本“%2”被信号终止（%3）。</translation>
+    </message>
+    <message>
+        <source>Try again; if it happens again, ask the publisher of %1.</source>
+        <translation>请重试；如果再次发生，请咨询 %1 的发布者。</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 may not be run where it lies.</source>
+        <translation>不允许在当前位置运行 %1 的脚本“%2”。</translation>
+    </message>
+    <message>
+        <source>Check whether the file system of &apos;%3&apos; is mounted with &apos;noexec&apos;.</source>
+        <translation>请检查“%3”所在的文件系统是否以“noexec”选项挂载。</translation>
+    </message>
+    <message>
+        <source>The script &apos;%2&apos; of %1 cannot be run, since its interpreter is missing.</source>
+        <translation>无法运行 %1 的脚本“%2”，因为缺少其解释器。</translation>
+    </message>
+    <message>
+        <source>Install the program that the script&apos;s first line names, or ask the publisher of %1.</source>
+        <translation>请安装脚本第一行中指定的程序，或咨询 %1 的发布者。</translation>
+    </message>
+    <message>
+        <source>A trigger of %1 failed with exit code %2.</source>
+        <translation>%1 的触发器失败，退出代码为 %2。</translation>
+    </message>
+    <message>
+        <source>Install %1 again; the installer&apos;s output may say why its trigger failed.</source>
+        <translation>请重新安装 %1；安装程序的输出可能会说明其触发器失败的原因。</translation>
+    </message>
+    <message>
+        <source>%1 is only partly installed.</source>
+        <translation>%1 仅部分安装。</translation>
+    </message>
+    <message>
+        <source>Install %1 again.</source>
+        <translation>请重新安装 %1。</translation>
+    </message>
+    <message>
+        <source>The installer gave up after too many errors.</source>
+        <translation>错误过多，安装程序已放弃。</translation>
+    </message>
+    <message>
+        <source>Install fewer packages at a time.</source>
+        <translation>请减少每次安装的软件包数量。</translation>
+    </message>
+    <message>
+        <source>The package database is damaged: &apos;%1&apos; cannot be read.</source>
+        <translation>软件包数据库已损坏：无法读取“%1”。</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to restore the package database from a copy.</source>
+        <translation>请联系管理员从副本恢复软件包数据库。</translation>
+    </message>
+    <message>
+        <source>The package database names &apos;%1&apos;, whom this system does not know.</source>
+        <translation>软件包数据库中提到了“%1”，但此系统中不存在该用户或组。</translation>
+    </message>
+    <message>
+        <source>Add that user or group, or remove the entry with dpkg-statoverride.</source>
+        <translation>请添加该用户或组，或使用 dpkg-statoverride 移除该条目。</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos; is missing.</source>
+        <translation>缺少程序“%1”。</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to install it, then try again.</source>
+        <translation>请联系管理员安装该程序，然后重试。</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos; cannot be run.</source>
+        <translation>无法运行程序“%1”。</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to repair it, then try again.</source>
+        <translation>请联系管理员修复该程序，然后重试。</translation>
+    </message>
+    <message>
+        <source>No package reached the installer.</source>
+        <translation>安装程序未收到任何软件包。</translation>
+    </message>
+    <message>
+        <source>Try again.</source>
+        <translation>请重试。</translation>
+    </message>
+    <message>
+        <source>The installer was ended by a signal (%1).</source>
+        <translation>安装程序被信号终止（%1）。</translation>
+    </message>
+    <message>
+        <source>Try again; the system may have been short of memory, or shut down.</source>
+        <translation>请重试；系统当时可能内存不足或正在关机。</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; is missing.</source>
+        <translation>缺少安装程序“%1”。</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; is not executable.</source>
+        <translation>安装程序“%1”不可执行。</translation>
+    </message>
+    <message>
+        <source>Ask an administrator to correct its permissions.</source>
+        <translation>请联系管理员更正其权限。</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; failed with exit code %2.</source>
+        <translation>安装程序“%1”失败，退出代码为 %2。</translation>
+    </message>
+    <message>
+        <source>The installer&apos;s output may say why.</source>
+        <translation>安装程序的输出可能会说明原因。</translation>
+    </message>
+    <message>
+        <source>The system could not be restarted, so the image is not installed.</source>
+        <translation>无法重新启动系统，因此未安装映像。</translation>
+    </message>
+    <message>
+        <source>Find out why &apos;%1&apos; fails, then try again.</source>
+        <translation>请查明“%1”失败的原因，然后重试。</translation>
+    </message>
+    <message>
+        <source>The cause is not known, and the installer wrote nothing.</source>
+        <translation>原因不明，安装程序没有任何输出。</translation>
+    </message>
+    <message>
+        <source>The cause is not known; the installer says: %1</source>
+        <translation>原因不明；安装程序的消息：%1</translation>
+    </message>
+    <message>
+        <source>Wait until that program has ended, then try again.</source>
+        <translation>请等待该程序结束，然后重试。</translation>
+    </message>
+    <message>
+        <source>It could not be downloaded: %1</source>
+        <translation>无法下载：%1</translation>
+    </message>
+    <message>
+        <source>Not enough space in &apos;%1&apos;: %2 needed, %3 free.</source>
+        <translation>“%1”中的空间不足：需要 %2，可用 %3。</translation>
+    </message>
+    <message>
+        <source>The program was ended before the installation was over.</source>
+        <translation>程序在安装完成之前已被终止。</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid, and was accepted here. After the restart the device may refuse it, and then it gets no image.</source>
+        <translation>%1 的证书无效，但已在此处被接受。重新启动后，设备可能会拒绝该证书，从而无法获取映像。</translation>
+    </message>
+    <message>
+        <source>The image is not there.</source>
+        <translation>映像不存在。</translation>
+    </message>
+    <message>
+        <source>The server wants a login for the image. The device has none but the one in the repository&apos;s location.</source>
+        <translation>服务器要求登录才能获取映像。除软件仓库位置中的登录信息外，设备没有其他登录信息。</translation>
+    </message>
+    <message>
+        <source>The proxy wants a login, which the device does not have.</source>
+        <translation>代理要求登录，但设备没有登录信息。</translation>
+    </message>
+    <message>
+        <source>The server has no image there: it answers %1.</source>
+        <translation>服务器的该位置没有映像：服务器应答 %1。</translation>
+    </message>
+    <message>
+        <source>The image cannot be read: %1</source>
+        <translation>无法读取映像：%1</translation>
+    </message>
+    <message>
+        <source>The image is empty.</source>
+        <translation>映像为空。</translation>
+    </message>
+    <message>
+        <source>There is a page in place of the image.</source>
+        <translation>映像所在位置是一个网页。</translation>
+    </message>
+    <message>
+        <source>The file is no image: it is not packed by gzip.</source>
+        <translation>该文件不是映像：未使用 gzip 压缩。</translation>
+    </message>
+    <message>
+        <source>The image has %1 bytes. Its description says %2.</source>
+        <translation>映像大小为 %1 字节。其描述中注明为 %2 字节。</translation>
+    </message>
+    <message>
+        <source>The installer &apos;%1&apos; cannot be started: %2</source>
+        <translation>无法启动安装程序“%1”：%2</translation>
+    </message>
+    <message>
+        <source>The package is damaged or not complete.</source>
+        <translation>软件包已损坏或不完整。</translation>
+    </message>
+    <message>
+        <source>The installer takes only files whose name ends in &apos;.deb&apos;.</source>
+        <translation>安装程序仅接受名称以“.deb”结尾的文件。</translation>
+    </message>
+    <message>
+        <source>There is no space left for it in %1.</source>
+        <translation>%1 中的剩余空间不足。</translation>
+    </message>
+    <message>
+        <source>The archive is damaged, or refused for what it holds.</source>
+        <translation>归档文件已损坏，或因其内容而被拒绝。</translation>
+    </message>
+    <message>
+        <source>No archive is left to install.</source>
+        <translation>没有剩余的归档文件可供安装。</translation>
+    </message>
+    <message>
+        <source>There is no installer for &apos;%1&apos;</source>
+        <translation>没有适用于“%1”的安装程序</translation>
+    </message>
+    <message>
+        <source>It cannot be installed together with the others.</source>
+        <translation>无法与其他更新一起安装。</translation>
+    </message>
+    <message>
+        <source>The service pack before it was not installed.</source>
+        <translation>未安装其前一个服务包。</translation>
+    </message>
+    <message>
+        <source>Could not enter the temporary directory &apos;%1&apos;</source>
+        <translation>无法进入临时目录“%1”</translation>
+    </message>
+    <message>
+        <source>Its download was ended.</source>
+        <translation>下载已中止。</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 still runs.</source>
+        <translation>于 %1 开始的安装仍在运行。</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and ended without an error.</source>
+        <translation>于 %1 开始的安装在其程序退出后继续进行，并已顺利结束。</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and failed with exit code %2.</source>
+        <translation>于 %1 开始的安装在其程序退出后继续进行，但最终失败，退出代码为 %2。</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 went on without its program, and was ended by signal %2.</source>
+        <translation>于 %1 开始的安装在其程序退出后继续进行，随后被信号 %2 终止。</translation>
+    </message>
+    <message>
+        <source>The installation that was started on %1 was interrupted. How it ended is not known.</source>
+        <translation>于 %1 开始的安装被中断。其结果未知。</translation>
+    </message>
+    <message>
+        <source>The package database is locked by another process.</source>
+        <translation>软件包数据库已被另一个进程锁定。</translation>
+    </message>
+    <message>
+        <source>The package database is locked by process %1.</source>
+        <translation>软件包数据库已被进程 %1 锁定。</translation>
+    </message>
+    <message>
+        <source>The package database is locked by %1 (process %2).</source>
+        <translation>软件包数据库已被 %1（进程 %2）锁定。</translation>
+    </message>
+    <message>
+        <source>This user may not install updates: &apos;%1&apos; cannot be changed.</source>
+        <translation>此用户无权安装更新：无法更改“%1”。</translation>
+    </message>
+    <message>
+        <source>The program &apos;%1&apos;, which installs the updates, is missing.</source>
+        <translation>缺少用于安装更新的程序“%1”。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is read-only, and the program &apos;%2&apos;, which unlocks the system, is missing.</source>
+        <translation>“%1”为只读，并且缺少用于解锁系统的程序“%2”。</translation>
+    </message>
+    <message>
+        <source>An earlier installation of packages was interrupted and has to be repaired first (%1).</source>
+        <translation>先前的软件包安装被中断，必须先进行修复（%1）。</translation>
+    </message>
+    <message>
+        <source>An earlier installation of packages was interrupted and has to be repaired first.</source>
+        <translation>先前的软件包安装被中断，必须先进行修复。</translation>
+    </message>
+    <message>
+        <source>An earlier installation is still under way.</source>
+        <translation>先前的安装仍在进行中。</translation>
+    </message>
+    <message>
+        <source>Another installation is under way: %1 (process %2).</source>
+        <translation>另一个安装正在进行中：%1（进程 %2）。</translation>
+    </message>
+    <message>
+        <source>Installation cancelled</source>
+        <translation>安装已取消</translation>
+    </message>
+    <message>
+        <source>The image will be installed at the restart</source>
+        <translation>映像将在重新启动时安装</translation>
+    </message>
+    <message>
+        <source>Installation failed</source>
+        <translation>安装失败</translation>
+    </message>
+    <message>
+        <source>Installed, but the system cannot confirm it</source>
+        <translation>已安装，但系统无法确认</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n updates installed</source>
+        <translation>
+            <numerusform>已安装 %1 个更新，共 %n 个</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 update installed</source>
+        <translation>已安装 1 个更新</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updates installed</source>
+        <translation>
+            <numerusform>已安装 %n 个更新</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The installer was ended by a signal.</source>
+        <translation>安装程序被信号终止。</translation>
+    </message>
+    <message>
+        <source>The installer ended with exit code %1.</source>
+        <translation>安装程序已结束，退出代码为 %1。</translation>
+    </message>
+    <message>
+        <source>The package database cannot be read.</source>
+        <translation>无法读取软件包数据库。</translation>
+    </message>
+    <message>
+        <source>The system does not have it.</source>
+        <translation>系统中没有该软件包。</translation>
+    </message>
+    <message>
+        <source>It is unpacked, but not configured.</source>
+        <translation>已解压，但未配置。</translation>
+    </message>
+    <message>
+        <source>The system has version %1.</source>
+        <translation>系统中的版本为 %1。</translation>
+    </message>
+    <message>
+        <source>The installer left the installed package as it was.</source>
+        <translation>安装程序未更改已安装的软件包。</translation>
+    </message>
+    <message>
+        <source>It was in the list of installed service packs before.</source>
+        <translation>此前已在已安装服务包的列表中。</translation>
+    </message>
+    <message>
+        <source>This system has no list of installed service packs.</source>
+        <translation>此系统没有已安装服务包的列表。</translation>
+    </message>
+    <message>
+        <source>It is not in the list of installed service packs.</source>
+        <translation>不在已安装服务包的列表中。</translation>
+    </message>
+</context>
+<context>
     <name>RVTrustTexts</name>
     <message>
         <source>Signed by %1, valid until %2</source>
         <comment>The arguments are the name of a key&apos;s owner and a date.</comment>
         <translation>由 %1 签名，有效期至 %2</translation>
-    </message>
-    <message>
-        <source>Nothing can be stored here: an old state of the repository is not noticed.</source>
-        <translation>此处无法存储任何内容：软件仓库处于旧状态时不会被察觉。</translation>
     </message>
     <message>
         <source>Not signed: whoever controls the server controls what is installed</source>
@@ -590,28 +1275,32 @@
         <translation>仅提供和安装发布者已列出并签名的文件。</translation>
     </message>
     <message>
-        <source>The definition of this section does not ask for a signature. The publisher of the repository can sign it.</source>
-        <translation>此部分的定义不要求签名。软件仓库的发布者可以为其签名。</translation>
-    </message>
-    <message>
         <source>This device cannot check the signature of the repository.</source>
         <translation>此设备无法检查软件仓库的签名。</translation>
-    </message>
-    <message>
-        <source>The signature of the repository is not valid now, or the clock of this device is wrong.</source>
-        <translation>软件仓库的签名目前无效，或者此设备的时钟不正确。</translation>
     </message>
     <message>
         <source>The repository is not what its publisher signed.</source>
         <translation>软件仓库与其发布者签名的内容不符。</translation>
     </message>
     <message>
-        <source>The image is read once and compared with the list of the repository. This finds damage. The device fetches the image again after the restart and checks nothing: a hostile server can give it another one then.</source>
-        <translation>映像会被读取一次，并与软件仓库的列表进行比较。这样可以发现损坏。重新启动后，设备会再次获取映像，但不做任何检查：此时恶意服务器可以提供另一个映像。</translation>
-    </message>
-    <message>
         <source>The list of the repository&apos;s files, or its signature, is missing.</source>
         <translation>缺少软件仓库的文件列表或其签名。</translation>
+    </message>
+    <message>
+        <source>This device cannot remember the newest list, so it would not notice an outdated one.</source>
+        <translation>此设备无法记住最新的列表，因此无法察觉列表已过时。</translation>
+    </message>
+    <message>
+        <source>The definition of this section does not require a signature. The publisher can sign the repository.</source>
+        <translation>此部分的定义不要求签名。发布者可以为软件仓库签名。</translation>
+    </message>
+    <message>
+        <source>The repository&apos;s signature is not currently valid, or this device&apos;s clock is wrong.</source>
+        <translation>软件仓库的签名当前无效，或此设备的时钟不正确。</translation>
+    </message>
+    <message>
+        <source>The image is read once and compared with the repository&apos;s list, which reveals damage. After the restart, the device fetches the image again and checks nothing: a hostile server can then deliver another one.</source>
+        <translation>映像会被读取一次并与软件仓库的列表进行比对，以便发现损坏。重新启动后，设备会再次获取映像，但不做任何检查：此时恶意服务器可以提供另一个映像。</translation>
     </message>
 </context>
 <context>
@@ -691,6 +1380,11 @@ Version</source>
         <comment>small word for &apos;not currently installed&apos;</comment>
         <translation>无</translation>
     </message>
+    <message>
+        <source>not configured</source>
+        <comment>small words for &apos;its installation was not completed&apos;</comment>
+        <translation>未配置</translation>
+    </message>
 </context>
 <context>
     <name>XFtp</name>
@@ -705,10 +1399,6 @@ Version</source>
     <message>
         <source>Not connected to an FTP server</source>
         <translation>未连接到 FTP 服务器</translation>
-    </message>
-    <message>
-        <source>The server names no port for the data connection</source>
-        <translation>服务器未给出数据连接的端口</translation>
     </message>
     <message>
         <source>The data connection cannot be opened: %1</source>
@@ -751,16 +1441,20 @@ Version</source>
         <translation>服务器不支持 FTP</translation>
     </message>
     <message>
-        <source>The server&apos;s answer is out of place: %1</source>
-        <translation>服务器的应答不合时序：%1</translation>
-    </message>
-    <message>
         <source>The server asks for an account, which is not supported</source>
         <translation>服务器要求提供账户，此功能不受支持</translation>
     </message>
     <message>
         <source>The server answers %1</source>
         <translation>服务器应答 %1</translation>
+    </message>
+    <message>
+        <source>The server gave no port for the data connection</source>
+        <translation>服务器未提供数据连接的端口</translation>
+    </message>
+    <message>
+        <source>Unexpected answer from the server: %1</source>
+        <translation>服务器返回了意外的应答：%1</translation>
     </message>
 </context>
 </TS>
