@@ -13,7 +13,7 @@
 namespace
 {
 
-constexpr int longestTimeout = 1000000;
+constexpr int longestLockWait = 1000000;
 const QString timeoutName = QStringLiteral("lock-timeout");
 
 struct Rendering {
@@ -88,11 +88,11 @@ bool RVCtlObstacle::readTimeout(const RVCtlCall &call, int *seconds, QString *er
     }
     bool isNumber = false;
     *seconds = call.parser.value(timeoutName).toInt(&isNumber);
-    if (isNumber && *seconds >= 0 && *seconds <= longestTimeout) {
+    if (isNumber && *seconds >= 0 && *seconds <= longestLockWait) {
         return true;
     }
     *error = QStringLiteral("--lock-timeout takes a number of seconds, from 0 to %1.")
-                 .arg(longestTimeout);
+                 .arg(longestLockWait);
     return false;
 }
 

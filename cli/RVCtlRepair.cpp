@@ -22,7 +22,7 @@
 namespace
 {
 
-const QString yesOption = QStringLiteral("yes");
+const QString removeOption = QStringLiteral("yes");
 
 /// Runs one step to its end.
 void run(const RVCtlCall &call, const RVPreflight &preflight,
@@ -81,7 +81,7 @@ QStringList namesOf(const QVector<RVPackageDatabase::Package> &packages)
 /// Packages that cannot be configured are removed after a yes.
 bool isRemovalWanted(const RVCtlCall &call, const QStringList &names)
 {
-    if (call.parser.isSet(yesOption)) {
+    if (call.parser.isSet(removeOption)) {
         return true;
     }
     if (!RVCtlQuestion::canAsk()) {
@@ -97,7 +97,7 @@ bool isRemovalWanted(const RVCtlCall &call, const QStringList &names)
 QList<QCommandLineOption> RVCtlCommands::repairOptions()
 {
     return {
-        {yesOption, QStringLiteral("Remove what cannot be repaired without asking.")},
+        {removeOption, QStringLiteral("Remove what cannot be repaired without asking.")},
         RVCtlObstacle::timeoutOption(),
     };
 }

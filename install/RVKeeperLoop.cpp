@@ -23,7 +23,7 @@ namespace
 {
 
 constexpr std::size_t ringSize = RVRunHead::lastBytes;
-constexpr std::size_t pieceSize = 64 * 1024;
+constexpr std::size_t readAtOnce = 64 * 1024;
 constexpr int pipeSize = 1024 * 1024;
 /// A program that the installer leaves running may hold its output open for ever.
 constexpr std::int64_t drainMs = 300;
@@ -210,14 +210,14 @@ public:
         if (m_in < 0) {
             return 0;
         }
-        if (ringSize - m_size < pieceSize) {
-            const std::size_t excess = pieceSize - (ringSize - m_size);
+        if (ringSize - m_size < readAtOnce) {
+            const std::size_t excess = readAtOnce - (ringSize - m_size);
             m_start = (m_start + excess) % ringSize;
             m_size -= excess;
             m_leftOut += excess;
         }
         const std::size_t at = (m_start + m_size) % ringSize;
-        const std::size_t length = std::min(pieceSize, ringSize - at);
+        const std::size_t length = std::min(readAtOnce, ringSize - at);
         const ssize_t got = ::read(m_in, m_room + at, length);
         if (got <= 0) {
             if (got == 0 || (errno != EAGAIN && errno != EINTR)) {

@@ -15,7 +15,7 @@
 namespace
 {
 
-constexpr int longestName = 200;
+constexpr int longestImage = 200;
 
 /// Asks in the language that the application has at the time.
 class Question : public QMessageBox
@@ -47,7 +47,8 @@ private:
         // The catalogues have the texts under the archive that asks.
         setText(QCoreApplication::translate("ArchiveDDImage", "Full-Image install pending."));
         QStringList parts{
-            RVText::shown(m_asked.name + QLatin1Char(' ') + m_asked.version, longestName).trimmed(),
+            RVText::shown(m_asked.name + QLatin1Char(' ') + m_asked.version, longestImage)
+                .trimmed(),
             m_asked.certificateWarning.translated(),
             m_asked.isChecked ? RVTrustTexts::imageNote() : QString(),
             QCoreApplication::translate(

@@ -17,7 +17,7 @@
 namespace
 {
 
-constexpr int longestText = 300;
+constexpr int longestCell = 300;
 
 enum Column {
     Time,
@@ -135,7 +135,7 @@ void RVHistoryDialog::retranslateUi()
     for (int row = 0; row < m_rows.size(); ++row) {
         const Row &entry = m_rows.at(row);
         const auto set = [this, row](Column column, const QString &text) {
-            m_table->item(row, column)->setText(RVText::shown(text, longestText));
+            m_table->item(row, column)->setText(RVText::shown(text, longestCell));
         };
         set(Time, locale.toString(entry.run->begun.toLocalTime(), QLocale::ShortFormat));
         set(Update, entry.item->name);
@@ -144,7 +144,7 @@ void RVHistoryDialog::retranslateUi()
         set(Result, result(entry));
         set(User, entry.run->user);
         m_table->item(row, Result)
-            ->setToolTip(RVText::shown(entry.item->reason, longestText).toHtmlEscaped());
+            ->setToolTip(RVText::shown(entry.item->reason, longestCell).toHtmlEscaped());
     }
     QStringList notes;
     if (m_isCut) {

@@ -56,6 +56,7 @@ RVLastRun::RVLastRun(const RVPaths &paths, QWidget *parent)
 
     m_timer.setInterval(lookMs);
     connect(&m_timer, &QTimer::timeout, this, &RVLastRun::look);
+    retranslateUi();
     showOutput(false);
     look();
 }

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>The file that identifies the installed image, &quot;%1&quot;, cannot be read.</source>
-        <translation>Le fichier qui identifie l’image installée, « %1 », ne peut pas être lu.</translation>
+        <translation>Le fichier qui identifie l’image installée, «&#xa0;%1&#xa0;», ne peut pas être lu.</translation>
     </message>
     <message>
         <source>Information about the installed system cannot be read.</source>

@@ -619,13 +619,13 @@
     <message numerus="yes">
         <source>Waiting for %n more second(s)...</source>
         <translation>
-            <numerusform>Es wird noch %n Sekunde gewartet …</numerusform>
-            <numerusform>Es wird noch %n Sekunden gewartet …</numerusform>
+            <numerusform>Es wird noch %n Sekunde gewartet&#xa0;…</numerusform>
+            <numerusform>Es wird noch %n Sekunden gewartet&#xa0;…</numerusform>
         </translation>
     </message>
     <message>
         <source>Repairing the package database...</source>
-        <translation>Paketdatenbank wird repariert …</translation>
+        <translation>Paketdatenbank wird repariert&#xa0;…</translation>
     </message>
 </context>
 <context>

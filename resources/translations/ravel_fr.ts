@@ -83,7 +83,7 @@
     <message>
         <source>%1 %2: %3</source>
         <comment>An update, its version, and how it ended.</comment>
-        <translation>%1 %2 : %3</translation>
+        <translation>%1 %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>installed</source>
@@ -734,7 +734,7 @@
     <name>RVSentence</name>
     <message>
         <source>%1 cannot be read back: %2</source>
-        <translation>Impossible de relire %1 : %2</translation>
+        <translation>Impossible de relire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 does not hold what was written to it.</source>
@@ -790,7 +790,7 @@
     </message>
     <message>
         <source>The package contains &apos;%1&apos;, which belongs to %2.</source>
-        <translation>Le paquet contient « %1 », qui appartient à %2.</translation>
+        <translation>Le paquet contient «&#xa0;%1&#xa0;», qui appartient à %2.</translation>
     </message>
     <message>
         <source>Update or remove %2 first, or ask the publisher for a corrected package.</source>
@@ -814,15 +814,15 @@
     </message>
     <message>
         <source>The system is read-only, and &apos;%1&apos; did not change that.</source>
-        <translation>Le système est en lecture seule, et « %1 » n’y a rien changé.</translation>
+        <translation>Le système est en lecture seule, et «&#xa0;%1&#xa0;» n’y a rien changé.</translation>
     </message>
     <message>
         <source>Run &apos;%1&apos; to see why, then try again.</source>
-        <translation>Exécutez « %1 » pour en connaître la raison, puis réessayez.</translation>
+        <translation>Exécutez «&#xa0;%1&#xa0;» pour en connaître la raison, puis réessayez.</translation>
     </message>
     <message>
         <source>The system does not allow &apos;%1&apos; to be changed.</source>
-        <translation>Le système ne permet pas de modifier « %1 ».</translation>
+        <translation>Le système ne permet pas de modifier «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Check the attributes of that file, then try again.</source>
@@ -830,19 +830,19 @@
     </message>
     <message>
         <source>The package file &apos;%1&apos; is not complete.</source>
-        <translation>Le fichier de paquet « %1 » est incomplet.</translation>
+        <translation>Le fichier de paquet «&#xa0;%1&#xa0;» est incomplet.</translation>
     </message>
     <message>
         <source>Try again; if it happens again, the file in the repository is damaged.</source>
-        <translation>Réessayez ; si le problème persiste, le fichier du dépôt est endommagé.</translation>
+        <translation>Réessayez&#x202f;; si le problème persiste, le fichier du dépôt est endommagé.</translation>
     </message>
     <message>
         <source>The package file &apos;%1&apos; is damaged.</source>
-        <translation>Le fichier de paquet « %1 » est endommagé.</translation>
+        <translation>Le fichier de paquet «&#xa0;%1&#xa0;» est endommagé.</translation>
     </message>
     <message>
         <source>The file &apos;%1&apos; is not a Debian package.</source>
-        <translation>Le fichier « %1 » n’est pas un paquet Debian.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’est pas un paquet Debian.</translation>
     </message>
     <message>
         <source>Ask the administrator of the repository to replace it.</source>
@@ -850,7 +850,7 @@
     </message>
     <message>
         <source>The package file &apos;%1&apos; has a format that this system cannot read.</source>
-        <translation>Le fichier de paquet « %1 » est dans un format que ce système ne peut pas lire.</translation>
+        <translation>Le fichier de paquet «&#xa0;%1&#xa0;» est dans un format que ce système ne peut pas lire.</translation>
     </message>
     <message>
         <source>Update dpkg first, or ask the publisher for a package for this system.</source>
@@ -858,7 +858,7 @@
     </message>
     <message>
         <source>The control data of &apos;%1&apos; are wrong.</source>
-        <translation>Les données de contrôle de « %1 » sont incorrectes.</translation>
+        <translation>Les données de contrôle de «&#xa0;%1&#xa0;» sont incorrectes.</translation>
     </message>
     <message>
         <source>Ask the publisher for a corrected package.</source>
@@ -874,7 +874,7 @@
     </message>
     <message>
         <source>Version %2 of %1 is installed, which is newer than %3.</source>
-        <translation>La version %2 de %1 est installée ; elle est plus récente que %3.</translation>
+        <translation>La version %2 de %1 est installée&#x202f;; elle est plus récente que %3.</translation>
     </message>
     <message>
         <source>Remove %1 first if you want the older version.</source>
@@ -882,31 +882,31 @@
     </message>
     <message>
         <source>The script &apos;%2&apos; of %1 failed with exit code %3.</source>
-        <translation>Le script « %2 » de %1 a échoué avec le code de sortie %3.</translation>
+        <translation>Le script «&#xa0;%2&#xa0;» de %1 a échoué avec le code de sortie %3.</translation>
     </message>
     <message>
         <source>The installer&apos;s output may say why; if not, ask the publisher of %1.</source>
-        <translation>La sortie du programme d’installation en indique peut-être la raison ; sinon, adressez-vous à l’éditeur de %1.</translation>
+        <translation>La sortie du programme d’installation en indique peut-être la raison&#x202f;; sinon, adressez-vous à l’éditeur de %1.</translation>
     </message>
     <message>
         <source>The script &apos;%2&apos; of %1 was ended by a signal (%3).</source>
-        <translation>Le script « %2 » de %1 a été arrêté par un signal (%3).</translation>
+        <translation>Le script «&#xa0;%2&#xa0;» de %1 a été arrêté par un signal (%3).</translation>
     </message>
     <message>
         <source>Try again; if it happens again, ask the publisher of %1.</source>
-        <translation>Réessayez ; si le problème persiste, adressez-vous à l’éditeur de %1.</translation>
+        <translation>Réessayez&#x202f;; si le problème persiste, adressez-vous à l’éditeur de %1.</translation>
     </message>
     <message>
         <source>The script &apos;%2&apos; of %1 may not be run where it lies.</source>
-        <translation>Le script « %2 » de %1 ne peut pas être exécuté à son emplacement.</translation>
+        <translation>Le script «&#xa0;%2&#xa0;» de %1 ne peut pas être exécuté à son emplacement.</translation>
     </message>
     <message>
         <source>Check whether the file system of &apos;%3&apos; is mounted with &apos;noexec&apos;.</source>
-        <translation>Vérifiez si le système de fichiers de « %3 » est monté avec « noexec ».</translation>
+        <translation>Vérifiez si le système de fichiers de «&#xa0;%3&#xa0;» est monté avec «&#xa0;noexec&#xa0;».</translation>
     </message>
     <message>
         <source>The script &apos;%2&apos; of %1 cannot be run, since its interpreter is missing.</source>
-        <translation>Le script « %2 » de %1 ne peut pas être exécuté, car son interpréteur est absent.</translation>
+        <translation>Le script «&#xa0;%2&#xa0;» de %1 ne peut pas être exécuté, car son interpréteur est absent.</translation>
     </message>
     <message>
         <source>Install the program that the script&apos;s first line names, or ask the publisher of %1.</source>
@@ -918,7 +918,7 @@
     </message>
     <message>
         <source>Install %1 again; the installer&apos;s output may say why its trigger failed.</source>
-        <translation>Réinstallez %1 ; la sortie du programme d’installation indique peut-être pourquoi son déclencheur a échoué.</translation>
+        <translation>Réinstallez %1&#x202f;; la sortie du programme d’installation indique peut-être pourquoi son déclencheur a échoué.</translation>
     </message>
     <message>
         <source>%1 is only partly installed.</source>
@@ -938,7 +938,7 @@
     </message>
     <message>
         <source>The package database is damaged: &apos;%1&apos; cannot be read.</source>
-        <translation>La base de données des paquets est endommagée : impossible de lire « %1 ».</translation>
+        <translation>La base de données des paquets est endommagée&#xa0;: impossible de lire «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Ask an administrator to restore the package database from a copy.</source>
@@ -946,7 +946,7 @@
     </message>
     <message>
         <source>The package database names &apos;%1&apos;, whom this system does not know.</source>
-        <translation>La base de données des paquets mentionne « %1 », un utilisateur ou un groupe que ce système ne connaît pas.</translation>
+        <translation>La base de données des paquets mentionne «&#xa0;%1&#xa0;», un utilisateur ou un groupe que ce système ne connaît pas.</translation>
     </message>
     <message>
         <source>Add that user or group, or remove the entry with dpkg-statoverride.</source>
@@ -954,7 +954,7 @@
     </message>
     <message>
         <source>The program &apos;%1&apos; is missing.</source>
-        <translation>Le programme « %1 » est absent.</translation>
+        <translation>Le programme «&#xa0;%1&#xa0;» est absent.</translation>
     </message>
     <message>
         <source>Ask an administrator to install it, then try again.</source>
@@ -962,7 +962,7 @@
     </message>
     <message>
         <source>The program &apos;%1&apos; cannot be run.</source>
-        <translation>Le programme « %1 » ne peut pas être exécuté.</translation>
+        <translation>Le programme «&#xa0;%1&#xa0;» ne peut pas être exécuté.</translation>
     </message>
     <message>
         <source>Ask an administrator to repair it, then try again.</source>
@@ -982,15 +982,15 @@
     </message>
     <message>
         <source>Try again; the system may have been short of memory, or shut down.</source>
-        <translation>Réessayez ; le système a peut-être manqué de mémoire ou été arrêté.</translation>
+        <translation>Réessayez&#x202f;; le système a peut-être manqué de mémoire ou été arrêté.</translation>
     </message>
     <message>
         <source>The installer &apos;%1&apos; is missing.</source>
-        <translation>Le programme d’installation « %1 » est absent.</translation>
+        <translation>Le programme d’installation «&#xa0;%1&#xa0;» est absent.</translation>
     </message>
     <message>
         <source>The installer &apos;%1&apos; is not executable.</source>
-        <translation>Le programme d’installation « %1 » n’est pas exécutable.</translation>
+        <translation>Le programme d’installation «&#xa0;%1&#xa0;» n’est pas exécutable.</translation>
     </message>
     <message>
         <source>Ask an administrator to correct its permissions.</source>
@@ -998,7 +998,7 @@
     </message>
     <message>
         <source>The installer &apos;%1&apos; failed with exit code %2.</source>
-        <translation>Le programme d’installation « %1 » a échoué avec le code de sortie %2.</translation>
+        <translation>Le programme d’installation «&#xa0;%1&#xa0;» a échoué avec le code de sortie %2.</translation>
     </message>
     <message>
         <source>The installer&apos;s output may say why.</source>
@@ -1006,11 +1006,11 @@
     </message>
     <message>
         <source>The system could not be restarted, so the image is not installed.</source>
-        <translation>Le système n’a pas pu être redémarré ; l’image n’est donc pas installée.</translation>
+        <translation>Le système n’a pas pu être redémarré&#x202f;; l’image n’est donc pas installée.</translation>
     </message>
     <message>
         <source>Find out why &apos;%1&apos; fails, then try again.</source>
-        <translation>Déterminez pourquoi « %1 » échoue, puis réessayez.</translation>
+        <translation>Déterminez pourquoi «&#xa0;%1&#xa0;» échoue, puis réessayez.</translation>
     </message>
     <message>
         <source>The cause is not known, and the installer wrote nothing.</source>
@@ -1018,7 +1018,7 @@
     </message>
     <message>
         <source>The cause is not known; the installer says: %1</source>
-        <translation>La cause est inconnue ; le programme d’installation indique : %1</translation>
+        <translation>La cause est inconnue&#x202f;; le programme d’installation indique&#xa0;: %1</translation>
     </message>
     <message>
         <source>Wait until that program has ended, then try again.</source>
@@ -1026,11 +1026,11 @@
     </message>
     <message>
         <source>It could not be downloaded: %1</source>
-        <translation>Échec du téléchargement : %1</translation>
+        <translation>Échec du téléchargement&#xa0;: %1</translation>
     </message>
     <message>
         <source>Not enough space in &apos;%1&apos;: %2 needed, %3 free.</source>
-        <translation>Espace insuffisant dans « %1 » : %2 nécessaires, %3 libres.</translation>
+        <translation>Espace insuffisant dans «&#xa0;%1&#xa0;»&#xa0;: %2 nécessaires, %3 libres.</translation>
     </message>
     <message>
         <source>The program was ended before the installation was over.</source>
@@ -1038,7 +1038,7 @@
     </message>
     <message>
         <source>The certificate of %1 is not valid, and was accepted here. After the restart the device may refuse it, and then it gets no image.</source>
-        <translation>Le certificat de %1 n’est pas valable et a été accepté ici. Après le redémarrage, l’appareil peut le refuser ; il n’obtient alors aucune image.</translation>
+        <translation>Le certificat de %1 n’est pas valable et a été accepté ici. Après le redémarrage, l’appareil peut le refuser&#x202f;; il n’obtient alors aucune image.</translation>
     </message>
     <message>
         <source>The image is not there.</source>
@@ -1054,11 +1054,11 @@
     </message>
     <message>
         <source>The server has no image there: it answers %1.</source>
-        <translation>Le serveur n’a pas d’image à cet endroit : il répond %1.</translation>
+        <translation>Le serveur n’a pas d’image à cet endroit&#xa0;: il répond %1.</translation>
     </message>
     <message>
         <source>The image cannot be read: %1</source>
-        <translation>Impossible de lire l’image : %1</translation>
+        <translation>Impossible de lire l’image&#xa0;: %1</translation>
     </message>
     <message>
         <source>The image is empty.</source>
@@ -1070,7 +1070,7 @@
     </message>
     <message>
         <source>The file is no image: it is not packed by gzip.</source>
-        <translation>Le fichier n’est pas une image : il n’est pas compressé avec gzip.</translation>
+        <translation>Le fichier n’est pas une image&#xa0;: il n’est pas compressé avec gzip.</translation>
     </message>
     <message>
         <source>The image has %1 bytes. Its description says %2.</source>
@@ -1078,7 +1078,7 @@
     </message>
     <message>
         <source>The installer &apos;%1&apos; cannot be started: %2</source>
-        <translation>Impossible de démarrer le programme d’installation « %1 » : %2</translation>
+        <translation>Impossible de démarrer le programme d’installation «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>The package is damaged or not complete.</source>
@@ -1086,7 +1086,7 @@
     </message>
     <message>
         <source>The installer takes only files whose name ends in &apos;.deb&apos;.</source>
-        <translation>Le programme d’installation n’accepte que les fichiers dont le nom se termine par « .deb ».</translation>
+        <translation>Le programme d’installation n’accepte que les fichiers dont le nom se termine par «&#xa0;.deb&#xa0;».</translation>
     </message>
     <message>
         <source>There is no space left for it in %1.</source>
@@ -1102,7 +1102,7 @@
     </message>
     <message>
         <source>There is no installer for &apos;%1&apos;</source>
-        <translation>Il n’y a pas de programme d’installation pour « %1 »</translation>
+        <translation>Il n’y a pas de programme d’installation pour «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>It cannot be installed together with the others.</source>
@@ -1114,7 +1114,7 @@
     </message>
     <message>
         <source>Could not enter the temporary directory &apos;%1&apos;</source>
-        <translation>Impossible d’accéder au répertoire temporaire « %1 »</translation>
+        <translation>Impossible d’accéder au répertoire temporaire «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Its download was ended.</source>
@@ -1154,15 +1154,15 @@
     </message>
     <message>
         <source>This user may not install updates: &apos;%1&apos; cannot be changed.</source>
-        <translation>Cet utilisateur n’est pas autorisé à installer des mises à jour : « %1 » ne peut pas être modifié.</translation>
+        <translation>Cet utilisateur n’est pas autorisé à installer des mises à jour&#xa0;: «&#xa0;%1&#xa0;» ne peut pas être modifié.</translation>
     </message>
     <message>
         <source>The program &apos;%1&apos;, which installs the updates, is missing.</source>
-        <translation>Le programme « %1 », qui installe les mises à jour, est absent.</translation>
+        <translation>Le programme «&#xa0;%1&#xa0;», qui installe les mises à jour, est absent.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is read-only, and the program &apos;%2&apos;, which unlocks the system, is missing.</source>
-        <translation>« %1 » est en lecture seule, et le programme « %2 », qui déverrouille le système, est absent.</translation>
+        <translation>«&#xa0;%1&#xa0;» est en lecture seule, et le programme «&#xa0;%2&#xa0;», qui déverrouille le système, est absent.</translation>
     </message>
     <message>
         <source>An earlier installation of packages was interrupted and has to be repaired first (%1).</source>
@@ -1178,7 +1178,7 @@
     </message>
     <message>
         <source>Another installation is under way: %1 (process %2).</source>
-        <translation>Une autre installation est en cours : %1 (processus %2).</translation>
+        <translation>Une autre installation est en cours&#xa0;: %1 (processus %2).</translation>
     </message>
     <message>
         <source>Installation cancelled</source>
@@ -1199,8 +1199,8 @@
     <message numerus="yes">
         <source>%1 of %n updates installed</source>
         <translation>
-            <numerusform>Mise à jour installée : %1 sur %n</numerusform>
-            <numerusform>Mises à jour installées : %1 sur %n</numerusform>
+            <numerusform>Mise à jour installée&#xa0;: %1 sur %n</numerusform>
+            <numerusform>Mises à jour installées&#xa0;: %1 sur %n</numerusform>
         </translation>
     </message>
     <message>
@@ -1292,7 +1292,7 @@
     </message>
     <message>
         <source>This device cannot remember the newest list, so it would not notice an outdated one.</source>
-        <translation>Cet appareil ne peut pas mémoriser la liste la plus récente ; il ne remarquerait donc pas une liste obsolète.</translation>
+        <translation>Cet appareil ne peut pas mémoriser la liste la plus récente&#x202f;; il ne remarquerait donc pas une liste obsolète.</translation>
     </message>
     <message>
         <source>The definition of this section does not require a signature. The publisher can sign the repository.</source>
@@ -1304,7 +1304,7 @@
     </message>
     <message>
         <source>The image is read once and compared with the repository&apos;s list, which reveals damage. After the restart, the device fetches the image again and checks nothing: a hostile server can then deliver another one.</source>
-        <translation>L’image est lue une fois et comparée à la liste du dépôt, ce qui révèle d’éventuels dommages. Après le redémarrage, l’appareil récupère de nouveau l’image sans rien vérifier : un serveur malveillant peut alors en fournir une autre.</translation>
+        <translation>L’image est lue une fois et comparée à la liste du dépôt, ce qui révèle d’éventuels dommages. Après le redémarrage, l’appareil récupère de nouveau l’image sans rien vérifier&#xa0;: un serveur malveillant peut alors en fournir une autre.</translation>
     </message>
 </context>
 <context>
@@ -1458,7 +1458,7 @@ proposée</translation>
     </message>
     <message>
         <source>Unexpected answer from the server: %1</source>
-        <translation>Réponse inattendue du serveur : %1</translation>
+        <translation>Réponse inattendue du serveur&#xa0;: %1</translation>
     </message>
 </context>
 </TS>

@@ -763,7 +763,8 @@ void tst_Trust::proxyCancelled()
     QCOMPARE(requestsSoFar(proxy), before);
     QCOMPARE(rows(frame), 0);
     QCOMPARE(requestsSoFar(server), QStringList());
-    QVERIFY(sentences("Authentication against the proxy server failed for URI") >= 1);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        sentences("Authentication against the proxy server failed for URI") >= 1, patience);
 }
 
 void tst_Trust::proxyOfTwoSections()
