@@ -29,7 +29,12 @@ def compile_arguments(build):
         for entry in json.load(file):
             arguments = shlex.split(entry["command"])
             start = next(i for i, argument in enumerate(arguments) if argument.endswith("++"))
-            yield entry["file"], arguments[start:arguments.index("-o")]
+            arguments = arguments[start:arguments.index("-o")]
+            # Those of g++ are none for clang.
+            if "-include" in arguments:
+                at = arguments.index("-include")
+                del arguments[at:at + 2]
+            yield entry["file"], arguments
 
 
 class Unit:
