@@ -9,7 +9,6 @@
 
 #include <QApplication>
 #include <QEventLoop>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTextCursor>
 #include <QTextEdit>
@@ -55,19 +54,25 @@ void throughHtml(int lines)
 /// 200 MB in lines.
 const QString flood = QStringLiteral("seq 23500000");
 
-/// An installer that writes the flood, and one empty package for it.
+/// A system whose installer writes the flood, and a package "a.deb" for it.
 RVPaths floodingSystem(const QString &directory)
 {
     RVPaths paths = RVPaths::under(directory);
     paths.rootLog = paths.userLog = directory + QStringLiteral("/log");
     paths.shell = directory + QStringLiteral("/installer");
-    for (const auto &[name, text] :
-         {std::pair(paths.shell, QStringLiteral("#!/bin/sh\nexec %1\n").arg(flood)),
-          std::pair(directory + QStringLiteral("/a.deb"), QStringLiteral("a"))}) {
-        QFile file(name);
-        file.open(QIODevice::WriteOnly);
-        file.write(text.toUtf8());
-        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QProcess make;
+    make.setWorkingDirectory(directory);
+    make.start(QStringLiteral("/bin/sh"),
+               {QStringLiteral("-ec"),
+                QStringLiteral("mkdir -p tree/DEBIAN; chmod 755 tree/DEBIAN\n"
+                               "printf 'Package: a\\nVersion: 1\\nArchitecture: all\\n"
+                               "Maintainer: A <a@example.org>\\nDescription: a\\n'"
+                               " >tree/DEBIAN/control\n"
+                               "dpkg-deb --build tree a.deb >/dev/null\n"
+                               "printf '#!/bin/sh\\nexec %1\\n' >installer; chmod 755 installer")
+                    .arg(flood)});
+    if (!make.waitForFinished(-1) || make.exitCode() != 0) {
+        qFatal("no package: %s", make.readAllStandardError().constData());
     }
     return paths;
 }
@@ -87,6 +92,9 @@ void installFlood(Watch &&watch, End &&end)
     procedure.start();
     loop.exec();
     end();
+    if (!procedure.result().isInstallerStarted || procedure.exitCode() != 0) {
+        qFatal("the installer did not run");
+    }
 }
 
 void floodTheWindow()

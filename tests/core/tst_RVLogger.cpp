@@ -569,7 +569,7 @@ void tst_RVLogger::placeFollowsTheUser()
     QVERIFY(QFile::exists(dir + QStringLiteral("/user.log")));
     QVERIFY(!QFile::exists(dir + QStringLiteral("/root.log")));
     if (::getuid() != 0) {
-        QSKIP("not root");
+        QSKIP("only root writes to the log of root");
     }
     const QString previous = QDir::currentPath();
     QVERIFY(QDir::setCurrent(dir));

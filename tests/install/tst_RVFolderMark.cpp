@@ -121,7 +121,7 @@ void tst_RVFolderMark::leavesAlone()
     QByteArray path = QFile::encodeName(file(mark));
     if (what.contains(QLatin1String("owner"))) {
         if (::geteuid() != 0) {
-            QSKIP("Only root can give a file away");
+            QSKIP("only root can give a file away");
         }
         if (what == QLatin1String("another owner")) {
             path = QFile::encodeName(file(QStringLiteral("below/plume-1")));
